@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+
+/// A colour as three floats, linear, usually 0 to 1; nothing clamps them.
+struct nyxColor {
+    float r = 0, g = 0, b = 0;
+};
+
+/// A colour with alpha.
+struct nyxColor_rgba {
+    float r = 0, g = 0, b = 0, a = 0;
+};
+
+/// The kinds of colour records that can be listed and created.
+struct nyxColor_extended {
+    enum ColorType : std::uint32_t {
+        PlainColor = 1, ///< a single colour
+        MultiColor = 2, ///< an ordered list of colours of which one is active
+    };
+};

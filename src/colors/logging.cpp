@@ -1,0 +1,3 @@
+#include "colors/logging.h"
+
+Q_LOGGING_CATEGORY(zsgColors, "zsg.colors")
