@@ -7,8 +7,8 @@
 #include <vector>
 
 /// The rows of the performance tables. A *case* is one workload; its *contestants* are this
-/// library, peers doing the same job, and a floor. A target bounds the ratio of the library's median
-/// to a contestant's.
+/// library, peers doing the same job, and a floor. A target bounds the ratio of the library's
+/// median to a contestant's.
 namespace bench {
 
 /// The contestant name of this library.
@@ -25,9 +25,9 @@ benchmark::internal::Benchmark* contestant(std::string const& row, std::string c
 struct Target {
     std::string row;
     std::string workload;
-    std::string against;          ///< contestant to compare with
-    double atMost = 1;            ///< ratio that must hold
-    std::string otherWorkload{};  ///< compare with that contestant of another workload of the row
+    std::string against;         ///< contestant to compare with
+    double atMost = 1;           ///< ratio that must hold
+    std::string otherWorkload{}; ///< compare with that contestant of another workload of the row
 };
 
 std::vector<Target>& targets();

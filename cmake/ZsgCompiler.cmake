@@ -9,6 +9,7 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
 if(PROJECT_IS_TOP_LEVEL)
     set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+    set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/../lib")
     # One place for everything that is loaded, so that programs start from the build folder.
     set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
     set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)

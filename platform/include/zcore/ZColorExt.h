@@ -34,7 +34,7 @@ public:
     /// Plain, one element without id or name.
     ZColorExt(float r, float g, float b, float a = 1.0f);
     explicit ZColorExt(nyxColor const& color);
-    /// Plain, one element; the colour's name is also the element's.
+    /// Plain, one element; both take the colour's name.
     explicit ZColorExt(ZColor const& color);
     ZColorExt(ZColorExt const&);
     ZColorExt(ZColorExt&&) noexcept;
@@ -74,8 +74,9 @@ public:
     [[nodiscard]] ZColor const& getActive() const;
     [[nodiscard]] nyxColor_rgba rgba() const;
     [[nodiscard]] nyx::ColorId getActiveSubColorId() const;
-    /// Changes the active element's value (makes one when there is none). Replace also takes the
-    /// name, for the element and, on a plain colour, for the colour.
+    /// Changes the active element's value (makes one when there are none); ignored when the active
+    /// index is out of range. Replace also takes the name, for the element and, on a plain colour,
+    /// for the colour.
     void setColor(ZColor const& color, NameOp op);
     explicit operator ZColor() const { return getActive(); }
 
@@ -83,7 +84,7 @@ public:
     void detach();
     /// A copy that shares nothing with this value.
     [[nodiscard]] ZColorExt detachedClone() const;
-    /// Takes over everything that `other` holds.
+    /// Takes over everything that `other` holds, revision included.
     void copyDataFrom(ZColorExt const& other);
 
     /// Everything but the revision.

@@ -19,5 +19,7 @@ public:
     ~ZMainThreadCallback() override;
 
 private:
+    void run();
+
     std::function<void()> function_;
 };

@@ -12,9 +12,14 @@ class ZUndoCommand;
 /// The user's history of edits. Main thread only. Entries are single commands or macros; entries
 /// below index() are done, those from index() on are undone and can be redone.
 ///
-/// While a command runs its undo() or redo(), every push, undo, redo, goTo and clear is refused (a
-/// pushed command is deleted), and so are undo, redo, goTo and clear while a macro is open. A refusal
-/// writes one warning and returns false.
+/// While the stack runs code of a command (undo, redo, mergeWith, destructor), every push, macro
+/// begin or end, undo, redo, goTo, clear and setClean is refused (a pushed command is deleted). While
+/// a macro is open, undo, redo, goTo, clear and setClean are. A refusal changes nothing, writes one
+/// warning to the logging category "zcore.undo" and yields false where there is a result.
+///
+/// What a command throws passes through to the caller. The stack stays usable: a command that throws
+/// in push() counts as failed there; an entry that throws in undo() or redo() moves the index as one
+/// that fails does.
 class ZCORE_EXPORT ZUndoStack {
 public:
     ZUndoStack();
@@ -24,13 +29,14 @@ public:
 
     /// Takes ownership of `command` and runs its redo(). When that fails the command is deleted, the
     /// stack stays as it was, and the result is false. Otherwise what could be redone is dropped, and
-    /// the command is offered to the one before it on the same level (mergeWith; never across a clean
-    /// mark or into a macro): merged it is deleted, else it becomes an entry. Null gives false.
+    /// the command is offered to the one before it on the same level (mergeWith; never across the
+    /// clean mark or into a macro): merged it is deleted, else it becomes an entry. Null gives false.
     virtual bool push(ZUndoCommand* command);
     /// Collects what is pushed until the matching endMacro() into one entry. Macros nest.
     virtual void beginMacro(QString const& text);
     /// Ends the innermost macro; a non-empty text replaces the one that it began with. A macro in
-    /// which nothing was pushed leaves no entry. Ignored when no macro is open.
+    /// which nothing was pushed leaves no entry. Ignored, with a warning, when no macro is open. An
+    /// open macro is no entry yet: count() and index() see it when the outermost one ends.
     virtual void endMacro(QString const& text);
 
     /// Undoes the entry below index(), or redoes the one at it. Every command of a macro runs even
@@ -46,6 +52,7 @@ public:
 
     [[nodiscard]] int count() const;
     [[nodiscard]] int index() const;
+    /// Whether there is an entry for it and it would not be refused.
     [[nodiscard]] bool canUndo() const;
     [[nodiscard]] bool canRedo() const;
     /// The text of an entry; empty when out of range.
@@ -55,19 +62,22 @@ public:
 
     /// Marks the present state as the saved one.
     void setClean();
+    /// False also when an open macro has changed the saved state.
     [[nodiscard]] bool isClean() const;
     /// The index that is clean, or -1 when that state can no longer be reached.
     [[nodiscard]] int cleanIndex() const;
 
-    /// At most this many entries are kept, the oldest go first; 0 keeps all.
+    /// At most this many entries are kept, the oldest go first; 0 keeps all. Undone entries go only
+    /// when no done one is left, the last to be redone first. Set by a running command, it takes
+    /// effect with the next push.
     void setLimit(int limit);
     [[nodiscard]] int limit() const;
 
-    /// Called after every change of entries, index or clean mark that a top-level call made. It may
-    /// call the stack.
+    /// Called at the end of every call that changed entries, index, clean mark or open macros. It
+    /// may call the stack, replace itself, and end the stack.
     void setChangeCallback(std::function<void()> callback);
 
-    /// Whether a command's undo() or redo() is running.
+    /// Whether the stack is running code of a command.
     [[nodiscard]] bool isExecuting() const;
     /// How many macros are open.
     [[nodiscard]] int macroDepth() const;

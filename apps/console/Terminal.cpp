@@ -1,0 +1,69 @@
+#include "Terminal.h"
+
+#include "Host.h"
+#include "Interpreter.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <iostream>
+#include <memory>
+
+#include <editline/readline.h>
+#include <unistd.h>
+
+namespace console {
+
+namespace {
+
+// The completion callback of the line editor has no argument of its own.
+Interpreter const* completing = nullptr;
+
+char* nextCompletion(char const* text, int state) {
+    static std::size_t next = 0;
+    if (state == 0) {
+        next = 0;
+    }
+    std::string const line = rl_line_buffer == nullptr ? "" : rl_line_buffer;
+    std::size_t const wordStart = line.size() - std::min(line.size(), std::strlen(text));
+    while (next < completing->commands().size()) {
+        std::string const name(completing->commands()[next++]->name);
+        if (name.starts_with(line)) {
+            return strdup(name.c_str() + wordStart);
+        }
+    }
+    return nullptr;
+}
+
+char** complete(char const* text, int, int) { return rl_completion_matches(text, nextCompletion); }
+
+} // namespace
+
+bool isTerminal() { return isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0; }
+
+int runTerminalSession(Interpreter& interpreter, Host& host) {
+    completing = &interpreter;
+    rl_attempted_completion_function = complete;
+    using_history();
+    host.out() << "\"help\" lists the commands, \"quit\" ends.\n";
+    while (!interpreter.quitRequested()) {
+        host.out().flush();
+        std::unique_ptr<char, decltype(&std::free)> const line(readline("zsg> "), &std::free);
+        if (line == nullptr) {
+            host.out() << '\n';
+            break;
+        }
+        if (line.get()[0] != '\0') {
+            add_history(line.get());
+        }
+        try {
+            interpreter.run(std::string_view(line.get()));
+        } catch (std::exception const& error) {
+            host.out().flush();
+            std::cerr << error.what() << std::endl;
+        }
+    }
+    completing = nullptr;
+    return 0;
+}
+
+} // namespace console

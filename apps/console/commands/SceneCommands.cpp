@@ -1,0 +1,82 @@
+#include "Command.h"
+#include "Host.h"
+
+#include <ostream>
+
+namespace console {
+
+namespace {
+
+void show(Host& host, Arguments&) { host.out() << host.renderer().dump(); }
+
+void load(Host& host, Arguments& arguments) {
+    std::string const path = arguments.word("a path");
+    arguments.done();
+    if (std::string const message = host.load(path); !message.empty()) {
+        throw CommandError(message);
+    }
+}
+
+void save(Host& host, Arguments& arguments) {
+    std::string const path = arguments.word("a path");
+    arguments.done();
+    if (std::string const message = host.renderer().saveScene(path); !message.empty()) {
+        throw CommandError(message);
+    }
+}
+
+void pump(Host& host, Arguments&) { host.pump(); }
+
+void recordJournal(Host& host, Arguments& arguments) {
+    host.renderer().recordJournal(arguments.onOff());
+}
+
+void showJournal(Host& host, Arguments&) {
+    for (std::string const& line : host.renderer().takeJournal()) {
+        host.out() << line << '\n';
+    }
+}
+
+void ledger(Host& host, Arguments&) {
+    nyx::embedded::Ledger const l = host.renderer().ledger();
+    host.out() << "blocks " << l.blocks << ", arrays " << l.arrays << ", aligned "
+               << l.alignedBlocks << ", texts " << l.texts << ", lock depth " << l.lockDepth
+               << ", strings " << l.strings << '\n';
+}
+
+void fault(Host& host, Arguments& arguments) {
+    nyx::embedded::Faults& faults = host.renderer().faults();
+    std::string const name =
+        arguments.oneOf({"creations", "unique-names", "scene", "notifications", "settings"});
+    if (name == "creations") {
+        faults.failCreations = arguments.integer("how many creations fail");
+    } else if (name == "unique-names") {
+        faults.noUniqueNames = arguments.onOff();
+    } else if (name == "scene") {
+        faults.noScene = arguments.onOff();
+    } else if (name == "settings") {
+        faults.noSettings = arguments.onOff();
+    } else {
+        faults.holdNotifications = arguments.onOff();
+    }
+}
+
+constexpr Command table[] = {
+    {"scene", "", "show everything that the scene holds", show},
+    {"scene load", "PATH", "replace the scene; the history is cleared", load},
+    {"scene save", "PATH", "write the scene", save},
+    {"pump", "", "deliver what the renderer has to say (every command does)", pump},
+    {"journal record", "on|off", "record the calls to the renderer", recordJournal},
+    {"journal", "", "show and forget the recorded calls", showJournal},
+    {"ledger", "", "show what the renderer has lent out", ledger},
+    {"fault", "NAME N|on|off",
+     "let the renderer fail: creations, unique-names, scene, settings, "
+     "notifications",
+     fault},
+};
+
+} // namespace
+
+std::span<Command const> sceneCommands() { return table; }
+
+} // namespace console

@@ -1,0 +1,114 @@
+#!/usr/bin/env bash
+# The gates behind ./dev check. Every gate runs, also after one failed; the last line sums up.
+set -uo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+jobs=$(nproc 2>/dev/null || echo 2)
+sources() { git ls-files -- '*.h' '*.cpp'; }
+
+workflow() { cmake --workflow --preset "$1"; }
+
+gate_format() { sources | xargs clang-format-14 --dry-run --Werror; }
+
+# Which folder may include which; the table is docs/architecture.md's.
+gate_layering() {
+    local bad=0
+    forbid() { # WHAT PATTERN FOLDER...
+        local what=$1 pattern=$2
+        shift 2
+        if grep -rnE "#include [\"<]($pattern)" "$@" 2>/dev/null; then
+            printf 'layering: %s\n' "$what" >&2
+            bad=1
+        fi
+    }
+    forbid "the library must not know the embedded platform" 'nyxembedded/' include src
+    forbid "values know no other area" '(zsg/)?(colors|materials|lightlayers|painting|core)/' \
+        include/zsg/values src/values
+    forbid "colors know only materials/ISceneMaterialManager.h of their siblings" \
+        '(zsg/)?(lightlayers|painting)/|materials/' \
+        $(grep -rLE 'materials/ISceneMaterialManager.h' include/zsg/colors src/colors)
+    forbid "areas post events; they never include the root" \
+        'core/ZSceneGraph|zsg/core/ISceneGraph' include/zsg/values include/zsg/colors \
+        include/zsg/materials src/values src/colors src/materials
+    forbid "platform declarations know nobody" 'zsg/' platform/include
+    return $bad
+}
+
+gate_dev() { workflow dev; }
+
+gate_clang() {
+    cmake --preset clang >/dev/null && cmake --build --preset clang -j "$jobs"
+}
+
+gate_headers() {
+    cmake --preset dev >/dev/null &&
+        cmake --build --preset dev -j "$jobs" --target all_verify_interface_header_sets
+}
+
+gate_tidy() {
+    cmake --preset clang >/dev/null || return 1
+    sources | grep -E '^(src|apps|platform)/.*\.cpp$' |
+        xargs -P "$jobs" -n 4 clang-tidy-14 --quiet -p build/clang --warnings-as-errors='*'
+}
+
+gate_asan() { workflow asan; }
+
+gate_tsan() {
+    cmake --preset tsan >/dev/null &&
+        cmake --build --preset tsan -j "$jobs" --target zsg_threads_test &&
+        ctest --preset tsan
+}
+
+gate_fuzz() {
+    cmake --preset fuzz >/dev/null && cmake --build --preset fuzz -j "$jobs" || return 1
+    local fuzzer name seconds=${ZSG_FUZZ_SECONDS:-60}
+    export seconds
+    run_fuzzer() {
+        local name
+        name=$(basename "$1")
+        mkdir -p "build/fuzz/corpus/$name" "build/fuzz/artifacts"
+        "$1" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -verbosity=0 \
+            -print_final_stats=0 -artifact_prefix="build/fuzz/artifacts/$name-" \
+            "build/fuzz/corpus/$name" "fuzz/corpus/$name" >"build/fuzz/$name.log" 2>&1 || {
+            tail -50 "build/fuzz/$name.log"
+            return 1
+        }
+        printf '%s: %s s without a finding\n' "$name" "$seconds"
+    }
+    export -f run_fuzzer
+    printf '%s\n' build/fuzz/bin/fuzz_* | xargs -P "$jobs" -I{} bash -c 'run_fuzzer {}'
+}
+
+gate_docs() {
+    mkdir -p build/docs && doxygen docs/Doxyfile
+}
+
+gate_examples() {
+    cmake --preset dev >/dev/null && cmake --build --preset dev -j "$jobs" &&
+        ctest --preset dev -L 'examples|package'
+}
+
+all=(format layering dev clang headers tidy asan tsan fuzz docs)
+wanted=("$@")
+((${#wanted[@]})) || wanted=("${all[@]}")
+failed=()
+mkdir -p build
+for name in "${wanted[@]}"; do
+    declare -F "gate_$name" >/dev/null || {
+        printf 'check: no gate named %s (there are: %s)\n' "$name" "${all[*]}" >&2
+        exit 1
+    }
+    start=$SECONDS
+    printf '\n== check: %s\n' "$name"
+    if "gate_$name" >"build/check-$name.log" 2>&1; then
+        printf 'ok (%d s)\n' $((SECONDS - start))
+    else
+        tail -n 60 "build/check-$name.log"
+        printf 'FAILED (%d s), all of it in build/check-%s.log\n' $((SECONDS - start)) "$name"
+        failed+=("$name")
+    fi
+done
+printf '\n'
+((${#failed[@]})) && printf 'check: failed gates: %s\n' "${failed[*]}"
+printf '%d passed, %d failed\n' $((${#wanted[@]} - ${#failed[@]})) ${#failed[@]}
+exit $((${#failed[@]} > 0))
