@@ -2,6 +2,7 @@
 
 #include "nyxembedded/Faults.h"
 #include "nyxembedded/Ledger.h"
+#include "nyxembedded/SceneInfo.h"
 #include "nyxrender/Export.h"
 #include "nyxrender/Ids.h"
 #include "nyxrender/Span.h"
@@ -11,6 +12,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,10 +32,11 @@ struct ColorwayPair {
 };
 
 /// The in-memory renderer: owns one scene, the run-time API over it, and its notifications. Build a
-/// scene by calls or from a scene file, hand api() to the library, and pump processEvents() or run a
-/// Qt event loop. Main thread; the API's lock may be taken from any thread.
+/// scene by calls or from a scene file, hand api() to the library, and pump processEvents() or run
+/// a Qt event loop. Main thread; the API's lock may be taken from any thread.
 ///
-/// Record ids start at 1 per kind, ascend, and are never used again. Every list is in creation order.
+/// Record ids start at 1 per kind, ascend, and are never used again. Every list is in creation
+/// order.
 class NYXRENDER_EXPORT Renderer {
 public:
     Renderer();
@@ -47,8 +50,9 @@ public:
     /// the renderer's whole life.
     [[nodiscard]] nyxScene* scene();
 
-    // Building. Names are UTF-8 and taken as they are, made unique for colours; an unknown id that is
-    // handed in is kept where a record may name it, and leaves everything as it was otherwise.
+    // Building. Names are UTF-8 and taken as they are, made unique for colours. An unknown id that
+    // is handed in is kept where a record may name it; an item under an unknown parent is not made,
+    // and the result is the invalid id. Building notifies nobody.
 
     nyx::ColorId addColor(std::string const& name, nyxColor_rgba const& value);
     nyx::ColorId addMultiColor(std::string const& name, nyx::Span<nyx::ColorId> subColors,
@@ -58,62 +62,91 @@ public:
     /// Makes a place of a material (or finds it) and binds it; false for an unknown material.
     bool bindColor(nyx::MaterialId material, std::uint32_t node, std::string const& parameter,
                    nyx::ColorId color);
+    /// What nyx_material_items() answers; false for an unknown material.
+    bool setMaterialItems(nyx::MaterialId material, std::vector<unsigned> items);
     /// A group at the top, or in another group.
     nyx::GroupItemId addGroup(std::string const& name, nyx::GroupItemId parent = {});
     /// An object that uses a material (or none).
     nyx::ObjectId addObject(std::string const& name, nyx::GroupItemId parent = {},
                             nyx::MaterialId material = {});
     nyx::ObjectId addLight(std::string const& name, nyx::GroupItemId parent = {});
+    /// What nyx_scene_unit_scale() answers.
+    void setUnitScale(double scale);
 
     // What the renderer does by itself, behind the library's back.
 
     /// Takes a record out of the scene at once; what names it keeps the id. False when unknown.
     bool removeColor(nyx::ColorId id);
     bool removeColorway(nyx::ColorwayId id);
-    /// Changes a colour's value and reports it with message 5006.
+    /// Changes a colour's value and reports it with message 5006; false when unknown.
     bool changeColor(nyx::ColorId id, nyxColor_rgba const& value);
-    /// Makes a colorway the active one, with the sub-colours that it names, and reports it with
-    /// message 5007.
+    /// Makes a colorway the active one and reports it with message 5007: the settings name it, flag
+    /// 2 is set on it and cleared on all others, and each of its multi-colours that lists the
+    /// sub-colour paired with it shows that one. False when unknown.
     bool activateColorway(nyx::ColorwayId id);
-    /// Reports every colour with one message 5006, as after loading.
+    /// Reports every colour but the temporary one with one message 5006, as loading does.
     void announceColors();
 
-    // Notifications. Messages and call_after_sync functions are delivered in the next turn of the Qt
-    // event loop, or by processEvents(), never inside the call that caused them: first one message
-    // 5006 with the changed colours in commit order without repeats, then other messages, then the
-    // functions.
+    // Notifications. Messages and call_after_sync functions are delivered in the next turn of the
+    // Qt event loop, or by processEvents(), never inside the call that caused them: first one
+    // message 5006 with the colours that commits changed, in commit order without repeats, then
+    // other messages, then the functions. What a receiver causes waits for the turn after.
 
     void setMessageHandler(std::function<void(nyxMessage const&)> handler);
-    /// Delivers all that waits, until nothing waits; needs no Qt event loop.
+    /// Delivers turn after turn until nothing waits, without needing a Qt event loop; ignored
+    /// inside a delivery. Receivers that always cause more end it with a warning after 1000 turns.
     void processEvents();
 
     // Looking on.
 
-    /// Every call from the library to the renderer since the last take, one line of text each, in
-    /// order. Recording starts switched off.
+    /// Every call to the renderer and to the material manager since the last take, one line of text
+    /// each, in order: the call, then its ids and values ("commit_color_params 3"). Recording
+    /// starts switched off. Calls that only fetch what others work on are not recorded: scene(),
+    /// nyx_get_scene_api() and the memory functions, and the getters of group items and shaders.
     void recordJournal(bool on);
     [[nodiscard]] std::vector<std::string> takeJournal();
     /// The whole scene as text, the same for the same scene.
     [[nodiscard]] std::string dump() const;
+    /// The first record of a name, plain and multi-colours alike; the invalid id when there is
+    /// none.
+    [[nodiscard]] nyx::ColorId findColor(std::string const& name) const;
+    [[nodiscard]] nyx::ColorwayId findColorway(std::string const& name) const;
+    [[nodiscard]] nyx::MaterialId findMaterial(std::string const& name) const;
+    [[nodiscard]] nyx::GroupItemId findItem(std::string const& name) const;
+    /// Nothing for an unknown id.
+    [[nodiscard]] std::optional<ColorInfo> color(nyx::ColorId id) const;
+    [[nodiscard]] std::optional<ColorwayInfo> colorway(nyx::ColorwayId id) const;
+    [[nodiscard]] std::optional<MaterialInfo> material(nyx::MaterialId id) const;
+    [[nodiscard]] std::optional<ItemInfo> item(nyx::GroupItemId id) const;
+    /// All of a kind, the temporary colour included.
+    [[nodiscard]] std::vector<nyx::ColorId> colors() const;
+    [[nodiscard]] std::vector<nyx::ColorwayId> colorways() const;
+    [[nodiscard]] std::vector<nyx::MaterialId> materials() const;
+    [[nodiscard]] std::vector<nyx::GroupItemId> items() const;
+    /// What the colour settings name, whether or not it exists.
+    [[nodiscard]] nyx::ColorwayId activeColorway() const;
     [[nodiscard]] Faults& faults();
     /// What is on loan at this moment.
     [[nodiscard]] Ledger ledger() const;
-    /// Whether set_modified(true) was called since loading, building or saving.
+    /// Whether set_modified(true) was called since set_modified(false), loading or saving. Building
+    /// does not count.
     [[nodiscard]] bool isModified() const;
     /// How often a frame was asked for.
     [[nodiscard]] unsigned refreshCount() const;
 
     // The scene file, described in docs/formats.md.
 
-    /// Replaces the scene's contents. On failure the scene stays as it was, and the result is a
-    /// message for people; it is empty on success.
+    /// Replaces the scene's contents and announces the colours. On failure the scene stays as it
+    /// was, and the result is a message for people; it is empty on success. Pointers to materials
+    /// and items end with the old contents.
     [[nodiscard]] std::string loadScene(std::string const& path);
     [[nodiscard]] std::string loadSceneText(std::string const& json);
     [[nodiscard]] std::string saveScene(std::string const& path);
     [[nodiscard]] std::string saveSceneText() const;
 
     /// A material manager over this scene that records one command per closed edit on `undoStack`
-    /// (borrowed, may be null). It must not outlive the renderer.
+    /// (borrowed; null: edits are made without a record). What is bound in an open edit reaches the
+    /// scene when the edit closes. Neither the manager nor its commands may outlive the renderer.
     [[nodiscard]] std::unique_ptr<zsg::ISceneMaterialManager>
     materialManager(ZUndoStack* undoStack);
 

@@ -13,21 +13,23 @@ namespace nyx {
 template <class T>
 class Span {
 public:
+    using value_type = T;
+    using const_iterator = T const*;
+
     constexpr Span() = default;
     constexpr Span(T const* data, std::size_t size) : data_(data), size_(size) {}
 
     /// Views any contiguous container of T.
     template <class Container>
-        requires(!std::same_as<std::remove_cvref_t<Container>, Span> &&
-                 requires(Container const& c) {
-                     { std::data(c) } -> std::convertible_to<T const*>;
-                     { std::size(c) } -> std::convertible_to<std::size_t>;
-                 })
-    constexpr Span(Container const& container)
+    requires(!std::same_as<std::remove_cvref_t<Container>, Span> &&
+             requires(Container const& c) {
+                 { std::data(c) } -> std::convertible_to<T const*>;
+                 { std::size(c) } -> std::convertible_to<std::size_t>;
+             }) constexpr Span(Container const& container)
         : data_(std::data(container)), size_(static_cast<std::size_t>(std::size(container))) {}
 
     /// Views a braced list; valid until the end of the full expression that wrote it.
-    constexpr Span(std::initializer_list<T> const& list) : data_(list.begin()), size_(list.size()) {}
+    constexpr Span(std::initializer_list<T> const& list) : Span(list.begin(), list.size()) {}
 
     [[nodiscard]] constexpr T const* data() const { return data_; }
     [[nodiscard]] constexpr std::size_t size() const { return size_; }

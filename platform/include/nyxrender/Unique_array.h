@@ -25,6 +25,9 @@ class Unique_array {
     static_assert(std::is_trivially_copyable_v<T>);
 
 public:
+    using value_type = T;
+    using const_iterator = T const*;
+
     Unique_array() = default;
     /// Copies `size` elements into memory of its own.
     Unique_array(T const* source, std::size_t size)

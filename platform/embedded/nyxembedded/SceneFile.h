@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+class nyxScene;
+
+namespace nyx::embedded {
+
+// The scene file, described in docs/formats.md. What these return is a message for people, empty on
+// success; a scene that could not be loaded or a file that could not be saved is as it was before.
+// Main thread.
+
+/// Replaces the contents of `scene` by those of a JSON text.
+[[nodiscard]] std::string loadSceneText(nyxScene& scene, std::string const& json);
+/// The same from a file. `path` is UTF-8; the message begins with it.
+[[nodiscard]] std::string loadSceneFile(nyxScene& scene, std::string const& path);
+/// The JSON text of a scene, whatever is in it; loading it gives back the same scene.
+[[nodiscard]] std::string saveSceneText(nyxScene const& scene);
+/// Writes that text to a file beside `path` and renames it, so that a save that fails half-way
+/// leaves the file of the last one.
+[[nodiscard]] std::string saveSceneFile(nyxScene const& scene, std::string const& path);
+
+} // namespace nyx::embedded

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+namespace nyx::embedded {
+
+// The scalars of the scene file as JSON, put at the end of `out`. Independent of the locale.
+
+/// A string, or {"hex": "..."} when the bytes are no valid UTF-8, so that every text can be saved.
+void appendText(std::string& out, std::string const& text);
+/// The shortest number that reads back as the same float; what JSON has no number for as a string.
+void appendFloat(std::string& out, float value);
+void appendDouble(std::string& out, double value);
+
+} // namespace nyx::embedded

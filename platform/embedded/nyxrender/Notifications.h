@@ -1,0 +1,60 @@
+#pragma once
+
+#include "nyxrender/Ids.h"
+#include "nyxrender/nyxMessage.h"
+
+#include <QObject>
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <unordered_set>
+#include <vector>
+
+namespace nyx::embedded {
+
+struct Faults;
+
+/// What the renderer has to tell, until the next turn of the event loop. A turn delivers what
+/// waited when it began; what a receiver causes meanwhile waits for the turn after. When a receiver
+/// throws, the rest of the turn waits on in its order.
+class Notifications final : public QObject {
+public:
+    explicit Notifications(Faults const& faults) : faults_(faults) {}
+
+    void setHandler(std::function<void(nyxMessage const&)> handler);
+    void colorChanged(nyx::ColorId id);
+    void colorwayActivated(nyx::ColorwayId id);
+    void callAfterSync(std::function<void()> function);
+    /// Drops waiting colours and messages: the records that they name are no more.
+    void forgetMessages();
+    /// Delivers turn after turn until nothing waits. Ignored inside a delivery. After 1000 turns it
+    /// gives up with a warning: receivers that always cause more would keep it forever.
+    void processEvents();
+
+    bool event(QEvent* event) override;
+
+private:
+    struct Turn {
+        std::vector<nyx::ColorId> colors;
+        std::deque<nyxMessage> messages;
+        std::deque<std::function<void()>> functions;
+        [[nodiscard]] bool empty() const {
+            return colors.empty() && messages.empty() && functions.empty();
+        }
+    };
+    class Delivery;
+
+    void schedule();
+    void deliverTurn();
+    void send(nyxMessage const& message) const;
+
+    Faults const& faults_;
+    std::function<void(nyxMessage const&)> handler_;
+    Turn waiting_;
+    std::unordered_set<nyx::ColorId> waitingColors_;
+    bool posted_ = false;
+    bool delivering_ = false;
+};
+
+} // namespace nyx::embedded
