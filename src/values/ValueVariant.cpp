@@ -1,0 +1,66 @@
+#include "zsg/values/ValueVariant.h"
+
+#include "values/equality.h"
+
+#include <type_traits>
+#include <utility>
+
+namespace zsg {
+
+template <class T>
+ValueVariant<T>::ValueVariant(T const& value) : value_(value) {}
+
+template <class T>
+ValueVariant<T>::ValueVariant(ValueVariant const& other) = default;
+
+template <class T>
+ValueVariant<T>::ValueVariant(ValueVariant&& other) noexcept = default;
+
+template <class T>
+ValueVariant<T>& ValueVariant<T>::operator=(ValueVariant const& other) = default;
+
+template <class T>
+ValueVariant<T>& ValueVariant<T>::operator=(ValueVariant&& other) noexcept = default;
+
+template <class T>
+ValueVariant<T>::~ValueVariant() = default;
+
+template <class T>
+Type ValueVariant<T>::type() const {
+    return typeOf<T>;
+}
+
+template <class T>
+bool ValueVariant<T>::set(void const* value) {
+    // For an Enumerable this drops a selection that comes with the same options; callers rely on
+    // false meaning that nothing was written.
+    T const& wanted = *static_cast<T const*>(value);
+    if (isSame(wanted, value_)) {
+        return false;
+    }
+    value_ = wanted;
+    return true;
+}
+
+template <class T>
+void ValueVariant<T>::get(void* out) const {
+    *static_cast<T*>(out) = value_;
+}
+
+template <class T>
+bool ValueVariant<T>::copyTo(Variant& target) const {
+    Q_ASSERT(target.type() == typeOf<T>);
+    if constexpr (std::is_base_of_v<ZColorExt, T>) {
+        T own = value_;
+        own.detach();
+        return target.set(&own);
+    } else {
+        return target.set(&value_);
+    }
+}
+
+#define ZSG_DEFINE_HOLDER(member, number, T) template class ZSG_TEMPLATE_DEFINITION ValueVariant<T>;
+ZSG_VALUE_TYPES(ZSG_DEFINE_HOLDER)
+#undef ZSG_DEFINE_HOLDER
+
+} // namespace zsg

@@ -1,0 +1,73 @@
+#include "values/hintParsing.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <string>
+
+namespace zsg {
+namespace {
+
+std::string text(std::optional<HintRange> const& range) {
+    if (!range) {
+        return "none";
+    }
+    return std::to_string(static_cast<int>(range->low * 10)) + " " +
+           std::to_string(static_cast<int>(range->high * 10));
+}
+
+struct Row {
+    char const* hint;
+    char const* limits; ///< in tenths
+    char const* slider;
+    bool kelvin;
+};
+
+constexpr Row rows[] = {
+    {nullptr, "none", "none", false},
+    {"", "none", "none", false},
+    {"-limits,0.5,8-\n", "5 80", "none", false},
+    {"-range,-1,1-\n-limits,0,100-\n-kelvin-\n", "0 1000", "-10 10", true},
+    {"-spin,0,10,0.5-\n", "none", "0 100", false},
+    {"-range,0,5-\n-spin,0,10,0.5-\n", "none", "0 100", false},
+    {"-spin,0,10-\n-range,0,5-\n", "none", "none", false}, // a broken spin hides the range
+    {"-spinning-range,0,5-\n", "none", "none", false},
+    {"-limits,1-\n-limits,1,2-\n", "none", "none", false}, // only the first is read
+    {"-limits,1,2", "10 20", "none", false}, // what follows the numbers is not required
+    {"-limits, 1, 2-\n", "10 20", "none", false},
+    {"-limits ,1,2-\n", "none", "none", false},
+    {"-limits,1 ,2-\n", "none", "none", false},
+    {"-limits,a,b-\n-kelvin", "none", "none", false},
+    {"-Limits,1,2-\n-Kelvin-", "none", "none", false},
+    {"x-kelvin-y", "none", "none", true},
+};
+
+void expectRows() {
+    for (Row const& row : rows) {
+        char const* const name = row.hint ? row.hint : "null";
+        EXPECT_EQ(text(hintLimits(row.hint)), row.limits) << name;
+        EXPECT_EQ(text(hintSliderRange(row.hint)), row.slider) << name;
+        EXPECT_EQ(hintKelvin(row.hint), row.kelvin) << name;
+    }
+}
+
+TEST(Hint, PiecesAreFoundAnywhereAndReadInFull) { expectRows(); }
+
+TEST(Hint, NumbersHaveAPointWhateverTheLocale) {
+    std::string const before = std::setlocale(LC_ALL, nullptr);
+    char const* set = nullptr;
+    for (char const* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "de_DE", "nl_NL.UTF-8"}) {
+        set = set ? set : std::setlocale(LC_ALL, name);
+    }
+    expectRows();
+    if (set) {
+        EXPECT_STREQ(std::localeconv()->decimal_point, ",") << "the application's is kept";
+    }
+    std::setlocale(LC_ALL, before.c_str());
+    if (!set) {
+        GTEST_SKIP() << "no locale with a decimal comma is installed";
+    }
+}
+
+} // namespace
+} // namespace zsg

@@ -1,0 +1,146 @@
+#include "zsg/values/loadIORFile.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <string>
+#include <vector>
+
+using zsg::FloatArray;
+
+namespace {
+
+struct Result {
+    bool loaded = false;
+    FloatArray values;
+    std::string messages;
+
+    [[nodiscard]] std::vector<float> wavelengths() const {
+        std::vector<float> list;
+        for (qsizetype i = 0; i < values.size(); i += 3) {
+            list.push_back(values[i]);
+        }
+        return list;
+    }
+};
+
+class LoadIORFile : public testing::Test {
+protected:
+    static Result load(std::string const& path) {
+        Result result;
+        result.values = {7};
+        testing::internal::CaptureStderr();
+        result.loaded = zsg::loadIORFile(path, result.values);
+        result.messages = testing::internal::GetCapturedStderr();
+        return result;
+    }
+
+    Result load(char const* name, std::string const& text) const {
+        QString const path = folder_.filePath(name);
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text.data(), static_cast<qint64>(text.size()));
+        file.close();
+        return load(path.toStdString());
+    }
+
+    QTemporaryDir folder_;
+};
+
+double reflectance(double n, double k) {
+    return ((n - 1) * (n - 1) + k * k) / ((n + 1) * (n + 1) + k * k);
+}
+
+} // namespace
+
+TEST_F(LoadIORFile, PairsGetEquallySpacedWavelengths) {
+    Result exact = load("a.nk", "a heading\n4 400 700 3\n1 .1\n2 .2\n3 .3\n4 .4\n");
+    EXPECT_TRUE(exact.loaded);
+    EXPECT_EQ(exact.values, (FloatArray{400, 1, .1f, 500, 2, .2f, 600, 3, .3f, 700, 4, .4f}));
+    EXPECT_EQ(exact.messages, "");
+
+    Result more = load("a.ior", "4 400 700 3\n1 2\nno pair\n1 2\n1 2\n1 2\n1 2");
+    EXPECT_EQ(more.wavelengths(), (std::vector<float>{400, 500, 600, 700, 700}));
+    EXPECT_EQ(more.messages, "Found 5 samples but expected 4.\n");
+
+    EXPECT_EQ(load("b.NK", "2 0.4 0.7 1\n1 2\n1 2\n").wavelengths(),
+              (std::vector<float>{400, 700}));
+    EXPECT_NEAR(load("b.nk", "1 2 2 0\n1 2\n").wavelengths().at(0), 619.9, 0.05);
+    EXPECT_EQ(load("b.nk", "3 25000 20000 1\n1 2\n1 2\n").wavelengths(),
+              (std::vector<float>{400, 500}));
+    EXPECT_EQ(load("b.nk", "4 500 600 0\n1 2\n1 2\n").wavelengths(),
+              (std::vector<float>{500, 500}));
+    // Blank lines are pairs as well; white space at the end of a line, such as CR, is none.
+    EXPECT_EQ(load("b.nk", "4 400 600 2\r\n\r\n1 2\r\n 3;4 \r\n").values,
+              (FloatArray{400, 0, 0, 500, 1, 2, 600, 3, 4}));
+    Result const unknown = load("b.nk", "12 3 4 1\n1 2\n1 2\n");
+    EXPECT_EQ(unknown.messages, "Unknown unit\n");
+    EXPECT_EQ(unknown.wavelengths(), (std::vector<float>{3, 4}));
+}
+
+TEST_F(LoadIORFile, TablesSkipWhatDoesNotFit) {
+    Result const result = load("a.b.Csv", "wavelength,n,k\n500;1.5;-0.1\n500,1.5,0\n501,-1,0\n"
+                                          "502\t1.25\t2.5\n503 1 1\n504, 1,2");
+    EXPECT_TRUE(result.loaded);
+    EXPECT_EQ(result.values, (FloatArray{500, 1.5f, 0, 502, 1.25f, 2.5f, 504, 1, 2}));
+    std::string const negative =
+        "Real and imaginary parts of ior must be non-negative. Skipping sample\n";
+    EXPECT_EQ(result.messages, negative + negative);
+
+    std::string const tooLong = "500" + std::string(93, ' ') + ",1,2"; // 100 characters
+    EXPECT_EQ(load("a.csv", "1,2,3\n" + tooLong + "\n4,5,6\n").values, (FloatArray{1, 2, 3}));
+    EXPECT_EQ(load("a.csv", tooLong.substr(0, 99) + "\n4,5,6\n").wavelengths(),
+              (std::vector<float>{500, 4}));
+}
+
+TEST_F(LoadIORFile, NothingToReadLeavesTheResultAlone) {
+    std::string const table = "500,1.5,0\n";
+    EXPECT_TRUE(QDir(folder_.path()).mkdir("folder.csv"));
+    struct {
+        Result result;
+        char const* messages;
+    } const rows[] = {
+        {load("a.txt", table), ""},
+        {load("nk", table), ""},
+        {load("a.csv", ""), ""},
+        {load("a.nk", ""), "Did not find a first line in file?\n"},
+        {load("a.nk", "1 2\n3 4\n"), "Did not find a first line in file?\n"},
+        {load("a.nk", "4 400 700 3\nnothing\n"), "Found 0 samples but expected 4.\n"},
+        {load(folder_.filePath("missing.nk").toStdString()), ""},
+        {load(folder_.filePath("folder.csv").toStdString()), ""},
+        {load(std::string("")), ""},
+    };
+    for (auto const& row : rows) {
+        EXPECT_FALSE(row.result.loaded);
+        EXPECT_EQ(row.result.values, FloatArray{7});
+        EXPECT_EQ(row.result.messages, row.messages);
+    }
+}
+
+TEST_F(LoadIORFile, MeasuredMetals) {
+    std::string const data = ZSG_SOURCE_DIR "/examples/data/";
+    for (std::string const metal : {"gold", "silver", "copper"}) {
+        Result const table = load(data + metal + ".csv");
+        Result const pairs = load(data + metal + ".nk");
+        EXPECT_EQ(table.messages + pairs.messages, "");
+        ASSERT_EQ(table.values.size(), 3 * 49);
+        ASSERT_EQ(pairs.values.size(), 3 * 49);
+        for (qsizetype i = 0; i < 49; ++i) {
+            qsizetype const a = 3 * i;
+            qsizetype const b = 3 * (48 - i); // ascending energy is descending wavelength
+            EXPECT_NEAR(table.values[a], pairs.values[b], 0.01 * table.values[a]) << metal << i;
+            EXPECT_EQ(table.values[a + 1], pairs.values[b + 1]);
+            EXPECT_EQ(table.values[a + 2], pairs.values[b + 2]);
+        }
+    }
+    FloatArray const gold = load(data + "gold.csv").values;
+    auto const at = [&gold](float wavelength) {
+        qsizetype const i = gold.indexOf(wavelength);
+        return reflectance(gold[i + 1], gold[i + 2]);
+    };
+    EXPECT_NEAR(at(430.5f), 0.41, 0.005);
+    EXPECT_NEAR(at(659.5f), 0.96, 0.005);
+}
