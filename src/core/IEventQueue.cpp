@@ -1,0 +1,9 @@
+#include "zsg/core/IEventQueue.h"
+
+namespace zsg {
+
+IEventQueue::IEventQueue() = default;
+
+IEventQueue::~IEventQueue() = default;
+
+} // namespace zsg

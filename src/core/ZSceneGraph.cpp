@@ -1,0 +1,60 @@
+#include "core/ZSceneGraph.h"
+
+#include "core/ZEventQueue.h"
+#include "core/postEvent.h"
+#include "zsg/colors/ColorController.h"
+#include "zsg/colors/ColorDB.h"
+#include "zsg/core/Events.h"
+
+#include "nyxrender/nyxMessage.h"
+
+#include <vector>
+
+namespace zsg {
+
+// The subsystems are built in the body: some of them reach the others, and the handle, through the
+// root while it is under construction.
+ZSceneGraph::ZSceneGraph(SceneGraphPars const& pars) : rtApi_(pars.rtApi) {
+    eventQueue_ = std::make_unique<ZEventQueue>();
+    colorDB_ = std::make_unique<ColorDB>(eventQueue_.get(), rtApi_);
+    colorController_ = std::make_unique<ColorController>(colorDB_.get(), pars.sceneMaterialManager,
+                                                         pars.undoStack);
+}
+
+ZSceneGraph::~ZSceneGraph() = default;
+
+bool ZSceneGraph::handleRendererMessage(nyxMessage const& message) {
+    switch (message.code) {
+    case nyxMessage::ColorsSynced: {
+        // Listeners may call the renderer, which may use the list's memory again.
+        std::vector<nyx::ColorId> const ids(message.colors.begin(), message.colors.end());
+        for (nyx::ColorId const id : ids) {
+            post(eventQueue_.get(), std::make_unique<ColorSyncedEvent>(id));
+        }
+        return true;
+    }
+    case nyxMessage::ColorwayActivated:
+        colorDB_->handleColorwayActivated(message.colorway);
+        return true;
+    default:
+        return false;
+    }
+}
+
+nyxRT_api* ZSceneGraph::rtApi() const { return rtApi_; }
+
+IMaterialHandler* ZSceneGraph::materialHandler() const { return nullptr; }
+
+IEventQueue* ZSceneGraph::eventQueue() const { return eventQueue_.get(); }
+
+ICMFManager* ZSceneGraph::cmfManager() const { return nullptr; }
+
+IPainterManager* ZSceneGraph::painterManager() const { return nullptr; }
+
+ColorDB* ZSceneGraph::colorDB() const { return colorDB_.get(); }
+
+ColorController* ZSceneGraph::colorController() const { return colorController_.get(); }
+
+ILightLayerController* ZSceneGraph::lightLayerController() const { return nullptr; }
+
+} // namespace zsg

@@ -1,0 +1,178 @@
+#include "core/ZEventQueue.h"
+
+#include "core/postEvent.h"
+#include "support/EventTrace.h"
+#include "zsg/core/Events.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+using namespace zsg;
+
+namespace {
+
+constexpr EventType updated = EventType::ColorUpdated;
+constexpr EventType synced = EventType::ColorSynced;
+
+/// An event that counts how often it is destroyed, of any type at all.
+class Probe final : public Event {
+public:
+    Probe(int& destroyed, EventType type) : Event(type), destroyed_(destroyed) {}
+    ~Probe() override { ++destroyed_; }
+
+private:
+    int& destroyed_;
+};
+
+/// Writes what it hears to a shared log ("a8 " for a and event type 8), then does once what the
+/// test wants.
+class Actor final : public IEventListener {
+public:
+    Actor(std::string name, std::string& log) : name_(std::move(name)), log_(log) {}
+
+    void onEvent(Event const* event) override {
+        log_ += name_ + std::to_string(static_cast<unsigned int>(event->type())) + ' ';
+        if (auto const now = std::exchange(action, nullptr)) {
+            now(*event);
+        }
+    }
+
+    std::function<void(Event const&)> action;
+
+private:
+    std::string name_;
+    std::string& log_;
+};
+
+class ZEventQueueTest : public testing::Test {
+protected:
+    void post(unsigned int color) { queue->post(new ColorUpdatedEvent(nyx::ColorId(color))); }
+    void postSynced(unsigned int color) { queue->post(new ColorSyncedEvent(nyx::ColorId(color))); }
+    std::string take() { return std::exchange(log, {}); }
+
+    std::unique_ptr<IEventQueue> queue = std::make_unique<ZEventQueue>();
+    std::string log;
+    Actor a{"a", log}, b{"b", log}, c{"c", log};
+};
+
+TEST_F(ZEventQueueTest, deliversSubscribedTypesOnceAndDeletesTheEvent) {
+    EventTrace trace(*queue, {updated, synced, updated});
+    post(1);
+    postSynced(2);
+    queue->post(new ColorEvent(nyx::ColorId(3)));
+    EXPECT_EQ(trace.take(), "ColorUpdated 1\nColorSynced 2");
+
+    queue->subscribe(nullptr, updated);
+    queue->unsubscribe(nullptr);
+    queue->unsubscribe(&a);
+    queue->post(nullptr);
+    // A number that is no kind of the library is a type like any other.
+    int heard = 0;
+    for (EventType const type :
+         {EventType(3), EventType(13), EventType(14), EventType(99), EventType(0xFFFFFFFFu)}) {
+        int destroyed = 0;
+        queue->post(new Probe(destroyed, type));
+        EXPECT_EQ(destroyed, 1) << "nobody listens";
+        queue->subscribe(&a, type);
+        a.action = [&](Event const& event) {
+            EXPECT_EQ(event.type(), type);
+            EXPECT_EQ(destroyed, 1) << "alive while it is delivered";
+            ++heard;
+        };
+        queue->post(new Probe(destroyed, type));
+        EXPECT_EQ(destroyed, 2);
+    }
+    EXPECT_EQ(heard, 5);
+    queue->unsubscribe(&a);
+    int destroyed = 0;
+    queue->post(new Probe(destroyed, EventType(99)));
+    EXPECT_EQ(heard, 5) << "unsubscribing drops all types";
+
+    zsg::post(nullptr, std::make_unique<Probe>(destroyed, EventType(99)));
+    zsg::post(queue.get(), std::make_unique<Probe>(destroyed, EventType(99)));
+    EXPECT_EQ(destroyed, 3);
+}
+
+TEST_F(ZEventQueueTest, nestedPostsAreDeliveredBeforeTheOuterDeliveryGoesOn) {
+    for (Actor* const actor : {&a, &b}) {
+        queue->subscribe(actor, updated);
+        queue->subscribe(actor, synced);
+    }
+    a.action = [this](Event const&) {
+        postSynced(1);
+        log += "back ";
+    };
+    post(7);
+    EXPECT_EQ(take(), "a8 a9 b9 back b8 ");
+}
+
+TEST_F(ZEventQueueTest, subscriptionsMayChangeDuringADelivery) {
+    auto const drop = [this](Actor& actor) { queue->unsubscribe(&actor); };
+    auto const add = [this](Actor& actor) { queue->subscribe(&actor, updated); };
+    struct Row {
+        std::function<void()> whenCalled;
+        char const* now;
+        char const* next;
+    };
+    std::vector<Row> const rows{
+        {[&] { drop(a); }, "ab", "b"},
+        {[&] { drop(b); }, "a", "a"},
+        {[&] { drop(a), add(a); }, "ab", "ab"},
+        {[&] { drop(b), add(b); }, "a", "ab"},
+        {[&] { add(c); }, "ab", "abc"},
+        {[&] { add(c), drop(c), drop(c); }, "ab", "ab"},
+        {[&] { add(c), drop(b), post(2); }, "aac", "ac"},
+    };
+    auto const heard = [this] {
+        std::string names = take();
+        std::erase_if(names, [](char letter) { return letter < 'a' || letter > 'c'; });
+        return names;
+    };
+    for (Row const& row : rows) {
+        SCOPED_TRACE(&row - rows.data());
+        add(a), add(b);
+        a.action = [&row](Event const&) { row.whenCalled(); };
+        post(1);
+        EXPECT_EQ(heard(), row.now);
+        post(1);
+        std::string next = heard();
+        std::sort(next.begin(), next.end());
+        EXPECT_EQ(next, row.next);
+        drop(a), drop(b), drop(c);
+    }
+}
+
+TEST_F(ZEventQueueTest, aThrowingListenerLeavesTheEventAndAUsableQueue) {
+    EventType const type{50};
+    int destroyed = 0;
+    auto const outer = std::make_unique<Probe>(destroyed, type);
+    auto const inner = std::make_unique<Probe>(destroyed, type);
+    for (Actor* const actor : {&a, &b, &c}) {
+        queue->subscribe(actor, type);
+    }
+    a.action = [&](Event const&) {
+        queue->unsubscribe(&b);
+        a.action = [](Event const&) { throw std::runtime_error("no"); };
+        queue->post(inner.get());
+    };
+    EXPECT_THROW(queue->post(outer.get()), std::runtime_error);
+    EXPECT_EQ(take(), "a50 a50 ");
+    EXPECT_EQ(destroyed, 0);
+
+    queue->post(new Probe(destroyed, type));
+    EXPECT_EQ(take(), "a50 c50 ");
+    EXPECT_EQ(destroyed, 1);
+    queue->unsubscribe(&a);
+    queue->unsubscribe(&c);
+    queue->post(new Probe(destroyed, type));
+    EXPECT_EQ(take(), "");
+}
+
+} // namespace

@@ -1,0 +1,90 @@
+#include "zsg/core/ISceneGraph.h"
+
+#include "nyxembedded/Renderer.h"
+#include "nyxrender/nyxMessage.h"
+#include "support/EventTrace.h"
+#include "zsg/colors/ColorController.h"
+#include "zsg/colors/ColorDB.h"
+#include "zsg/core/Event.h"
+
+#include <QObject>
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+using namespace zsg;
+
+namespace {
+
+/// Overwrites the message's list while it is delivered, as a renderer may that is called meanwhile.
+class Overwriter final : public IEventListener {
+public:
+    void onEvent(Event const* event) override {
+        eventIds.push_back(event->eventId());
+        ids.assign(ids.size(), nyx::ColorId());
+        ids.clear();
+    }
+    std::vector<nyx::ColorId> ids;
+    std::vector<unsigned int> eventIds;
+};
+
+TEST(ZSceneGraph, turnsRendererMessagesIntoEvents) {
+    nyx::embedded::Renderer renderer;
+    SceneGraphPars pars;
+    EXPECT_FALSE(pars.rtApi || pars.materialService || pars.sceneMaterialManager ||
+                 pars.taskQueue || pars.undoStack);
+    pars.rtApi = renderer.api();
+    std::unique_ptr<ISceneGraph> const root = ISceneGraph::create(pars);
+    EXPECT_EQ(root->rtApi(), renderer.api());
+    ASSERT_NE(root->eventQueue(), nullptr);
+    EXPECT_EQ(root->eventQueue()->parent(), nullptr);
+
+    EventTrace trace(*root->eventQueue());
+    Overwriter overwriter;
+    Subscription const subscription(*root->eventQueue(), overwriter, {EventType::ColorSynced});
+    overwriter.ids = {nyx::ColorId(9), nyx::ColorId(2), nyx::ColorId(9)};
+    EXPECT_TRUE(root->handleRendererMessage({5006, overwriter.ids, {}}));
+    EXPECT_EQ(trace.take(), "ColorSynced 9\nColorSynced 2\nColorSynced 9");
+    auto const& numbers = overwriter.eventIds;
+    ASSERT_EQ(numbers.size(), 3u);
+    EXPECT_TRUE(numbers[1] == numbers[0] + 1 && numbers[2] == numbers[1] + 1);
+
+    EXPECT_TRUE(root->handleRendererMessage({5006, {}, {}}));
+    std::vector<nyx::ColorId> const one{nyx::ColorId(1)};
+    for (std::uint32_t const code : {0u, 5005u, 5008u, 0xFFFFFFFFu}) {
+        EXPECT_FALSE(root->handleRendererMessage({code, one, nyx::ColorwayId(1)})) << code;
+    }
+    EXPECT_EQ(trace.take(), "");
+
+    nyx::ColorwayId const colorway = renderer.addColorway("Warm", {});
+    ASSERT_TRUE(root->colorDB()->getColorwayParameters(colorway));
+    trace.take();
+    EXPECT_TRUE(root->handleRendererMessage({5007, {}, colorway}));
+    EXPECT_NE(trace.take().find("ColorWayUpdated 1"), std::string::npos);
+    EXPECT_TRUE(root->handleRendererMessage({5007, {}, nyx::ColorwayId(77)}));
+    EXPECT_EQ(trace.take(), "");
+}
+
+TEST(ZSceneGraph, takesEverythingWithItAndTheQueueAfterTheColors) {
+    nyx::embedded::Renderer renderer;
+    nyx::ColorId const color = renderer.addColor("Red", {1, 0, 0, 1});
+    SceneGraphPars pars;
+    pars.rtApi = renderer.api();
+    std::unique_ptr<ISceneGraph> root = ISceneGraph::create(pars);
+    EXPECT_EQ(root->colorController()->colorDB(), root->colorDB());
+    ASSERT_TRUE(root->colorDB()->getColorParameters(color));
+    std::size_t const held = renderer.ledger().blocks;
+    EXPECT_GT(held, 0u);
+
+    std::size_t heldWhenQueueGoes = held;
+    QObject::connect(root->eventQueue(), &QObject::destroyed,
+                     [&] { heldWhenQueueGoes = renderer.ledger().blocks; });
+    root.reset();
+    EXPECT_EQ(heldWhenQueueGoes, 0u);
+}
+
+} // namespace

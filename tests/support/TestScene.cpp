@@ -1,0 +1,45 @@
+#include "support/TestScene.h"
+
+TestScene::~TestScene() {
+    nyx::embedded::Ledger const ledger = renderer.ledger();
+    EXPECT_EQ(ledger.blocks, 0u);
+    EXPECT_EQ(ledger.lockDepth, 0);
+    EXPECT_EQ(ledger.arrays, atStart_.arrays);
+    EXPECT_EQ(ledger.alignedBlocks, atStart_.alignedBlocks);
+    EXPECT_EQ(ledger.texts, atStart_.texts);
+}
+
+std::string TestScene::takeJournal() {
+    renderer.recordJournal(true);
+    std::string text;
+    for (std::string const& line : renderer.takeJournal()) {
+        text += text.empty() ? line : '\n' + line;
+    }
+    return text;
+}
+
+TestScene::SmallScene TestScene::addSmallScene() {
+    SmallScene made;
+    made.red = renderer.addColor("Red", {1, 0, 0, 1});
+    made.green = renderer.addColor("Green", {0, 1, 0, 1});
+    made.blue = renderer.addColor("Blue", {0, 0, 1, 1});
+    made.cover = renderer.addMultiColor("Cover", {made.red, made.green}, made.red);
+    made.summer = renderer.addColorway("Summer", {{made.cover, made.red}});
+    made.winter = renderer.addColorway("Winter", {{made.cover, made.green}});
+    made.fabric = renderer.addMaterial("Fabric");
+    made.frame = renderer.addMaterial("Frame");
+    renderer.bindColor(made.fabric, 1, "color", made.cover);
+    renderer.bindColor(made.fabric, 2, "seam", made.red);
+    renderer.bindColor(made.frame, 1, "color", made.blue);
+    made.chair = renderer.addObject("Chair", {}, made.fabric);
+    return made;
+}
+
+nyxParameter_entry* findEntry(nyxParameter_edit& block, std::string const& name) {
+    for (std::int32_t i = 0; i < block.count; ++i) {
+        if (block.entries[i].name == name) {
+            return &block.entries[i];
+        }
+    }
+    return nullptr;
+}

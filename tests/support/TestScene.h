@@ -1,0 +1,44 @@
+#pragma once
+
+#include "nyxembedded/Renderer.h"
+#include "nyxrender/nyxParameter_edit.h"
+#include "nyxrender/nyxRT_api.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+/// A fixture with an embedded renderer. When everything of the test is gone, members of derived
+/// fixtures included, it checks that all that the renderer lent came back: blocks, arrays, aligned
+/// memory, texts, locks.
+class TestScene : public testing::Test {
+protected:
+    TestScene() = default;
+    ~TestScene() override;
+
+    [[nodiscard]] nyxRT_api* api() { return renderer.api(); }
+    [[nodiscard]] nyxScene* scene() { return renderer.scene(); }
+
+    /// What was called since the last time, one line each, and from now on it is recorded.
+    std::string takeJournal();
+
+    /// Three plain colours, a multi-colour over two of them, two colorways over that, and two
+    /// materials; one object uses the first. Ids ascend from 1 in the order of the members.
+    struct SmallScene {
+        nyx::ColorId red, green, blue;
+        nyx::ColorId cover;             ///< multi-colour of red (active) and green
+        nyx::ColorwayId summer, winter; ///< cover shows red, cover shows green
+        nyx::MaterialId fabric,
+            frame;           ///< fabric: 1 "color" cover, 2 "seam" red; frame: 1 "color" blue
+        nyx::ObjectId chair; ///< of fabric
+    };
+    SmallScene addSmallScene();
+
+    nyx::embedded::Renderer renderer;
+
+private:
+    nyx::embedded::Ledger const atStart_ = renderer.ledger();
+};
+
+/// The entry of a name in a block; null when there is none.
+nyxParameter_entry* findEntry(nyxParameter_edit& block, std::string const& name);
