@@ -1,0 +1,23 @@
+#pragma once
+
+#include "zsg/Export.h"
+
+class QString;
+class ZUndoStack;
+
+namespace zsg {
+
+/// Keeps a macro of the undo stack open while it lives. Scopes nest and end in reverse order.
+class ZSG_EXPORT ScopedMacro {
+public:
+    /// `undoStack` is borrowed; null opens nothing.
+    ScopedMacro(ZUndoStack* undoStack, QString const& text);
+    ~ScopedMacro();
+    ScopedMacro(ScopedMacro const&) = delete;
+    ScopedMacro& operator=(ScopedMacro const&) = delete;
+
+private:
+    ZUndoStack* undoStack_;
+};
+
+} // namespace zsg

@@ -1,0 +1,79 @@
+// How ColorController reaches the materials that use a colour.
+
+#include "zsg/colors/ColorController.h"
+#include "zsg/colors/ColorDB.h"
+#include "zsg/materials/ISceneMaterialManager.h"
+
+#include <QObject>
+
+#include <algorithm>
+
+namespace zsg {
+
+namespace {
+
+/// Keeps an edit of a material open while it lives.
+class ScopedMaterialEdit {
+public:
+    explicit ScopedMaterialEdit(IMaterialEdit& edit) : edit_(edit) { edit_.beginEdit(); }
+    ~ScopedMaterialEdit() { edit_.endEdit(); }
+    ScopedMaterialEdit(ScopedMaterialEdit const&) = delete;
+    ScopedMaterialEdit& operator=(ScopedMaterialEdit const&) = delete;
+
+private:
+    IMaterialEdit& edit_;
+};
+
+constexpr unsigned boundDirectly = 1;
+constexpr unsigned boundAnyhow = 3;
+
+} // namespace
+
+void ColorController::linkMaterialColors(nyx::ColorId from, nyx::ColorId to) {
+    if (!from.isValid() || !to.isValid() || !materialManager_) {
+        return;
+    }
+    for (nyx::MaterialId const material :
+         colorDB_->getMaterialsUsingColor(from, boundDirectly, true)) {
+        IMaterialEdit* edit = materialManager_->materialEdit(material);
+        if (!edit) {
+            edit = materialManager_->createMaterialEdit(material);
+        }
+        auto const places = edit ? edit->colorPlaces(from) : std::vector<MaterialColorPlace>();
+        if (places.empty()) {
+            continue;
+        }
+        ScopedMaterialEdit const open(*edit);
+        for (MaterialColorPlace const& place : places) {
+            edit->bindColor(place, to);
+        }
+    }
+}
+
+void ColorController::linkColor(nyx::ColorId from, nyx::ColorId to) {
+    if (!from.isValid() || !to.isValid()) {
+        return;
+    }
+    auto const name = [this](nyx::ColorId id) {
+        return QString::fromStdString(colorDB_->colorFromId(id).getColorName());
+    };
+    ScopedMacro const macro(undoStack_,
+                            QObject::tr("Link Color (%1) To (%2)").arg(name(from), name(to)));
+    linkMaterialColors(from, to);
+}
+
+unsigned int ColorController::activeReferenceCount(nyx::ColorId id) const {
+    if (!materialManager_) {
+        return 0;
+    }
+    auto const materials = colorDB_->getMaterialsUsingColor(id, boundAnyhow, false);
+    return static_cast<unsigned>(std::ranges::count_if(
+        materials, [this](nyx::MaterialId m) { return materialManager_->isMaterialInUse(m); }));
+}
+
+bool ColorController::anyMultiColorInUse() const {
+    return std::ranges::any_of(colorDB_->multiColors(),
+                               [this](nyx::ColorId id) { return activeReferenceCount(id) != 0; });
+}
+
+} // namespace zsg

@@ -1,0 +1,7 @@
+#include "zsg/colors/IColorDB.h"
+
+namespace zsg {
+
+IColorDB::~IColorDB() = default;
+
+} // namespace zsg

@@ -1,0 +1,7 @@
+#include "zsg/colors/IColorLinker.h"
+
+namespace zsg {
+
+IColorLinker::~IColorLinker() = default;
+
+} // namespace zsg

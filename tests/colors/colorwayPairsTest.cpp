@@ -1,0 +1,57 @@
+#include "colors/colorwayPairs.h"
+#include "colors/subColorList.h"
+
+#include <gtest/gtest.h>
+
+using namespace zsg;
+using Numbers = std::vector<unsigned>;
+
+namespace {
+
+std::vector<nyx::ColorId> ids(Numbers const& numbers) { return {numbers.begin(), numbers.end()}; }
+
+} // namespace
+
+TEST(ColorwayPairs, RepairCutsAndKeepsTheFirstPairOfEachMultiColor) {
+    struct {
+        Numbers multis, subs;
+        bool repaired;
+        Numbers newMultis, newSubs;
+    } const rows[] = {
+        {{}, {}, false, {}, {}},
+        {{5, 3}, {50, 30}, false, {}, {}},
+        {{5, 3, 5}, {50, 30, 51}, true, {3, 5}, {30, 50}},
+        {{5, 3, 4}, {50, 30}, true, {5, 3}, {50, 30}},
+        {{5}, {50, 30}, true, {5}, {50}},
+        {{5, 3}, {}, true, {}, {}},
+        {{5, 5, 3}, {51, 50}, true, {5}, {51}},
+        {{5, 3, 5}, {50, 30}, true, {5, 3}, {50, 30}},
+        {{9, 9, 0xFFFFFFFF, 1, 9}, {3, 2, 7, 8, 1}, true, {1, 9, 0xFFFFFFFF}, {8, 3, 7}},
+    };
+    for (auto const& row : rows) {
+        SCOPED_TRACE(testing::PrintToString(row.multis) + testing::PrintToString(row.subs));
+        auto const pairs = repairedPairs(ids(row.multis), ids(row.subs));
+        ASSERT_EQ(pairs.has_value(), row.repaired);
+        if (pairs) {
+            EXPECT_EQ(pairs->multiColors, ids(row.newMultis));
+            EXPECT_EQ(pairs->activeSubs, ids(row.newSubs));
+            EXPECT_FALSE(repairedPairs(pairs->multiColors, pairs->activeSubs));
+        }
+    }
+}
+
+TEST(ColorwayPairs, RemovalKeepsTheOrderOfTheRest) {
+    auto const pairs = pairsWithout(ids({4, 1, 3, 2}), ids({40, 10, 30, 20}), ids({9, 3, 4, 3}));
+    EXPECT_EQ(pairs.multiColors, ids({1, 2}));
+    EXPECT_EQ(pairs.activeSubs, ids({10, 20}));
+}
+
+TEST(SubColorList, ReplacesTheFirstOfAListedIdByAnUnlistedOne) {
+    auto const list = ids({7, 8, 7});
+    EXPECT_EQ(replacedSubColor(list, nyx::ColorId(7), nyx::ColorId(9)), ids({9, 8, 7}));
+    EXPECT_FALSE(replacedSubColor(list, nyx::ColorId(7), nyx::ColorId(8)));
+    EXPECT_FALSE(replacedSubColor(list, nyx::ColorId(7), nyx::ColorId(7)));
+    EXPECT_FALSE(replacedSubColor(list, nyx::ColorId(6), nyx::ColorId(9)));
+    EXPECT_FALSE(replacedSubColor(list, nyx::ColorId(7), nyx::ColorId()));
+    EXPECT_FALSE(replacedSubColor({}, nyx::ColorId(), nyx::ColorId(1)));
+}
