@@ -54,7 +54,6 @@ std::string Host::load(std::string const& path) {
     if (message.empty()) {
         // The edits of the old scene would otherwise be written into the new one.
         buildRoot();
-        renderer_.announceColors();
     }
     return message;
 }

@@ -29,7 +29,7 @@ public:
     ~Host();
 
     /// Replaces the scene; on failure everything stays as it was and the message is returned, which
-    /// is empty on success. The colours of the new scene are announced at the next pump().
+    /// is empty on success. The renderer announces the colours of the new scene at the next pump().
     [[nodiscard]] std::string load(std::string const& path);
 
     /// Delivers what the renderer has to say.
