@@ -37,7 +37,7 @@ else()
     # GCC's flow analysis guesses wrong at higher optimisation inside Qt and the standard library.
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         target_compile_options(zsg_warnings INTERFACE
-            -Wno-error=null-dereference -Wno-null-dereference)
+            -Wno-null-dereference -Wno-restrict)
     endif()
 endif()
 

@@ -23,5 +23,8 @@ struct Command {
 [[nodiscard]] std::span<Command const> eventCommands();
 [[nodiscard]] std::span<Command const> undoCommands();
 [[nodiscard]] std::span<Command const> expectCommands();
+[[nodiscard]] std::span<Command const> colorCommands();
+[[nodiscard]] std::span<Command const> colorwayCommands();
+[[nodiscard]] std::span<Command const> editCommands();
 
 } // namespace console

@@ -33,7 +33,8 @@ std::string printable(std::string text) {
 } // namespace
 
 Interpreter::Interpreter(Host& host) : host_(host) {
-    for (auto const table : {sceneCommands(), eventCommands(), undoCommands(), expectCommands()}) {
+    for (auto const table : {sceneCommands(), eventCommands(), undoCommands(), expectCommands(),
+                             colorCommands(), colorwayCommands(), editCommands()}) {
         for (Command const& command : table) {
             commands_.push_back(&command);
         }
