@@ -26,5 +26,11 @@ struct Command {
 [[nodiscard]] std::span<Command const> colorCommands();
 [[nodiscard]] std::span<Command const> colorwayCommands();
 [[nodiscard]] std::span<Command const> editCommands();
+[[nodiscard]] std::span<Command const> paramCommands();
+[[nodiscard]] std::span<Command const> valueCommands();
+[[nodiscard]] std::span<Command const> iorCommands();
+[[nodiscard]] std::span<Command const> curveCommands();
+[[nodiscard]] std::span<Command const> gradientCommands();
+[[nodiscard]] std::span<Command const> weaveCommands();
 
 } // namespace console

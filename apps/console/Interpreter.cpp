@@ -33,8 +33,10 @@ std::string printable(std::string text) {
 } // namespace
 
 Interpreter::Interpreter(Host& host) : host_(host) {
-    for (auto const table : {sceneCommands(), eventCommands(), undoCommands(), expectCommands(),
-                             colorCommands(), colorwayCommands(), editCommands()}) {
+    for (auto const table :
+         {sceneCommands(), eventCommands(), undoCommands(), expectCommands(), colorCommands(),
+          colorwayCommands(), editCommands(), weaveCommands(), gradientCommands(), curveCommands(),
+          iorCommands(), valueCommands(), paramCommands()}) {
         for (Command const& command : table) {
             commands_.push_back(&command);
         }
@@ -53,46 +55,62 @@ void Interpreter::run(std::vector<std::string> words) {
     if (words.empty()) {
         return;
     }
-    if (words[0] == "quit" || words[0] == "exit") {
+    // What a command prints is kept for "expect output"; those two print nothing themselves.
+    std::ostream& out = host_.out();
+    std::ostringstream captured;
+    struct Restore {
+        Host& host;
+        std::ostream& out;
+        std::ostringstream& captured;
+        ~Restore() {
+            host.setOut(out);
+            out << captured.view();
+        }
+    } const restore{host_, out, captured};
+    host_.setOut(captured);
+    bool const isExpectation = words[0] == "expect";
+    runWords(std::move(words));
+    if (!isExpectation) {
+        lastOutput_ = captured.str();
+    }
+}
+
+void Interpreter::runWords(std::vector<std::string> words) {
+    std::string const first = words[0];
+    std::string const second = words.size() > 1 ? words[1] : std::string();
+    if (first == "quit" || first == "exit") {
         quit_ = true;
         return;
     }
-    if (words[0] == "help") {
-        words.erase(words.begin());
-        Arguments arguments(std::move(words));
+    if (first == "help") {
+        Arguments arguments({words.begin() + 1, words.end()});
         return help(arguments);
     }
-    if (words[0] == "expect" && words.size() > 2 && words[1] == "failure") {
-        std::string const wanted = words[2];
-        words.erase(words.begin(), words.begin() + 3);
-        try {
-            run(std::move(words));
-        } catch (CommandError const& error) {
-            if (std::string_view(error.what()).find(wanted) == std::string_view::npos) {
-                throw CommandError("expected a failure that says \"" + wanted + "\", found \"" +
-                                   error.what() + "\"");
-            }
-            return;
+    if (first == "expect" && second == "failure" && words.size() > 3) {
+        return expectFailure({words.begin() + 2, words.end()});
+    }
+    if (first == "expect" && second == "output" && words.size() == 3) {
+        if (lastOutput_.find(words[2]) == std::string::npos) {
+            throw CommandError("expect output: \"" + words[2] + "\" was not printed");
         }
-        throw CommandError("expected a failure");
+        return;
     }
     auto const find = [&](std::string const& name) -> Command const* {
         auto const found = std::ranges::lower_bound(commands_, name, {}, &Command::name);
         return found != commands_.end() && (*found)->name == name ? *found : nullptr;
     };
-    Command const* command = words.size() > 1 ? find(words[0] + ' ' + words[1]) : nullptr;
-    std::size_t used = 2;
+    Command const* command = words.size() > 1 ? find(first + ' ' + second) : nullptr;
+    std::ptrdiff_t used = 2;
     if (command == nullptr) {
-        command = find(words[0]);
+        command = find(first);
         used = 1;
     }
     if (command == nullptr) {
         throw CommandError("unknown command \"" +
-                           printable(words[0] + (words.size() > 1 ? ' ' + words[1] : "")) +
+                           printable(first + (second.empty() ? "" : ' ' + second)) +
                            "\"; \"help\" lists them");
     }
-    words.erase(words.begin(), words.begin() + static_cast<std::ptrdiff_t>(used));
-    Arguments arguments(std::move(words));
+    Arguments arguments({words.begin() + used, words.end()});
     try {
         command->run(host_, arguments);
         arguments.done();
@@ -101,6 +119,20 @@ void Interpreter::run(std::vector<std::string> words) {
         throw CommandError(std::string(command->name) + ": " + error.what());
     }
     host_.pump();
+}
+
+void Interpreter::expectFailure(std::vector<std::string> words) {
+    std::string const wanted = words[0];
+    try {
+        runWords({words.begin() + 1, words.end()});
+    } catch (CommandError const& error) {
+        if (std::string_view(error.what()).find(wanted) == std::string_view::npos) {
+            throw CommandError("expected a failure that says \"" + wanted + "\", found \"" +
+                               error.what() + "\"");
+        }
+        return;
+    }
+    throw CommandError("expected a failure");
 }
 
 int Interpreter::runScript(std::istream& in, std::string const& name, bool keepGoing,
@@ -154,6 +186,8 @@ void Interpreter::help(Arguments& arguments) {
     if (wanted.empty()) {
         host_.out() << "  help [WORDS], quit\n"
                        "  expect failure TEXT COMMAND...              the command fails and says "
+                       "TEXT\n"
+                       "  expect output TEXT                          the last command printed "
                        "TEXT\n";
     }
 }

@@ -31,10 +31,13 @@ public:
     [[nodiscard]] std::vector<Command const*> const& commands() const { return commands_; }
 
 private:
+    void runWords(std::vector<std::string> words);
+    void expectFailure(std::vector<std::string> words);
     void help(Arguments& arguments);
 
     Host& host_;
     std::vector<Command const*> commands_;
+    std::string lastOutput_; ///< what the command before the present one printed
     bool quit_ = false;
 };
 

@@ -24,10 +24,10 @@ bool lists(nyx::Span<nyx::ColorId> ids, nyx::ColorId id) {
     return std::ranges::find(ids, id) != ids.end();
 }
 
-// A NaN differs from everything.
+// A NaN differs from everything, an infinity only from others.
 bool differ(nyxColor_rgba const& a, nyxColor_rgba const& b) {
     constexpr float tolerance = 1e-4f;
-    auto const near = [](float x, float y) { return std::fabs(x - y) < tolerance; };
+    auto const near = [](float x, float y) { return x == y || std::fabs(x - y) < tolerance; };
     return !(near(a.r, b.r) && near(a.g, b.g) && near(a.b, b.b) && near(a.a, b.a));
 }
 
@@ -138,7 +138,9 @@ void ColorController::addSubKColors(nyx::ColorId multi, nyx::Span<ZColor> const&
             ids.push_back(id);
         }
     }
-    addSubColors(multi, ids, -1, nyx::ColorId());
+    if (!ids.empty()) {
+        addSubColors(multi, ids, -1, nyx::ColorId());
+    }
 }
 
 nyx::ColorId ColorController::addOrSwitchSubColor(nyx::ColorId multi, nyx::ColorId sub, bool link) {

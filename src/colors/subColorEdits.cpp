@@ -52,9 +52,12 @@ ColorIdList withInserted(nyx::Span<nyx::ColorId> subs, nyx::Span<nyx::ColorId> a
 }
 
 ColorIdList withMoved(nyx::Span<nyx::ColorId> subs, nyx::Span<nyx::ColorId> moved, int index) {
-    ColorIdSet const listed = setOf(subs);
+    ColorIdSet missing = setOf(moved);
+    for (nyx::ColorId const sub : subs) {
+        missing.erase(sub);
+    }
     ColorIdList ids = distinctValid(moved);
-    std::erase_if(ids, [&](nyx::ColorId id) { return !listed.contains(id); });
+    std::erase_if(ids, [&](nyx::ColorId id) { return missing.contains(id); });
     return inserted(subs, ids, index, true);
 }
 

@@ -28,7 +28,7 @@ struct Unit {
     bool reciprocal = false;
 };
 
-std::optional<Unit> unitOf(int code) {
+std::optional<Unit> unitOf(std::int64_t code) {
     switch (code) {
     case 1:
         return Unit{0.000806573, true}; // electronvolts; a fixed constant, kept as published

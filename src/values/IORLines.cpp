@@ -1,8 +1,10 @@
 #include "values/IORLines.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 namespace zsg {
@@ -13,16 +15,52 @@ constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
 constexpr bool isSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 constexpr bool isMark(char c) { return c == ',' || c == ';'; }
 
-/// The leading number of a text, 0 when there is none or no Number holds it.
-template <class Number>
-Number leadingNumber(std::string_view text) {
+/// The leading number of a text, 0 when there is none or no double holds it.
+double leadingNumber(std::string_view text) {
     if (text.size() > 1 && text[0] == '+' && text[1] != '-') {
         text.remove_prefix(1);
     }
-    Number number = 0;
+    double number = 0;
     std::from_chars(text.data(), text.data() + text.size(), number);
     return number;
 }
+
+/// A plain decimal number: digits with at most one dot among them.
+struct Decimal {
+    std::string_view text;
+    std::uint64_t digits = 0;
+    std::size_t count = 0;    ///< of all digits
+    std::size_t fraction = 0; ///< of those behind the dot
+
+    /// Moves `at` behind the number; false when there is none.
+    [[nodiscard]] bool read(char const*& at, char const* end) {
+        char const* const first = at;
+        readDigits(at, end);
+        if (at != end && *at == '.') {
+            std::size_t const whole = count;
+            readDigits(++at, end);
+            fraction = count - whole;
+        }
+        text = {first, static_cast<std::size_t>(at - first)};
+        return count > 0;
+    }
+
+    [[nodiscard]] double value() const {
+        // Both are exact, so the division rounds just as a conversion of the text would.
+        constexpr double powers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                     1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+        return count <= 15 ? static_cast<double>(digits) / powers[fraction] : leadingNumber(text);
+    }
+
+private:
+    void readDigits(char const*& at, char const* end) {
+        char const* const first = at;
+        for (; at != end && isDigit(*at); ++at) {
+            digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
+        }
+        count += static_cast<std::size_t>(at - first);
+    }
+};
 
 /// One of the regular expressions, as a row of steps:
 ///   s = \s*   d = \d*   D = \d   . = .?   , = [,;\t]?   ; = [,;\t]   u = [1234]   ( ) = a group
@@ -129,126 +167,127 @@ constexpr Pattern<4> headerPattern("s(u)s,s(d.Dd)s,s(d.Dd)s,s(Dd)s");
 constexpr Pattern<2> pairPattern("s(d.d)s,s(d.d)s");
 constexpr Pattern<3> columnsPattern("s(d.d)s;s(d.d)s;s(d.d)");
 
+/// White space, commas and semicolons around the numbers of a line.
+struct Gap {
+    std::size_t length = 0;
+    std::size_t marks = 0; ///< commas and semicolons
+    bool tab = false;
+
+    void read(char const*& at, char const* end) {
+        char const* const first = at;
+        for (; at != end && (isSpace(*at) || isMark(*at)); ++at) {
+            marks += isMark(*at) ? 1u : 0u;
+            tab = tab || *at == '\t';
+        }
+        length = static_cast<std::size_t>(at - first);
+    }
+    [[nodiscard]] bool isSeparator() const { return marks == 1 || (marks == 0 && tab); }
+};
+
 /// A line of exactly `Count` plain decimal numbers.
 template <std::size_t Count>
 struct Split {
-    std::array<std::string_view, Count> numbers;
-    /// Before the first number, between them, after the last one.
-    struct Gap {
-        std::size_t length = 0;
-        std::size_t marks = 0; ///< commas and semicolons
-        bool tab = false;
-    };
-    std::array<Gap, Count + 1> gaps;
+    std::array<Decimal, Count> numbers;
+    std::array<bool, Count> negative{};
+    std::array<Gap, Count + 1> gaps; ///< before the first number, between them, after the last one
 
     [[nodiscard]] bool read(std::string_view line, bool withSign = false) {
         char const* at = line.data();
         char const* const end = at + line.size();
-        skipGap(at, end, gaps[0]);
+        gaps[0].read(at, end);
         for (std::size_t i = 0; i < Count; ++i) {
-            char const* const first = at;
             if (withSign && at != end && *at == '-') {
+                negative[i] = true;
                 ++at;
             }
-            char const* const digits = at;
-            skipDigits(at, end);
-            std::ptrdiff_t found = at - digits;
-            if (at != end && *at == '.') {
-                char const* const fraction = ++at;
-                skipDigits(at, end);
-                found += at - fraction;
+            if (!numbers[i].read(at, end)) {
+                return false;
             }
-            numbers[i] = {first, static_cast<std::size_t>(at - first)};
-            skipGap(at, end, gaps[i + 1]);
-            if (found == 0 || (gaps[i + 1].length == 0 && i + 1 < Count)) {
+            gaps[i + 1].read(at, end);
+            if (gaps[i + 1].length == 0 && i + 1 < Count) {
                 return false;
             }
         }
         return at == end;
     }
 
-private:
-    static void skipDigits(char const*& at, char const* end) {
-        while (at != end && isDigit(*at)) {
-            ++at;
+    [[nodiscard]] std::array<double, Count> values() const {
+        std::array<double, Count> values;
+        for (std::size_t i = 0; i < Count; ++i) {
+            values[i] = negative[i] ? -numbers[i].value() : numbers[i].value();
         }
-    }
-    static void skipGap(char const*& at, char const* end, Gap& gap) {
-        char const* const first = at;
-        for (; at != end && (isSpace(*at) || isMark(*at)); ++at) {
-            gap.marks += isMark(*at) ? 1u : 0u;
-            gap.tab = gap.tab || *at == '\t';
-        }
-        gap.length = static_cast<std::size_t>(at - first);
+        return values;
     }
 };
 
-/// The groups of an accepted line. `surely` tells that the pattern accepts a line that was split,
+/// The numbers of an accepted line. `surely` tells that the pattern accepts a line that was split,
 /// so that ordinary lines need no matching.
 template <std::size_t Count, class Surely>
-std::optional<std::array<std::string_view, Count>>
-groupsOf(std::string_view line, Pattern<Count> const& pattern, Surely surely) {
+std::optional<std::array<double, Count>> numbersOf(std::string_view line,
+                                                   Pattern<Count> const& pattern, Surely surely) {
     Split<Count> split;
     bool const isSplit = split.read(line);
     if (isSplit && surely(split)) {
-        return split.numbers;
+        return split.values();
     }
-    auto groups = pattern.match(line);
-    if (groups && isSplit) {
-        return split.numbers;
+    auto const groups = pattern.match(line);
+    if (!groups) {
+        return {};
     }
-    return groups;
+    if (isSplit) {
+        return split.values();
+    }
+    std::array<double, Count> values;
+    std::transform(groups->begin(), groups->end(), values.begin(), leadingNumber);
+    return values;
+}
+
+/// Only absurd files have units and counts of intervals that do not fit; these read as 0.
+std::int64_t wholeNumber(double value) {
+    return value < 0x1p63 ? static_cast<std::int64_t>(value) : 0;
 }
 
 } // namespace
 
 std::optional<IORHeader> readIORHeader(std::string_view line) {
-    auto const groups = groupsOf(line, headerPattern, [](Split<4> const& split) {
+    auto const numbers = numbersOf(line, headerPattern, [](Split<4> const& split) {
         auto const& [unit, start, end, intervals] = split.numbers;
         auto const& gaps = split.gaps;
-        return unit.size() == 1 && unit[0] >= '1' && unit[0] <= '4' && isDigit(start.back()) &&
-               isDigit(end.back()) && intervals.find('.') == std::string_view::npos &&
-               gaps[0].marks == 0 && gaps[1].marks <= 1 && gaps[2].marks <= 1 &&
-               gaps[3].marks <= 1 && gaps[4].marks == 0;
+        return unit.text.size() == 1 && unit.digits >= 1 && unit.digits <= 4 &&
+               start.text.back() != '.' && end.text.back() != '.' &&
+               intervals.text.size() == intervals.count && gaps[0].marks == 0 &&
+               gaps[1].marks <= 1 && gaps[2].marks <= 1 && gaps[3].marks <= 1 && gaps[4].marks == 0;
     });
-    if (!groups) {
+    if (!numbers) {
         return {};
     }
-    return IORHeader{leadingNumber<int>((*groups)[0]), leadingNumber<double>((*groups)[1]),
-                     leadingNumber<double>((*groups)[2]),
-                     leadingNumber<std::int64_t>((*groups)[3])};
+    auto const& [unit, start, end, intervals] = *numbers;
+    return IORHeader{wholeNumber(unit), start, end, wholeNumber(intervals)};
 }
 
 std::optional<IORPair> readIORPair(std::string_view line) {
-    auto const groups = groupsOf(line, pairPattern, [](Split<2> const& split) {
+    auto const numbers = numbersOf(line, pairPattern, [](Split<2> const& split) {
         return split.gaps[0].marks == 0 && split.gaps[1].marks <= 1 && split.gaps[2].marks == 0;
     });
-    if (!groups) {
+    if (!numbers) {
         return {};
     }
-    return IORPair{leadingNumber<double>((*groups)[0]), leadingNumber<double>((*groups)[1])};
+    return IORPair{(*numbers)[0], (*numbers)[1]};
 }
 
 std::optional<IORColumns> readIORColumns(std::string_view line) {
-    auto const parts = [](auto const& gap) {
-        return gap.marks == 1 || (gap.marks == 0 && gap.tab);
-    };
-    auto const groups = groupsOf(line, columnsPattern, [parts](Split<3> const& split) {
-        return split.gaps[0].marks == 0 && parts(split.gaps[1]) && parts(split.gaps[2]) &&
-               split.gaps[3].length == 0;
+    auto const numbers = numbersOf(line, columnsPattern, [](Split<3> const& split) {
+        return split.gaps[0].marks == 0 && split.gaps[1].isSeparator() &&
+               split.gaps[2].isSeparator() && split.gaps[3].length == 0;
     });
-    auto const columns = [](std::array<std::string_view, 3> const& texts) {
-        return IORColumns{leadingNumber<double>(texts[0]), leadingNumber<double>(texts[1]),
-                          leadingNumber<double>(texts[2])};
-    };
-    if (groups) {
-        return columns(*groups);
+    if (numbers) {
+        return IORColumns{(*numbers)[0], (*numbers)[1], (*numbers)[2]};
     }
     // The dot lets "-1" pass, but not "-0.1", which would go unmentioned.
     if (Split<3> split; split.read(line, true)) {
-        IORColumns const read = columns(split.numbers);
-        if (read.n < 0 || read.k < 0) {
-            return read;
+        auto const [wavelength, n, k] = split.values();
+        if (n < 0 || k < 0) {
+            return IORColumns{wavelength, n, k};
         }
     }
     return {};

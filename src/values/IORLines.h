@@ -21,7 +21,7 @@
 namespace zsg {
 
 struct IORHeader {
-    int unit = 0; ///< 1 to 4 in a sensible file
+    std::int64_t unit = 0; ///< 1 to 4 in a sensible file
     double start = 0;
     double end = 0;
     std::int64_t intervals = 0;

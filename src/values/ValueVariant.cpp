@@ -1,7 +1,9 @@
 #include "zsg/values/ValueVariant.h"
 
+#include "values/defaults.h"
 #include "values/equality.h"
 
+#include <memory>
 #include <type_traits>
 #include <utility>
 
@@ -57,6 +59,34 @@ bool ValueVariant<T>::copyTo(Variant& target) const {
     } else {
         return target.set(&value_);
     }
+}
+
+namespace {
+
+Variant* makeHolder(Type type) {
+    switch (type) {
+#define ZSG_MAKE_HOLDER(member, number, T)                                                         \
+    case Type::member:                                                                             \
+        return new ValueVariant<T>(defaultValue<T>());
+        ZSG_VALUE_TYPES(ZSG_MAKE_HOLDER)
+#undef ZSG_MAKE_HOLDER
+    default:
+        return nullptr;
+    }
+}
+
+} // namespace
+
+// These two stand beside the definitions of the holders and call no exported function, which could
+// not be inlined: creating and cloning then cost little more than the allocation.
+Variant* makeVariant(Type type) { return makeHolder(type); }
+
+Variant* Variant::cloneValue() const {
+    std::unique_ptr<Variant> clone(makeHolder(type()));
+    if (clone) {
+        copyTo(*clone);
+    }
+    return clone.release();
 }
 
 #define ZSG_DEFINE_HOLDER(member, number, T) template class ZSG_TEMPLATE_DEFINITION ValueVariant<T>;

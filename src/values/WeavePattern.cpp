@@ -74,6 +74,18 @@ void WeavePattern::Data::replaceGrid(WeavePattern& pattern, WeaveGrid grid) {
     }
 }
 
+// Inline, because calls of exported functions go through the dynamic linker even in here.
+inline void WeavePattern::wrap(int& x, int& y) const noexcept {
+    x = wrapped(x, d_->grid.record().numWarp);
+    y = wrapped(y, d_->grid.record().numWeft);
+}
+
+inline void WeavePattern::detach() {
+    if (d_->isShared()) {
+        Data::replaceGrid(*this, WeaveGrid(d_->grid));
+    }
+}
+
 WeavePattern::WeavePattern() noexcept : d_(Data::standard().share()) {}
 
 WeavePattern::WeavePattern(int numWarp, int numWeft, int const* cells) : WeavePattern() {
@@ -116,17 +128,6 @@ nyx::WeavePattern const* WeavePattern::nyxWeavePattern() const noexcept {
     return &d_->grid.record();
 }
 
-void WeavePattern::wrap(int& x, int& y) const noexcept {
-    x = wrapped(x, numWarp());
-    y = wrapped(y, numWeft());
-}
-
-void WeavePattern::detach() {
-    if (d_->isShared()) {
-        Data::replaceGrid(*this, WeaveGrid(d_->grid));
-    }
-}
-
 WeavePattern::YarnType WeavePattern::get(int x, int y) const noexcept {
     wrap(x, y);
     return static_cast<YarnType>(d_->grid.cells()[d_->grid.index(x, y)]);
@@ -145,16 +146,17 @@ void WeavePattern::flip(int x, int y) {
 }
 
 void WeavePattern::invert() {
-    auto const inverted = [](WeaveGrid const& from, WeaveGrid& to) {
-        std::transform(from.cells(), from.cells() + from.count(), to.cells(),
-                       [](WeaveGrid::Cell cell) { return cell ^ 1; });
-    };
+    std::size_t const count = d_->grid.count();
     if (d_->isShared()) { // in one pass rather than copy and change
         WeaveGrid grid(numWarp(), numWeft());
-        inverted(d_->grid, grid);
+        std::transform(d_->grid.cells(), d_->grid.cells() + count, grid.cells(),
+                       [](WeaveGrid::Cell cell) { return cell ^ 1; });
         Data::replaceGrid(*this, std::move(grid));
-    } else {
-        inverted(d_->grid, d_->grid);
+        return;
+    }
+    WeaveGrid::Cell* const cells = d_->grid.cells();
+    for (std::size_t i = 0; i < count; ++i) {
+        cells[i] ^= 1;
     }
 }
 

@@ -57,12 +57,12 @@ bool loadIORFile(std::string const& path, FloatArray& out) noexcept {
         if (samples.empty()) {
             return false;
         }
-        FloatArray triples;
-        triples.reserve(static_cast<qsizetype>(3 * samples.size()));
+        FloatArray triples(static_cast<qsizetype>(3 * samples.size()));
+        float* to = triples.data();
         for (IORSample const& sample : samples) {
-            triples.append(static_cast<float>(sample.wavelength));
-            triples.append(static_cast<float>(sample.n));
-            triples.append(static_cast<float>(sample.k));
+            *to++ = static_cast<float>(sample.wavelength);
+            *to++ = static_cast<float>(sample.n);
+            *to++ = static_cast<float>(sample.k);
         }
         out = std::move(triples);
         return true;

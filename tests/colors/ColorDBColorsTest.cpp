@@ -1,60 +1,248 @@
 #include "colors/ColorScene.h"
 
+#include <utility>
+
 using namespace zsg;
 using nyx::ColorId;
-using nyx::ColorwayId;
 
 namespace {
 
-class ColorDBColorsTest : public ColorScene {};
+class ColorDBColorsTest : public ColorScene {
+protected:
+    ColorId const red = color("Red", 1);
+    ColorId const blue = color("Blue");
+    ColorId const multi = multiColor("Multi", {red, blue});
+};
 
 using Element = ZColorExt::ZColorWithId;
 
-ZColorExt plainValue(std::string const& name, float red) {
-    return ZColorExt(ZColor(red, 0, 0, 1, name));
+/// Takes "Dark" for an existing colour, and brings a second "Red" along.
+ZColorExt newMultiColor(ColorId existing) {
+    ZColorExt value;
+    value.setMultiColor(true);
+    value.setColorName("Red");
+    value.setColors({Element(ZColor(0.5f, 0, 0, 1, "Dark"), existing),
+                     Element(ZColor(0, 0, 1, 1, "Red"), ColorId())});
+    value.setActiveIndex(1);
+    return value;
 }
 
 } // namespace
 
 TEST_F(ColorDBColorsTest, PushingANewMultiColorMakesItsRecordsAndTellsOfThem) {
-    ColorId const red = color("Red", 1);
-    ZColorExt value;
-    value.setMultiColor(true);
-    value.setColorName("Red");
-    value.setColors({Element(ZColor(0.5f, 0, 0, 1, "Dark"), red),
-                     Element(ZColor(0, 0, 1, 1, "Red"), ColorId())});
-    value.setActiveIndex(1);
+    ZColorExt value = newMultiColor(red);
     ZColorExt const shared = value;
-    EXPECT_EQ(trace([&] { db->pushColor(value); }), "?");
+    EXPECT_EQ(trace([&] { db->pushColor(value); }), R"(
+lock
+begin_color
+set_param "display_name" 10 "Red"
+end_color
+nyx_color_set_unique_name 4
+nyx_color_set_unique_name 4
+unlock
+color_params 4
+lock
+begin_color
+set_param "display_name" 10 "Red"
+end_color
+nyx_color_set_unique_name 5
+nyx_color_set_unique_name 5
+unlock
+> ColorCreated 5
+color_params 1
+commit_color_params 1
+> ColorUpdated 1
+color_params 5
+commit_color_params 5
+> ColorUpdated 5
+> ColorCreated 4
+commit_color_params 4
+> ColorUpdated 4
+> ColorUpdated 1
+> ColorUpdated 5
+)");
     EXPECT_FALSE(shared.getId().isValid()); // the caller's copies are not written to
     EXPECT_EQ(value.getColorName(), "Red 1");
     ZColorExt const read = db->colorFromId(value.getId());
     EXPECT_EQ(read, value);
     EXPECT_EQ(read.revision(), value.revision());
-    EXPECT_EQ(trace([&] { db->pushColor(value); }), "?");
-    EXPECT_EQ(trace([&] { db->pushColor(value); }), "?");
+    EXPECT_EQ(trace([&] { db->pushColor(value); }), "\n");
 
     value.setMultiColor(false);
     value.setActiveIndex(0);
-    EXPECT_EQ(trace([&] { db->pushColor(value); }), "?");
+    EXPECT_EQ(trace([&] { db->pushColor(value); }), "\ncommit_color_params 4\n> ColorUpdated 4\n");
     EXPECT_EQ(db->colorFromId(value.getId()).nColors(), 1);
     EXPECT_EQ(db->colorFromId(value.getId()).rgba().r, 0.5f);
+    EXPECT_TRUE(db->getColorParameters(value.getId())->subColors().empty());
+
+    ColorId const id = db->idFromColor(ZColorExt(ZColor(1, 1, 1, 1, "Blue")));
+    EXPECT_EQ(db->colorFromId(id).getColorName(), "Blue 1");
+    EXPECT_EQ(trace([&] { EXPECT_EQ(db->idFromColor(db->colorFromId(id)), id); }), "\n");
+}
+
+TEST_F(ColorDBColorsTest, AValueListsASubColorWithoutARecordOnlyInTheActiveIndex) {
+    ColorId const gone = color("Gone");
+    ColorId const holed = renderer.addMultiColor("Holed", {{gone, red, blue}}, red);
+    renderer.removeColor(gone);
+    ZColorExt const value = db->colorFromId(holed);
+    EXPECT_EQ(value.nColors(), 2);
+    EXPECT_EQ(value.getIndexOfSubColor(red), 0);
+    EXPECT_EQ(value.activeIndex(), 1);
+    EXPECT_EQ(db->colorFromId(gone), ZColorExt());
 }
 
 TEST_F(ColorDBColorsTest, CopiesAreMadeUnderTheLockAndToldOfAfterIt) {
-    ColorId const red = color("Red", 1);
-    ColorId const blue = color("Blue");
-    ColorId const multi = multiColor("Multi", {red, blue});
     db->getColorParameters(multi)->setColor({0.5f, 0, 0, 1}); // copies take what is not committed
     ColorId copy;
-    EXPECT_EQ(trace([&] { copy = db->clone(multi); }), "?");
+    std::string const steps = R"(
+lock
+begin_color
+end_color
+clone_color_params 3
+commit_color_params 4
+release_color_params 4
+unlock
+set_modified true
+nyx_color_set_unique_name 4
+> ColorCreated 4
+> ColorUpdated 3
+)";
+    EXPECT_EQ(trace([&] { copy = db->clone(multi); }), steps);
     EXPECT_EQ(db->getColorParameters(copy)->color().r, 0.5f);
+    EXPECT_EQ(db->getColorParameters(copy)->displayName(), "Multi 1");
     EXPECT_TRUE(db->getColorParameters(copy)->hasSubColor(blue));
-    EXPECT_EQ(trace([&] { copy = db->multiColorFromColor(red); }), "?");
-    EXPECT_TRUE(db->getColorParameters(copy)->hasSubColor(red));
-    EXPECT_EQ(trace([&] { copy = db->cloneRecursively(multi); }), "?");
+    EXPECT_FALSE(db->getColorParameters(copy)->isModified());
+
+    ColorId const wrapper = db->multiColorFromColor(red);
+    EXPECT_EQ(db->colorFromId(wrapper).getColorName(), "Red 1");
+    EXPECT_EQ(db->colorFromId(wrapper).getActiveSubColorId(), red);
+    EXPECT_EQ(db->colorFromId(wrapper).nColors(), 1);
+
+    db->setActiveSubColor({multi, blue});
+    EXPECT_TRUE(trace([&] { copy = db->cloneRecursively(multi); })
+                    .ends_with("> ColorCreated 8\n> ColorUpdated 2\n"
+                               "commit_color_params 6\nset_modified true\n"));
     ZColorExt const value = db->colorFromId(copy);
     ASSERT_EQ(value.nColors(), 2);
-    EXPECT_EQ(value.getName(1), "Blue 1");
-    EXPECT_EQ(value.getActiveSubColorId(), value.getSubColorId(0));
+    EXPECT_EQ(value.getName(0) + value.getName(1), "Red 2Blue 1");
+    EXPECT_EQ(value.activeIndex(), 1);
+    EXPECT_FALSE(value.hasSubColor(red) || value.hasSubColor(blue));
+    EXPECT_EQ(db->colorFromId(db->cloneRecursively(red)).nColors(), 1);
+}
+
+TEST_F(ColorDBColorsTest, TheTemporaryColorIsOneHiddenRecord) {
+    ZColorExt preview(ZColor(1, 0, 0, 1, "Preview"));
+    renderer.faults().failCreations = 1;
+    db->pushTempColor(preview);
+    EXPECT_FALSE(preview.getId().isValid());
+    std::size_t const before = db->colors().size();
+    EXPECT_EQ(trace([&] { db->pushTempColor(preview); }), R"(
+lock
+begin_color
+end_color
+unlock
+color_params 4
+commit_color_params 4
+> ColorUpdated 4
+)");
+    ZColorExt other = db->colorFromId(multi);
+    db->pushTempColor(other);
+    EXPECT_EQ(other.getId(), preview.getId());
+    EXPECT_EQ(db->colorFromId(preview.getId()).nColors(), 2);
+    EXPECT_EQ(db->colors().size(), before);
+    EXPECT_TRUE(db->getColorParameters(preview.getId())->hasFlag(ColorFlags::Temporary));
+}
+
+TEST_F(ColorDBColorsTest, OnlyAnotherListedSubColorBecomesActive) {
+    struct {
+        MultiColorPair pair;
+        bool switches;
+    } const rows[] = {
+        {{multi, red}, false}, {{multi, multi}, false}, {{multi, {}}, false},
+        {{{}, red}, false},    {{red, blue}, false},    {{multi, blue}, true},
+    };
+    for (auto const& [pair, switches] : rows) {
+        EXPECT_EQ(trace([&] { db->setActiveSubColor(pair); }).find("commit") != std::string::npos,
+                  switches);
+    }
+    EXPECT_EQ(db->getColorParameters(multi)->activeSub(), blue);
+}
+
+TEST_F(ColorDBColorsTest, ASavedStateReplacesTheEditAndIsAlwaysWritten) {
+    ZColorExtEdit* const edit = db->getColorParameters(red);
+    auto const saved = edit->copyFor(red);
+    edit->setColor({0.25f, 0, 0, 1});
+    db->pushColor(red);
+    EXPECT_EQ(trace([&] { db->setColorEdit(saved.get()); }), R"(
+clone_color_params 1
+release_color_params 1
+commit_color_params 1
+> ColorUpdated 1
+)");
+    EXPECT_EQ(db->getColorParameters(red)->color().r, 1);
+    EXPECT_EQ(db->getColorParameters(red)->revision(), 1u);
+    db->setColorEdit(db->getColorParameters(red)); // the very one that it replaces
+    EXPECT_EQ(db->getColorParameters(red)->displayName(), "Red");
+    ZColorExtEdit const none(renderer.api(), nullptr);
+    EXPECT_EQ(trace([&] { db->setColorEdit(&none); }), "\n");
+}
+
+TEST_F(ColorDBColorsTest, FailedCreationsLeaveTheInvalidIdAndNothingElse) {
+    renderer.faults().failCreations = 4;
+    ZColorExt value(ZColor(1, 0, 0, 1, "New"));
+    EXPECT_EQ(trace([&] {
+                  EXPECT_EQ(db->clone(red), ColorId());
+                  EXPECT_EQ(db->multiColorFromColor(red), ColorId());
+                  EXPECT_EQ(db->createColor("New", nyxColor_extended::PlainColor), ColorId());
+                  db->pushColor(value);
+              }).find('>'),
+              std::string::npos);
+    EXPECT_EQ(value, ZColorExt(ZColor(1, 0, 0, 1, "New")));
+
+    ZColorExt parts = newMultiColor(ColorId());
+    parts.setId(multi); // both elements are new, and the first cannot be made
+    renderer.faults().failCreations = 1;
+    db->pushColor(parts);
+    EXPECT_FALSE(parts.getSubColorId(0).isValid());
+    ASSERT_EQ(db->getColorParameters(multi)->subColors().size(), 1u);
+    EXPECT_EQ(db->getColorParameters(multi)->activeSub(), parts.getSubColorId(1));
+}
+
+TEST_F(ColorDBColorsTest, ListenersMayReplaceAndDropEdits) {
+    nyx::ColorwayId const colorway = renderer.addColorway("Way", {{multi, red}});
+    use(multi);
+    db->getColorwayParameters(colorway);
+    ZColorExt value = newMultiColor(blue);
+    value.setId(multi);
+    reaction = [&](Event const&) {
+        auto const again = std::exchange(reaction, nullptr);
+        db->handleColorwayActivated(colorway);
+        db->setColorEdit(db->getColorParameters(blue)->copyFor(multi).get());
+        db->setColorwayEdit(db->getColorwayParameters(colorway));
+        reaction = again;
+    };
+    db->pushColor(value);
+    db->setActiveSubColor({multi, blue});
+    db->cloneRecursively(multi);
+    db->applyColorway(colorway);
+    EXPECT_EQ(db->activeColorwayId(), colorway);
+    reaction = nullptr;
+}
+
+TEST_F(ColorDBColorsTest, ADerivedDatabaseInterceptsPushesAndEdits) {
+    struct Derived : ColorDB {
+        using ColorDB::ColorDB;
+        using ColorDB::pushColor;
+        void pushColor(ColorId) override { ++pushes; }
+        ZColorExtEdit* getColorParameters(ColorId id) override {
+            ++lookUps;
+            return ColorDB::getColorParameters(id);
+        }
+        int pushes = 0;
+        int lookUps = 0;
+    } derived(&queue, renderer.api());
+    ZColorExt value = newMultiColor(red);
+    EXPECT_EQ(trace([&] { derived.pushColor(value); }).find("commit"), std::string::npos);
+    EXPECT_EQ(derived.pushes, 3);
+    EXPECT_GE(derived.lookUps, 3);
 }

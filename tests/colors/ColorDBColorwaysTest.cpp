@@ -22,8 +22,151 @@ protected:
 TEST_F(ColorDBColorwaysTest, ApplyingMovesTheActiveFlagAndSwitchesWhatStillBelongs) {
     use(shoe);
     use(sole);
-    EXPECT_EQ(trace([&] { db->applyColorway(summer); }), "?");
-    EXPECT_EQ(trace([&] { db->applyColorway(winter); }), "?");
-    EXPECT_EQ(trace([&] { renderer.processEvents(); }), "?");
-    EXPECT_EQ(trace([&] { db->handleColorwayActivated(winter); }), "?");
+    EXPECT_EQ(trace([&] { db->applyColorway(summer); }), R"(
+colorway_params 1
+nyx_color_reference_count 3
+nyx_color_reference_count 4
+color_settings_params
+commit_color_settings_params
+nyx_get_colordb_revision
+nyx_get_colorways
+colorway_params 2
+nyx_color_reference_count 3
+nyx_color_reference_count 4
+colorway_params 3
+commit_colorway_params 1
+> ColorWayUpdated 1
+call_after_sync
+color_params 3
+color_params 4
+)");
+    EXPECT_EQ(trace([&] { db->applyColorway(winter); }), R"(
+commit_color_settings_params
+nyx_get_colordb_revision
+nyx_get_colorways
+commit_colorway_params 1
+> ColorWayUpdated 1
+call_after_sync
+commit_colorway_params 2
+> ColorWayUpdated 2
+call_after_sync
+commit_color_params 3
+> ColorUpdated 3
+> ColorUpdated 1
+> ColorUpdated 2
+)");
+    EXPECT_EQ(db->getColorParameters(shoe)->activeSub(), blue);
+    EXPECT_EQ(db->getColorParameters(sole)->activeSub(), red);
+    EXPECT_EQ(db->activeColorwayName(), "Winter");
+    EXPECT_EQ(trace([&] { renderer.processEvents(); }),
+              "\n> ColorwaySynced 1\n> ColorwaySynced 1\n> ColorwaySynced 2\n");
+
+    for (ColorwayId const id : {empty, ColorwayId(), ColorwayId(77)}) {
+        EXPECT_EQ(trace([&] { db->applyColorway(id); }).find("commit"), std::string::npos);
+    }
+    EXPECT_EQ(db->activeColorwayId(), winter);
+}
+
+TEST_F(ColorDBColorwaysTest, TheFirstReadingDropsUnusedMultiColorsUncommitted) {
+    use(shoe);
+    EXPECT_EQ(db->getColorwayParameters(summer)->multiColors().size(), 1u);
+    EXPECT_TRUE(db->getColorwayParameters(summer)->isModified());
+    EXPECT_EQ(ColorDB(&queue, renderer.api()).getColorwayParameters(summer)->activeSubOf(shoe),
+              red);
+    use(sole); // too late for the edit that was read, and for what is written next
+    db->getColorwayParameters(summer)->setDisplayName("Spring");
+    db->pushColorway(summer);
+    EXPECT_EQ(ColorDB(&queue, renderer.api()).getColorwayParameters(summer)->activeSubOf(sole),
+              ColorId());
+}
+
+TEST_F(ColorDBColorwaysTest, PushingFollowsTheActiveFlagInTheSettings) {
+    EXPECT_EQ(trace([&] { db->pushColorway(summer); }), "\n"); // no edit was asked for
+    ZColorwayEdit* const edit = db->getColorwayParameters(summer);
+    edit->setActive(true);
+    db->pushColorway(summer);
+    EXPECT_EQ(db->activeColorwayId(), summer);
+    EXPECT_EQ(trace([&] { db->pushColorway(summer); }), "\n");
+    db->getColorwayParameters(empty)->setDisplayName("Void");
+    db->pushColorway(empty);
+    EXPECT_EQ(db->activeColorwayName(), "Summer");
+    edit->setActive(false);
+    EXPECT_EQ(trace([&] { db->pushColorway(summer); }), R"(
+commit_colorway_params 1
+commit_color_settings_params
+> ColorWayUpdated 1
+call_after_sync
+)");
+    EXPECT_EQ(db->activeColorwayId(), ColorwayId());
+    EXPECT_EQ(db->activeColorwayName() + db->colorwayName(ColorwayId()), "");
+
+    auto const saved = edit->copy();
+    edit->setDeleted(true);
+    EXPECT_EQ(trace([&] { db->setColorwayEdit(saved.get()); }), R"(
+clone_color_params 1
+release_colorway_params 1
+commit_colorway_params 1
+> ColorWayUpdated 1
+call_after_sync
+)");
+    EXPECT_FALSE(db->getColorwayParameters(summer)->isDeleted());
+}
+
+TEST_F(ColorDBColorwaysTest, ASwitchOfTheRendererRereadsTheColorwayAndItsMultiColors) {
+    use(shoe);
+    use(sole);
+    EXPECT_EQ(trace([&] { db->handleColorwayActivated(winter); }), "\n"); // nothing was read yet
+    db->getColorwayParameters(winter);
+    ZColorExtEdit* const edit = db->getColorParameters(shoe);
+    edit->setColor({0.5f, 0, 0, 1});
+    EXPECT_FALSE(db->activeColorwayId().isValid());
+    renderer.activateColorway(winter);
+    EXPECT_EQ(db->getColorParameters(shoe)->activeSub(), red);
+    EXPECT_EQ(trace([&] { db->handleColorwayActivated(winter); }), R"(
+release_color_params 3
+color_params 3
+> ColorUpdated 3
+color_params 4
+> ColorUpdated 4
+release_colorway_params 2
+colorway_params 2
+nyx_color_reference_count 3
+nyx_color_reference_count 4
+> ColorWayUpdated 2
+call_after_sync
+)");
+    EXPECT_EQ(db->getColorParameters(shoe)->activeSub(), blue);
+    EXPECT_FALSE(db->getColorParameters(shoe)->isModified());
+    EXPECT_TRUE(db->getColorwayParameters(winter)->isActive());
+    EXPECT_FALSE(db->activeColorwayId().isValid()); // the settings stay as they were read
+}
+
+TEST_F(ColorDBColorwaysTest, SettingsThatAreMissingAreAskedForAgain) {
+    renderer.faults().noSettings = true;
+    EXPECT_EQ(db->getColorSettingsParameters(), nullptr);
+    EXPECT_FALSE(db->activeColorwayId().isValid());
+    use(shoe);
+    db->applyColorway(summer);
+    EXPECT_TRUE(db->getColorwayParameters(summer)->isActive());
+    renderer.faults().noSettings = false;
+    EXPECT_NE(db->getColorSettingsParameters(), nullptr);
+    EXPECT_FALSE(db->activeColorwayId().isValid());
+}
+
+TEST_F(ColorDBColorwaysTest, NewColorwaysAreToldOfAtOnceAndWhenTheRendererHasThem) {
+    ColorwayId const fresh = db->createColorway();
+    ASSERT_EQ(fresh, ColorwayId(4));
+    EXPECT_EQ(db->colorways().size(), 4u);
+    db.reset(); // the callback is the queue's
+    EXPECT_EQ(trace([&] { renderer.processEvents(); }), "\n> ColorwaySynced 4\n");
+
+    auto other = std::make_unique<ZEventQueue>();
+    db = std::make_unique<ColorDB>(other.get(), renderer.api());
+    db->createColorway();
+    db = std::make_unique<ColorDB>(&queue, renderer.api());
+    other.reset();
+    renderer.processEvents(); // nobody to tell
+    renderer.faults().failCreations = 1;
+    EXPECT_EQ(trace([&] { EXPECT_FALSE(db->createColorway().isValid()); }),
+              "\nlock\nbegin_colorway\nend_colorway\nunlock\n");
 }

@@ -47,21 +47,24 @@ void drag(Host& host, Arguments& arguments) {
         float const t = static_cast<float>(i) / static_cast<float>(steps);
         auto const mix = [t](float a, float b) { return a + (b - a) * t; };
         controller(host).setColor(
-            id,
-            ZColor(mix(from.r, to.r), mix(from.g, to.g), mix(from.b, to.b), mix(from.a, to.a)),
+            id, ZColor(mix(from.r, to.r), mix(from.g, to.g), mix(from.b, to.b), mix(from.a, to.a)),
             i == steps ? zsg::AllowForwardUndoMerge::No : zsg::AllowForwardUndoMerge::Yes);
     }
 }
 
 void name(Host& host, Arguments& arguments) {
     nyx::ColorId const id = takeColor(host, arguments);
-    controller(host).setDisplayName(id, arguments.word("a name"));
+    std::string const text = arguments.word("a name");
+    arguments.done();
+    controller(host).setDisplayName(id, text);
 }
 
 void flags(Host& host, Arguments& arguments) {
     nyx::ColorId const id = takeColor(host, arguments);
     int const bits = arguments.integer("flag bits");
-    controller(host).setFlags(id, bits, arguments.onOff());
+    bool const on = arguments.onOff();
+    arguments.done();
+    controller(host).setFlags(id, bits, on);
 }
 
 void subNew(Host& host, Arguments& arguments) {
@@ -116,23 +119,31 @@ void subRemove(Host& host, Arguments& arguments) {
 
 void subSwitch(Host& host, Arguments& arguments) {
     nyx::ColorId const multi = takeColor(host, arguments, "a multi-colour");
-    controller(host).setActiveSubColor(multi, takeColor(host, arguments, "a sub-colour"));
+    nyx::ColorId const sub = takeColor(host, arguments, "a sub-colour");
+    arguments.done();
+    controller(host).setActiveSubColor(multi, sub);
 }
 
 void subChange(Host& host, Arguments& arguments) {
     nyx::ColorId const multi = takeColor(host, arguments, "a multi-colour");
     nyx::ColorId const from = takeColor(host, arguments, "a sub-colour");
-    controller(host).changeSubColor(multi, from, takeColor(host, arguments));
+    nyx::ColorId const to = takeColor(host, arguments);
+    arguments.done();
+    controller(host).changeSubColor(multi, from, to);
 }
 
 void subUnlink(Host& host, Arguments& arguments) {
     nyx::ColorId const multi = takeColor(host, arguments, "a multi-colour");
-    controller(host).unlinkSubColor(multi, arguments.number("a position"));
+    unsigned const index = arguments.number("a position");
+    arguments.done();
+    controller(host).unlinkSubColor(multi, index);
 }
 
 void toggle(Host& host, Arguments& arguments) {
+    nyx::ColorId const id = takeColor(host, arguments);
+    arguments.done();
     try {
-        printId(host, controller(host).toggleMultiColor(takeColor(host, arguments)));
+        printId(host, controller(host).toggleMultiColor(id));
     } catch (std::bad_optional_access const&) {
         throw CommandError("the colour has no name and there is none to be had");
     }
@@ -140,7 +151,9 @@ void toggle(Host& host, Arguments& arguments) {
 
 void link(Host& host, Arguments& arguments) {
     nyx::ColorId const from = takeColor(host, arguments);
-    controller(host).linkColor(from, takeColor(host, arguments));
+    nyx::ColorId const to = takeColor(host, arguments);
+    arguments.done();
+    controller(host).linkColor(from, to);
 }
 
 void uses(Host& host, Arguments& arguments) {
@@ -163,12 +176,16 @@ void colorwayCreate(Host& host, Arguments& arguments) {
 }
 
 void colorwayApply(Host& host, Arguments& arguments) {
-    controller(host).applyColorway(takeColorway(host, arguments));
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    arguments.done();
+    controller(host).applyColorway(id);
 }
 
 void colorwayName(Host& host, Arguments& arguments) {
     nyx::ColorwayId const id = takeColorway(host, arguments);
-    controller(host).setDisplayName(id, arguments.word("a name"));
+    std::string const text = arguments.word("a name");
+    arguments.done();
+    controller(host).setDisplayName(id, text);
 }
 
 void colorwaySet(Host& host, Arguments& arguments) {
@@ -189,11 +206,15 @@ void colorwayRemove(Host& host, Arguments& arguments) {
 }
 
 void colorwayDelete(Host& host, Arguments& arguments) {
-    controller(host).setDeleted(takeColorway(host, arguments), true);
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    arguments.done();
+    controller(host).setDeleted(id, true);
 }
 
 void colorwayRestore(Host& host, Arguments& arguments) {
-    controller(host).setDeleted(takeColorway(host, arguments), false);
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    arguments.done();
+    controller(host).setDeleted(id, false);
 }
 
 /// Answers every conflict alike and says so.
@@ -240,13 +261,15 @@ void linkerImport(Host& host, Arguments& arguments) {
 void linkerMerge(Host& host, Arguments& arguments) {
     nyx::ColorId const to = takeColor(host, arguments, "a multi-colour");
     nyx::ColorId const from = takeColor(host, arguments, "a multi-colour");
+    arguments.done();
     host.root().colorDB()->getColorLinker(&controller(host), nullptr)->mergeSubColors(to, from);
 }
 
 constexpr Command table[] = {
     {"edit color", "COLOR R G B [A] [name NAME] [last]",
      "set a value; the next one merges unless this is the last", color},
-    {"edit drag", "COLOR R G B [A] in STEPS", "set a value in steps that merge, as a picker does", drag},
+    {"edit drag", "COLOR R G B [A] in STEPS", "set a value in steps that merge, as a picker does",
+     drag},
     {"edit name", "COLOR NAME", "rename a colour", name},
     {"edit flags", "COLOR BITS on|off", "set or clear flags of a plain colour", flags},
     {"edit toggle", "COLOR", "make a multi-colour of it, or one of its sub-colours", toggle},

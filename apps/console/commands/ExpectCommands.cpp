@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
+#include <sstream>
 
 namespace console {
 
@@ -84,6 +86,26 @@ void same(Host& host, Arguments& arguments) {
                        lineAt(found->second, before) + "\", is \"" + lineAt(now, after) + "\"");
 }
 
+void kept(Host& host, Arguments& arguments) {
+    std::string const name = arguments.word("the name of a kept state");
+    auto const& dumps = host.state<Dumps>().byName;
+    auto const found = dumps.find(name);
+    if (found == dumps.end()) {
+        throw CommandError("no state is kept as \"" + name + "\"");
+    }
+    std::istringstream now(host.renderer().dump());
+    std::set<std::string> lines;
+    for (std::string line; std::getline(now, line);) {
+        lines.insert(line);
+    }
+    std::istringstream before(found->second);
+    for (std::string line; std::getline(before, line);) {
+        if (!lines.contains(line)) {
+            throw CommandError("the scene no longer holds \"" + line + "\"");
+        }
+    }
+}
+
 void contains(Host& host, Arguments& arguments) {
     std::string const text = arguments.word("a text");
     if (host.renderer().dump().find(text) == std::string::npos) {
@@ -106,6 +128,7 @@ constexpr Command table[] = {
     {"expect clean", "yes|no", "whether the saved state is the present one", cleanState},
     {"scene keep", "NAME", "keep the present state to compare with", keep},
     {"expect scene", "NAME", "the scene is as it was when it was kept", same},
+    {"expect kept", "NAME", "all that was kept is as it was; new records do not count", kept},
     {"expect contains", "TEXT", "the scene's listing contains TEXT", contains},
     {"expect calls", "N", "so many recorded calls to the renderer; forgets them", journal},
 };

@@ -23,7 +23,11 @@ Channel& channel() {
     return instance;
 }
 
-std::string formatted(char const* format, std::va_list arguments) {
+#if defined(__GNUC__)
+__attribute__((format(printf, 1, 0)))
+#endif
+std::string
+formatted(char const* format, std::va_list arguments) {
     std::va_list again;
     va_copy(again, arguments);
     int const length = std::vsnprintf(nullptr, 0, format, arguments);

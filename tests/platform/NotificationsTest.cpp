@@ -1,0 +1,163 @@
+#include "support/TestScene.h"
+
+#include "nyxembedded/Warnings.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+
+#include <functional>
+#include <stdexcept>
+
+using nyx::ColorId;
+
+namespace {
+
+/// Writes down what is delivered: "5006 3 1", "5007 2", and what its functions write themselves.
+class Notifications : public TestScene {
+protected:
+    Notifications() {
+        renderer.setMessageHandler([this](nyxMessage const& message) {
+            log += std::to_string(message.code);
+            for (ColorId const id : message.colors) {
+                log += ' ' + std::to_string(id.toUint());
+            }
+            if (message.colorway.isValid()) {
+                log += ' ' + std::to_string(message.colorway.toUint());
+            }
+            log += '\n';
+            if (onMessage) {
+                onMessage(message);
+            }
+        });
+    }
+
+    void commitValue(ColorId id, float red) {
+        nyxParameter_edit* const block = api()->color_params(id);
+        findEntry(*block, "color")->value.rgba[0] = red;
+        api()->commit_color_params(block);
+        api()->release_color_params(block);
+    }
+    void later(std::string const& text) {
+        api()->call_after_sync([this, text] { log += text + '\n'; });
+    }
+    std::string take() { return std::exchange(log, {}); }
+
+    std::string log;
+    std::function<void(nyxMessage const&)> onMessage;
+};
+
+} // namespace
+
+TEST_F(Notifications, OneTurnDeliversColorsThenMessagesThenFunctions) {
+    SmallScene const made = addSmallScene();
+    later("a");
+    renderer.activateColorway(made.winter);
+    commitValue(made.blue, 0.5f);
+    commitValue(made.red, 0.5f);
+    later("b");
+    commitValue(made.blue, 0.75f);
+    commitValue(made.green, 0.0f); // what it was
+    EXPECT_EQ(take(), "") << "never inside the call";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(take(), "5006 3 1\n5007 2\na\nb\n");
+    QCoreApplication::processEvents();
+    renderer.processEvents();
+    EXPECT_EQ(take(), "") << "all of it once";
+
+    EXPECT_EQ(renderer.activeColorway(), made.winter);
+    EXPECT_EQ(renderer.color(made.cover)->activeSub, made.green);
+    EXPECT_EQ(renderer.colorway(made.winter)->flags, 2u);
+    EXPECT_TRUE(renderer.activateColorway(made.summer));
+    EXPECT_EQ(renderer.colorway(made.winter)->flags, 0u);
+    EXPECT_FALSE(renderer.activateColorway(nyx::ColorwayId(9)));
+    EXPECT_FALSE(renderer.changeColor(ColorId(99), {}));
+    renderer.changeColor(made.green, {0, 1, 0, 1});
+    renderer.processEvents();
+    EXPECT_EQ(take(), "5006 2\n5007 1\n");
+}
+
+TEST_F(Notifications, ASwitchLeavesSubColorsAloneThatAMultiColorDoesNotList) {
+    SmallScene const made = addSmallScene();
+    nyx::ColorwayId const odd = renderer.addColorway(
+        "Odd", {{made.cover, made.blue}, {made.red, made.green}, {ColorId(99), made.red}});
+    std::string const before = renderer.dump();
+    renderer.activateColorway(odd);
+    EXPECT_EQ(renderer.color(made.cover)->activeSub, made.red);
+    EXPECT_FALSE(renderer.color(made.red)->activeSub.isValid());
+    EXPECT_NE(renderer.dump(), before);
+}
+
+TEST_F(Notifications, WhatReceiversCauseWaitsForTheTurnAfter) {
+    SmallScene const made = addSmallScene();
+    int rounds = 0;
+    onMessage = [&](nyxMessage const& message) {
+        if (message.code == nyxMessage::ColorsSynced && ++rounds == 1) {
+            commitValue(made.green, 0.25f);
+            renderer.processEvents(); // ignored inside a delivery
+            later("caused");
+        }
+    };
+    commitValue(made.red, 0.25f);
+    later("own");
+    renderer.processEvents();
+    EXPECT_EQ(take(), "5006 1\nown\n5006 2\ncaused\n");
+
+    std::string warnings;
+    nyx::embedded::setWarningHandler([&](std::string_view text) { warnings += text; });
+    std::function<void()> const again = [&] { api()->call_after_sync(again); };
+    again();
+    renderer.processEvents();
+    EXPECT_NE(warnings.find("1000 turns"), std::string::npos);
+    nyx::embedded::setWarningHandler({});
+    renderer.faults().holdNotifications = true;
+}
+
+TEST_F(Notifications, AThrowingReceiverLosesOnlyItsOwn) {
+    SmallScene const made = addSmallScene();
+    onMessage = [](nyxMessage const&) { throw std::runtime_error("receiver"); };
+    commitValue(made.red, 0.25f);
+    renderer.activateColorway(made.summer);
+    later("function");
+    EXPECT_THROW(renderer.processEvents(), std::runtime_error);
+    onMessage = nullptr;
+    later("more");
+    renderer.processEvents();
+    EXPECT_EQ(take(), "5006 1\n5007 1\nfunction\nmore\n");
+}
+
+TEST_F(Notifications, HeldOnesArriveWhenTheHoldEnds) {
+    SmallScene const made = addSmallScene();
+    renderer.faults().holdNotifications = true;
+    commitValue(made.red, 0.25f);
+    QCoreApplication::processEvents();
+    renderer.processEvents();
+    EXPECT_EQ(take(), "");
+    commitValue(made.green, 0.25f);
+    renderer.faults().holdNotifications = false;
+    QElapsedTimer waited;
+    waited.start();
+    while (log.empty() && !waited.hasExpired(5000)) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+    }
+    EXPECT_EQ(take(), "5006 1 2\n");
+}
+
+TEST_F(Notifications, LoadingAnnouncesTheNewColorsAndForgetsTheOldOnes) {
+    SmallScene const made = addSmallScene();
+    nyx::embedded::Renderer other;
+    other.addColor("Only", {});
+    commitValue(made.green, 0.25f);
+    renderer.activateColorway(made.summer);
+    api()->set_modified(true);
+    EXPECT_NE(renderer.loadSceneText("{"), "");
+    EXPECT_TRUE(renderer.isModified());
+    ASSERT_EQ(renderer.loadSceneText(other.saveSceneText()), "");
+    EXPECT_FALSE(renderer.isModified());
+    later("kept");
+    renderer.processEvents();
+    EXPECT_EQ(take(), "5006 1\nkept\n");
+    renderer.addColor("Second", {});
+    renderer.announceColors();
+    renderer.processEvents();
+    EXPECT_EQ(take(), "5006 1 5\n");
+}

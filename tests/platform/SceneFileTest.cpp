@@ -1,0 +1,211 @@
+#include "nyxembedded/Renderer.h"
+
+#include <gmock/gmock.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <cmath>
+#include <cstddef>
+#include <limits>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+using nyx::embedded::ColorwayPair;
+using nyx::embedded::Renderer;
+
+std::string const showroom = ZSG_SOURCE_DIR "/examples/scenes/showroom.json";
+
+std::string readFile(std::string const& path) {
+    QFile file(QString::fromStdString(path));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path;
+    return file.readAll().toStdString();
+}
+
+std::string scene(std::string const& rest) {
+    return R"({"format":"zsg-scene","version":1,)" + rest + "}";
+}
+
+std::string colors(std::string const& list) { return scene("\"colors\":[" + list + "]"); }
+
+// A file of showroom's size and shape is what people keep under version control, so the text that
+// is written is pinned to the byte.
+TEST(SceneFile, ShowroomRoundTripsToTheByte) {
+    Renderer first;
+    ASSERT_EQ(first.loadScene(showroom), "");
+    EXPECT_EQ(first.saveSceneText(), readFile(showroom));
+
+    Renderer second;
+    ASSERT_EQ(second.loadSceneText(first.saveSceneText()), "");
+    EXPECT_EQ(second.saveSceneText(), first.saveSceneText());
+    EXPECT_EQ(second.dump(), first.dump());
+}
+
+TEST(SceneFile, NothingThatASceneMayHoldIsLost) {
+    constexpr float infinity = std::numeric_limits<float>::infinity();
+    Renderer made;
+    // 7.038531e-26 is the float whose shortest digits come back as its neighbour through double.
+    nyx::ColorId const odd = made.addColor("\"Grün\"\n\\ \t", {7.038531e-26f, -0.0f, 0.1f, 0.25f});
+    nyx::ColorId const gone = made.addColor("gone", {1, 1, 1, 1});
+    nyx::ColorId const bytes = made.addColor("bad \xFF\xC3 bytes", {infinity, -infinity, 3e38f, 1});
+    made.addColor("", {std::numeric_limits<float>::max(), std::numeric_limits<float>::denorm_min(),
+                       16777216.0f, std::numeric_limits<float>::quiet_NaN()});
+    nyx::ColorId const multi = made.addMultiColor("Multi", {{odd, gone, odd, bytes}}, gone);
+    std::vector<ColorwayPair> const pairs{{multi, gone}, {gone, nyx::ColorId()}};
+    made.addColorway("Way", pairs);
+    nyx::MaterialId const material = made.addMaterial("");
+    made.bindColor(material, 0xFFFFFFFFu, "", gone);
+    nyx::GroupItemId const group = made.addGroup("Group");
+    made.addObject("Object", group, nyx::MaterialId(77));
+    made.addLight("Light", group);
+    made.addColor("last", {});
+    ASSERT_TRUE(made.removeColor(gone));
+    ASSERT_TRUE(made.removeColor(nyx::ColorId(6))); // the last one: its id must not come back
+
+    Renderer loaded;
+    ASSERT_EQ(loaded.loadSceneText(made.saveSceneText()), "");
+    EXPECT_EQ(loaded.saveSceneText(), made.saveSceneText());
+    EXPECT_EQ(loaded.dump(), made.dump());
+    EXPECT_EQ(loaded.addColor("new", {}), nyx::ColorId(7));
+
+    // A colorway whose lists differ in length, and the same name twice, exist in scenes too.
+    std::string const text = R"("colors": [
+    {"id": 3, "name": "Red", "originalName": "R", "value": [1, 0, -0.0, 1], "flags": 4294967295},
+    {"id": 9, "name": "Red", "value": ["nan", "inf", "-inf", 1e-45], "activeSub": 4}
+  ],
+  "colorways": [
+    {"id": 4294967294, "name": {"hex": "ff00"}, "flags": 3, "multiColors": [1, 4294967295]}
+  ])";
+    ASSERT_EQ(loaded.loadSceneText(scene(text)), "");
+    EXPECT_THAT(loaded.saveSceneText(), testing::HasSubstr(text));
+}
+
+struct Broken {
+    std::string json;
+    std::string message;
+};
+
+TEST(SceneFile, AWrongFileIsNamedByPlaceAndExpectationAndChangesNothing) {
+    std::string const red = R"({"id":1,"value":[1,0,0,1]})";
+    std::string const deep(1000000, '[');
+    Broken const rows[] = {
+        {"", "line 1, column 1: syntax error while parsing value - unexpected end of input; "
+             "expected '[', '{', or a literal"},
+        {"{\"format\":\n  junk}", "line 2, column 3: syntax error while parsing value - invalid "
+                                  "literal"},
+        {"{\"format\": \"\xC3(\"}", "line 1, column 14: syntax error while parsing value - invalid "
+                                    "string: ill-formed UTF-8 byte"},
+        {scene("\"unitScale\":1e999"), "line 1, column 51: number out of range"},
+        {deep, "/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0: nested deeper "
+               "than 32"},
+        {"[]", "the file: expected an object, found an array"},
+        {"{}", "the file: the key \"format\" is missing"},
+        {R"({"format":"other","version":1})", "/format: expected \"zsg-scene\", found \"other\""},
+        {R"({"format":"zsg-scene","version":2,"x":0})", "/version: expected 1, found 2"},
+        {scene("\"colors\":{}"), "/colors: expected an array, found an object"},
+        {scene("\"a/b~c\":0"), "/a~1b~0c: unknown key"},
+        {colors(R"({"id":1,"id":2})"), "/colors/0/id: the key appears twice"},
+        {colors(red + "," + red), "/colors/1/id: ids ascend: expected 2 or more, found 1"},
+        {colors(R"({"id":0,"value":[1,0,0,1]})"),
+         "/colors/0/id: expected a whole number from 1 to 4294967294, found 0"},
+        {colors(R"({"id":4294967295,"value":[1,0,0,1]})"),
+         "/colors/0/id: expected a whole number from 1 to 4294967294, found 4294967295"},
+        {colors(R"({"id":"1"})"),
+         "/colors/0/id: expected a whole number from 1 to 4294967294, found a string"},
+        {colors(R"({"id":1})"), "/colors/0: the key \"value\" is missing"},
+        {colors(red + R"(,{"id":2,"value":[1,0,"0",1]})"),
+         "/colors/1/value/2: expected a number, found a string"},
+        {colors(R"({"id":1,"value":[1,0,1e39,1]})"),
+         "/colors/0/value/2: expected a number within the range of a 32-bit float, found 1e+39"},
+        {colors(R"({"id":1,"value":[1,0,0]})"),
+         "/colors/0/value: expected 4 numbers (red, green, blue, alpha), found 3"},
+        {colors(R"({"id":1,"name":{"hex":"f"},"value":[1,0,0,1]})"),
+         "/colors/0/name/hex: expected pairs of the digits 0 to 9 and a to f"},
+        {colors(R"({"id":1,"value":[1,0,0,1],"subColors":[2,-1]})"),
+         "/colors/0/subColors/1: expected a whole number from 0 to 4294967295, found -1"},
+        {scene(R"("nextIds":{"color":1},"colors":[)" + red + "]"),
+         "/nextIds/color: expected a whole number from 2 to 4294967295, found 1"},
+        {scene(R"("materials":[{"id":1,"places":[{"node":1,"parameter":"a"},)"
+               R"({"node":1,"parameter":"a","color":3}]}])"),
+         "/materials/0/places/1: the material has this place already"},
+        {scene(R"("materials":[{"id":1,"cmf":[["a","b"],["a","c"]]}])"),
+         "/materials/0/cmf/1: the material has this key already"},
+        {scene(R"("hierarchy":[{"id":1,"kind":"group","parent":1}])"),
+         "/hierarchy/0/parent: expected the id of an item further up, found 1"},
+        {scene(R"("hierarchy":[{"id":1,"kind":"lamp"}])"),
+         "/hierarchy/0/kind: expected \"group\", \"object\" or \"light\", found \"lamp\""},
+        {scene(R"("hierarchy":[{"id":1,"kind":"light","material":1}])"),
+         "/hierarchy/0/material: only objects have a material"},
+    };
+    Renderer renderer;
+    ASSERT_EQ(renderer.loadScene(showroom), "");
+    std::string const before = renderer.saveSceneText();
+    for (Broken const& row : rows) {
+        EXPECT_EQ(renderer.loadSceneText(row.json), row.message) << row.json.substr(0, 200);
+        EXPECT_EQ(renderer.saveSceneText(), before) << row.json.substr(0, 200);
+    }
+    // What is quoted from a file in a message stays readable, however long it is.
+    std::string const longKey(1000000, 'x');
+    EXPECT_EQ(renderer.loadSceneText(scene("\"" + longKey + "\":0")),
+              "/" + longKey.substr(0, 60) + "...: unknown key");
+    EXPECT_LT(renderer.loadSceneText("\"" + longKey).size(), 200u);
+}
+
+TEST(SceneFile, FilesThatCannotBeReadOrWrittenLoseNothing) {
+    QTemporaryDir const folder;
+    std::string const path = folder.filePath("Scène.json").toStdString();
+    std::string const folderPath = folder.path().toStdString();
+    Renderer renderer;
+    EXPECT_EQ(renderer.loadScene(path), path + ": No such file or directory");
+    EXPECT_EQ(renderer.loadScene(folderPath), folderPath + ": is a folder");
+    EXPECT_NE(renderer.saveScene(folderPath), "");
+    EXPECT_NE(renderer.saveScene(folderPath + "/none/x.json"), "");
+
+    renderer.addColor("Red", {1, 0, 0, 1});
+    ASSERT_EQ(renderer.saveScene(path), "");
+    EXPECT_EQ(readFile(path), renderer.saveSceneText());
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{"Scène.json"});
+    ASSERT_EQ(renderer.loadScene(showroom), "");
+    ASSERT_EQ(renderer.saveScene(path), "");
+    EXPECT_EQ(readFile(path), readFile(showroom));
+}
+
+TEST(SceneFile, DamagedFilesLoadOrAreRefusedWhole) {
+    std::string const good = readFile(showroom);
+    Renderer renderer;
+    ASSERT_EQ(renderer.loadSceneText(good), "");
+    std::string current = renderer.saveSceneText();
+    std::mt19937 random(20240229);
+    auto const below = [&random](std::size_t limit) {
+        return static_cast<std::size_t>(random()) % limit;
+    };
+    int loaded = 0;
+    for (int round = 0; round < 300; ++round) {
+        std::string text = good;
+        if (round % 3 == 0) {
+            text.resize(below(text.size()));
+        }
+        for (std::size_t edits = below(4); edits > 0 && !text.empty(); --edits) {
+            std::string const& pool = "0123456789-.,:\"[]{}\\enx\xFF";
+            text[below(text.size())] = pool[below(pool.size())];
+        }
+        if (renderer.loadSceneText(text).empty()) {
+            ++loaded;
+            current = renderer.saveSceneText();
+            Renderer again;
+            ASSERT_EQ(again.loadSceneText(current), "") << "round " << round;
+            ASSERT_EQ(again.dump(), renderer.dump()) << "round " << round;
+        } else {
+            ASSERT_EQ(renderer.saveSceneText(), current) << "round " << round;
+        }
+    }
+    EXPECT_GT(loaded, 30);
+    EXPECT_LT(loaded, 270);
+}
+
+} // namespace
