@@ -10,6 +10,7 @@
 #include <any>
 #include <memory>
 #include <numeric>
+#include <vector>
 
 namespace {
 

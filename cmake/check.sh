@@ -55,7 +55,8 @@ gate_asan() { workflow asan; }
 
 gate_tsan() {
     cmake --preset tsan >/dev/null &&
-        cmake --build --preset tsan -j "$jobs" --target zsg_threads_test &&
+        cmake --build --preset tsan -j "$jobs" \
+            --target zsg_ztask_test zsg_nyxrender_test zsg_values_test &&
         ctest --preset tsan
 }
 

@@ -14,11 +14,6 @@ bool sameValue(nyxColor_rgba const& a, nyxColor_rgba const& b) {
     return a.r == b.r && a.g == b.g && a.b == b.b && a.a == b.a;
 }
 
-/// The empty name and the temporary colour's are not in the index.
-bool hasIndexedName(ColorRecord const& record, std::uint32_t flags) {
-    return (flags & TemporaryColorFlag) == 0 && !record.name.empty();
-}
-
 template <class IdType, class Record>
 IdType idFor(RecordStore<Record> const& store, IdType wanted) {
     return wanted.isValid() ? wanted : IdType(store.nextId());
@@ -32,15 +27,14 @@ nyxScene::nyxScene()
 nyxScene::~nyxScene() = default;
 
 nyx::ColorId nyxScene::addColor(ColorRecord record) {
+    noticeLentFlags();
     nyx::ColorId const id = idFor(contents_.colors, record.head.id);
     record.head.id = id;
     ColorRecord const* const added = contents_.colors.emplace(id.toUint(), std::move(record));
     if (added == nullptr) {
         return {};
     }
-    if (hasIndexedName(*added, added->head.flags)) {
-        contents_.names.add(added->name, id);
-    }
+    list(*added, {}, listsOf(*added, added->head.flags));
     contents_.uses.list(id, added->subColors);
     ++colorRevision_;
     return id;
@@ -59,14 +53,17 @@ bool nyxScene::updateColor(ColorRecord const& values) {
     }
     bool changed = false;
     if (record->name != values.name || record->head.flags != values.head.flags) {
-        if (hasIndexedName(*record, record->head.flags)) {
+        Lists const before = listsOf(*record, record->head.flags);
+        if (before.named) {
             contents_.names.remove(record->name, id);
         }
         record->name = values.name;
         record->head.flags = values.head.flags;
-        if (hasIndexedName(*record, record->head.flags)) {
+        Lists const after = listsOf(*record, record->head.flags);
+        if (after.named) {
             contents_.names.add(record->name, id);
         }
+        enlist(id, before, after);
         if (lent_ == &record->head) {
             lentFlagsSeen_ = record->head.flags;
         }
@@ -94,15 +91,42 @@ bool nyxScene::updateColor(ColorRecord const& values) {
     return changed;
 }
 
+nyxScene::Lists nyxScene::listsOf(ColorRecord const& record, std::uint32_t flags) {
+    bool const listed = (flags & TemporaryColorFlag) == 0;
+    bool const multi = (flags & MultiColorFlag) != 0;
+    return {listed && !multi, listed && multi, listed && !record.name.empty()};
+}
+
+void nyxScene::enlist(nyx::ColorId id, Lists before, Lists after) {
+    auto const apply = [id](IdList& list, bool was, bool is) {
+        if (was && !is) {
+            list.erase(id);
+        } else if (is && !was) {
+            list.insert(id);
+        }
+    };
+    apply(contents_.plainColors, before.plain, after.plain);
+    apply(contents_.multiColors, before.multi, after.multi);
+    apply(contents_.namedColors, before.named, after.named);
+}
+
+/// The same for a record whose name stays.
+void nyxScene::list(ColorRecord const& record, Lists before, Lists after) {
+    if (before.named && !after.named) {
+        contents_.names.remove(record.name, record.head.id);
+    } else if (after.named && !before.named) {
+        contents_.names.add(record.name, record.head.id);
+    }
+    enlist(record.head.id, before, after);
+}
+
 bool nyxScene::removeColor(nyx::ColorId id) {
     noticeLentFlags();
     ColorRecord const* const record = color(id);
     if (record == nullptr) {
         return false;
     }
-    if (hasIndexedName(*record, record->head.flags)) {
-        contents_.names.remove(record->name, id);
-    }
+    list(*record, listsOf(*record, record->head.flags), {});
     contents_.uses.unlist(id, record->subColors);
     if (lent_ == &record->head) {
         lent_ = nullptr;
@@ -129,14 +153,9 @@ void nyxScene::noticeLentFlags() {
         return;
     }
     ColorRecord const& record = *color(lent_->id);
-    bool const was = hasIndexedName(record, lentFlagsSeen_);
-    bool const is = hasIndexedName(record, lent_->flags);
+    Lists const before = listsOf(record, lentFlagsSeen_);
     lentFlagsSeen_ = lent_->flags;
-    if (was && !is) {
-        contents_.names.remove(record.name, lent_->id);
-    } else if (is && !was) {
-        contents_.names.add(record.name, lent_->id);
-    }
+    list(record, before, listsOf(record, lent_->flags));
     ++colorRevision_;
 }
 
@@ -181,6 +200,21 @@ bool nyxScene::removeColorway(nyx::ColorwayId id) {
 
 nyx::ColorwayId nyxScene::nextColorwayId() const {
     return nyx::ColorwayId(contents_.colorways.nextId());
+}
+
+nyx::Span<nyx::ColorId> nyxScene::plainColors() {
+    noticeLentFlags();
+    return contents_.plainColors.ids();
+}
+
+nyx::Span<nyx::ColorId> nyxScene::multiColors() {
+    noticeLentFlags();
+    return contents_.multiColors.ids();
+}
+
+nyx::Span<nyx::ColorId> nyxScene::namedColors() {
+    noticeLentFlags();
+    return contents_.namedColors.ids();
 }
 
 nyx::Span<nyx::ColorId> nyxScene::colorsNamed(std::string const& name) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "nyxembedded/Faults.h"
+#include "nyxrender/IdList.h"
 #include "nyxrender/Journal.h"
 #include "nyxrender/NameIndex.h"
 #include "nyxrender/RecordStore.h"
@@ -70,9 +71,13 @@ public:
     [[nodiscard]] double unitScale() const { return contents_.unitScale; }
     void setUnitScale(double scale) { contents_.unitScale = scale; }
 
-    // Names and revisions.
+    // Lists, names and revisions. Lists are valid until the next change of a colour, and without
+    // the temporary colour.
 
-    /// Colours of a name, plain and multi, ascending. Valid until the next change of a colour.
+    [[nodiscard]] nyx::Span<nyx::ColorId> plainColors();
+    [[nodiscard]] nyx::Span<nyx::ColorId> multiColors();
+    [[nodiscard]] nyx::Span<nyx::ColorId> namedColors();
+    /// Colours of a name, plain and multi, ascending.
     [[nodiscard]] nyx::Span<nyx::ColorId> colorsNamed(std::string const& name);
     /// `name` itself when it is empty or free, else the first free numbered form of it.
     [[nodiscard]] std::string uniqueColorName(std::string const& name,
@@ -149,13 +154,24 @@ private:
         nyx::embedded::RecordStore<nyx::embedded::GroupItem> items;
         std::vector<nyxGroup_item*> topItems;
         std::unordered_map<nyx::MaterialId, unsigned> objectsOfMaterial;
+        nyx::embedded::IdList plainColors;
+        nyx::embedded::IdList multiColors;
+        nyx::embedded::IdList namedColors;
         nyx::embedded::NameIndex names;
         nyx::embedded::UseIndex uses;
         nyx::ColorwayId activeColorway;
         double unitScale = 0;
     };
 
+    /// Which lists a colour is in; a named one is in the index of names too.
+    struct Lists {
+        bool plain = false, multi = false, named = false;
+    };
+
     void noticeLentFlags();
+    static Lists listsOf(nyx::embedded::ColorRecord const& record, std::uint32_t flags);
+    void enlist(nyx::ColorId id, Lists before, Lists after);
+    void list(nyx::embedded::ColorRecord const& record, Lists before, Lists after);
     [[nodiscard]] nyx::embedded::UseIndex::Uses const* usesThrough(nyx::ColorId list,
                                                                    nyx::ColorId id) const;
 

@@ -12,22 +12,9 @@ using namespace nyx::embedded;
 
 namespace {
 
-template <class IdType>
-nyx::Unique_array<IdType> toArray(std::vector<IdType> const& ids) {
+template <class List>
+nyx::Unique_array<typename List::value_type> toArray(List const& ids) {
     return {ids.data(), ids.size()};
-}
-
-/// The listed colours that pass: the temporary colour never does.
-template <class Passes>
-nyx::Unique_array<nyx::ColorId> listColors(nyxScene const& scene, Passes passes) {
-    std::vector<nyx::ColorId> ids;
-    ids.reserve(scene.colorCount());
-    scene.forEachColor([&](ColorRecord const& color) {
-        if (!color.isTemporary() && passes(color)) {
-            ids.push_back(color.head.id);
-        }
-    });
-    return toArray(ids);
 }
 
 nyx::Unique_array<nyx::ColorId> colorsOfName(nyxScene& scene, char const* name, bool multi) {
@@ -56,10 +43,13 @@ nyx::Unique_array<nyx::ColorId> nyx_get_colors(nyxScene* scene, nyxColor_extende
         return {};
     }
     scene->journal().write("nyx_get_colors", static_cast<std::uint32_t>(type));
-    return listColors(*scene, [type](ColorRecord const& color) {
-        return type ==
-               (color.isMulti() ? nyxColor_extended::MultiColor : nyxColor_extended::PlainColor);
-    });
+    switch (type) {
+    case nyxColor_extended::PlainColor:
+        return toArray(scene->plainColors());
+    case nyxColor_extended::MultiColor:
+        return toArray(scene->multiColors());
+    }
+    return {};
 }
 
 nyx::Unique_array<nyx::ColorId> nyx_get_colors_named(nyxScene* scene) {
@@ -67,7 +57,7 @@ nyx::Unique_array<nyx::ColorId> nyx_get_colors_named(nyxScene* scene) {
         return {};
     }
     scene->journal().write("nyx_get_colors_named");
-    return listColors(*scene, [](ColorRecord const& color) { return !color.name.empty(); });
+    return toArray(scene->namedColors());
 }
 
 nyx::Unique_array<nyx::ColorwayId> nyx_get_colorways(nyxScene* scene) {

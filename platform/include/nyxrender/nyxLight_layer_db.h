@@ -14,8 +14,8 @@
 class nyxScene;
 
 /// The light layers of a scene: named, flagged groups of lights, one bit of a 32-bit mask each.
-/// A deleted layer keeps its id, name, flags and mask but is neither listed nor counted. The virtual
-/// operations never call each other.
+/// A deleted layer keeps its id, name, flags and mask but is neither listed nor counted. The
+/// virtual operations never call each other.
 class NYXRENDER_EXPORT nyxLight_layer_db {
 public:
     /// Without any layer.
@@ -24,8 +24,8 @@ public:
     nyxLight_layer_db(nyxLight_layer_db const&) = delete;
     nyxLight_layer_db& operator=(nyxLight_layer_db const&) = delete;
 
-    /// A new layer; an invalid `wanted` lets the database choose the id. Returns the invalid id when
-    /// all 32 layers are taken or `wanted` is already in use.
+    /// A new layer; an invalid `wanted` lets the database choose the id. Returns the invalid id
+    /// when all 32 layers are taken or `wanted` is already in use.
     virtual nyx::LightLayerId create_layer(char const* name, nyx::LightLayerId wanted);
     /// Marks the layer with layerFlags::Deleted and moves its lights to layer 1.
     virtual void delete_layer(nyx::LightLayerId id);

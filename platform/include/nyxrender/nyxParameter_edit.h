@@ -7,9 +7,9 @@
 
 /// The value of a parameter entry; which member holds depends on the parameter's name.
 union nyxParameter_value {
-    std::uint32_t word;  ///< an id or flag bits
-    char* text;          ///< zero-terminated UTF-8 owned by the scene, may be null
-    float rgba[4];       ///< a colour
+    std::uint32_t word; ///< an id or flag bits
+    char* text;         ///< zero-terminated UTF-8 owned by the scene, may be null
+    float rgba[4];      ///< a colour
     struct {
         nyx::ColorId* ids; ///< from nyx_malloc_aligned, owned by the block; null when empty
         std::int32_t count;

@@ -53,8 +53,7 @@ public:
     virtual void change_layer_lights(nyx::LightLayerId layer, nyx::Span<nyx::ObjectId> lights,
                                      int operation) = 0;
     /// Puts lights into a layer of the scene, out of whichever they were in.
-    virtual void assign_layer_lights(nyx::LightLayerId layer,
-                                     nyx::Span<nyx::ObjectId> lights) = 0;
+    virtual void assign_layer_lights(nyx::LightLayerId layer, nyx::Span<nyx::ObjectId> lights) = 0;
     virtual void set_layer_flags(nyx::LightLayerId layer, nyx::Flags<layerFlags> flags) = 0;
 
     /// Tells the renderer that parameters of a brush node have changed.

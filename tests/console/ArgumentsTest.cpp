@@ -1,0 +1,70 @@
+#include "Arguments.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using console::Arguments;
+using console::CommandError;
+using console::invalidUtf8At;
+using console::splitWords;
+using Words = std::vector<std::string>;
+
+TEST(Arguments, LinesSplitIntoWords) {
+    struct Row {
+        char const* line;
+        Words words;
+    };
+    for (Row const& row : {
+             Row{"", {}},
+             Row{"  \t\r", {}},
+             Row{"# a comment", {}},
+             Row{"color list # all", {"color", "list"}},
+             Row{"a#b", {"a#b"}},
+             Row{R"(name "two words" "")", {"name", "two words", ""}},
+             Row{R"("a\"b\\c\nd")", {"a\"b\\c\nd"}},
+             Row{R"(Rug:"Warm Sand")", {"Rug:Warm Sand"}},
+         }) {
+        EXPECT_EQ(splitWords(row.line), row.words) << row.line;
+    }
+    EXPECT_THROW((void)splitWords("say \"never closed"), CommandError);
+    EXPECT_THROW((void)splitWords("\"ends in a backslash\\"), CommandError);
+}
+
+TEST(Arguments, Utf8IsCheckedToTheByte) {
+    EXPECT_EQ(invalidUtf8At("plain, \xC3\xA4, \xE2\x82\xAC, \xF0\x9F\x8E\xA8"), std::string::npos);
+    struct Row {
+        std::string text;
+        std::size_t at;
+    };
+    for (Row const& row : {
+             Row{"ab\x80", 2},
+             Row{"\xC0\x80", 0},         // overlong
+             Row{"x\xE0\x9F\xBF", 1},    // overlong
+             Row{"\xED\xA0\x80", 0},     // a surrogate
+             Row{"\xF4\x90\x80\x80", 0}, // past the last code point
+             Row{"\xE2\x82", 0},         // cut off
+             Row{"\xFF", 0},
+         }) {
+        EXPECT_EQ(invalidUtf8At(row.text), row.at) << row.text;
+    }
+}
+
+TEST(Arguments, WordsAreReadWholeOrNotAtAll) {
+    Arguments arguments({"7", "-3", "2.5", "on", "0x10", "4294967296", "1e", "nope", "rest"});
+    EXPECT_EQ(arguments.integer("a number"), 7);
+    EXPECT_EQ(arguments.integer("a number"), -3);
+    EXPECT_EQ(arguments.real("a number"), 2.5);
+    EXPECT_TRUE(arguments.onOff());
+    EXPECT_THROW(arguments.integer("a number"), CommandError);
+    EXPECT_THROW(arguments.number("an id"), CommandError);
+    EXPECT_THROW(arguments.real("a number"), CommandError);
+    EXPECT_THROW(arguments.onOff(), CommandError);
+    EXPECT_FALSE(arguments.flag("last"));
+    EXPECT_THROW(arguments.done(), CommandError);
+    EXPECT_TRUE(arguments.flag("rest"));
+    EXPECT_NO_THROW(arguments.done());
+    EXPECT_THROW(arguments.word("more"), CommandError);
+}
+
+} // namespace

@@ -1,0 +1,116 @@
+#include "Interpreter.h"
+#include "Host.h"
+#include "IORLint.h"
+#include "JsonSession.h"
+#include "LineReader.h"
+
+#include <gmock/gmock.h>
+
+#include <sstream>
+
+namespace {
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+class InterpreterTest : public testing::Test {
+protected:
+    InterpreterTest() : host(out), interpreter(host) {
+        EXPECT_EQ(host.load(ZSG_SOURCE_DIR "/examples/scenes/showroom.json"), "");
+    }
+
+    int script(std::string const& text, bool keepGoing = false) {
+        std::istringstream in(text);
+        return interpreter.runScript(in, "test.zsg", keepGoing, errors);
+    }
+
+    std::ostringstream out;
+    std::ostringstream errors;
+    console::Host host;
+    console::Interpreter interpreter;
+};
+
+TEST_F(InterpreterTest, FailuresNameTheLineAndEndTheScriptUnlessItKeepsGoing) {
+    EXPECT_EQ(script("events show off\nfoo bar\nundo\n"), 1);
+    EXPECT_EQ(errors.str(), "test.zsg:2: unknown command \"foo bar\"; \"help\" lists them\n");
+    errors.str("");
+
+    std::string const tooLong(console::longestLine + 5, 'x');
+    EXPECT_EQ(
+        script("undo\nedit name Ivory\nedit name Nobody X\nhelp \x80\ncolor list plain all\n" +
+                   tooLong + "\ngoto 99\nexpect undo 0\n",
+               true),
+        7);
+    EXPECT_EQ(errors.str(), "test.zsg:1: undo: there is nothing to undo\n"
+                            "test.zsg:2: edit name: expected a name\n"
+                            "test.zsg:3: edit name: the scene has no colour \"Nobody\"\n"
+                            "test.zsg:4: byte 6 is not valid UTF-8\n"
+                            "test.zsg:5: color list: unexpected \"all\"\n"
+                            "test.zsg:6: the line is longer than 1048576 bytes\n"
+                            "test.zsg:7: goto: there is no way to that place\n");
+}
+
+TEST_F(InterpreterTest, ExpectationsCountWhatHappenedAndFailWhenItDidNot) {
+    EXPECT_EQ(script("pump\nexpect events 0\n"), 1) << "loading announces every colour";
+    EXPECT_EQ(script("events show off\nevents clear\nscene keep start\n"
+                     "edit color Teal 0.1 0.2 0.3\n"
+                     "expect events 1 ColorUpdated\nexpect events 2\nexpect events 0\n"
+                     "expect undo 1\nexpect text \"Set Color\"\nexpect contains \"Teal\"\n"
+                     "expect failure \"differs from\" expect scene start\n"
+                     "expect failure \"no longer holds\" expect kept start\n"
+                     "undo\nexpect redo 1\nexpect scene start\nexpect kept start\n"
+                     "color references Upholstery\nexpect output 2\n"
+                     "expect failure \"was not printed\" expect output 3\n"),
+              0)
+        << errors.str();
+    EXPECT_EQ(script("expect undo 5\n"), 1);
+    EXPECT_THAT(errors.str(), HasSubstr("expected 5 edits to undo, found 0"));
+}
+
+TEST_F(InterpreterTest, LoadingABrokenSceneLeavesEverythingAsItWas) {
+    EXPECT_EQ(script("events show off\nedit name Teal Petrol\nscene keep before\n"
+                     "expect failure showroom-that-is-not-there "
+                     "scene load showroom-that-is-not-there.json\n"
+                     "expect scene before\nexpect undo 1\nundo\n"),
+              0)
+        << errors.str();
+}
+
+TEST_F(InterpreterTest, JsonLinesAnswerEveryRequest) {
+    std::istringstream in("{\"id\": 7, \"command\": \"edit name Teal Petrol\"}\n"
+                          "{\"command\": [\"color\", \"unique\", \"Petrol\"]}\n"
+                          "not json\n[]\n{\"command\": 3}\n{\"command\": [1]}\n"
+                          "{\"id\": \"x\", \"command\": \"undo undo\"}\n");
+    std::ostringstream answers;
+    host.pump();
+    EXPECT_EQ(console::runJsonSession(interpreter, host, in, answers), 1);
+    std::vector<std::string> lines;
+    std::istringstream split(answers.str());
+    for (std::string line; std::getline(split, line);) {
+        lines.push_back(line);
+    }
+    ASSERT_EQ(lines.size(), 7u);
+    EXPECT_THAT(lines[0], AllOf(HasSubstr(R"("id":7,"ok":true)"),
+                                HasSubstr(R"("type":"ColorUpdated","payload":"29")")));
+    EXPECT_THAT(lines[1], HasSubstr(R"("output":["Petrol 1"])"));
+    for (std::size_t i = 2; i < lines.size(); ++i) {
+        EXPECT_THAT(lines[i], HasSubstr("\"ok\":false,\"error\":")) << i;
+    }
+    EXPECT_THAT(lines[6], HasSubstr(R"("id":"x")"));
+    EXPECT_EQ(host.undoStack().index(), 1) << "a command with a word too many does nothing";
+}
+
+TEST(IORLint, EachKindOfTroubleIsNamedAtItsFirstPlace) {
+    EXPECT_THAT(console::lintIOR("4 400 700 3\n1 0\n\n1.5e-1 0\n1 0;\n\n", "nk"),
+                ElementsAre(HasSubstr("line 3: is blank"), HasSubstr("line 4: has a number in sci"),
+                            HasSubstr("line 5: ends in a semicolon")));
+    EXPECT_THAT(console::lintIOR("wavelength,n,k\r\n0.4,1.5,0\r\n" + std::string(120, '1'), "csv"),
+                ElementsAre(HasSubstr("line 1: ends in CR LF"), HasSubstr("100 characters")));
+    EXPECT_THAT(console::lintIOR("0.4,1.5,0\n0.7,1.5,0\n", "csv"),
+                ElementsAre(HasSubstr("micrometres")));
+    EXPECT_THAT(console::lintIOR("400,1.5,0\n", "csv"), ElementsAre());
+}
+
+} // namespace
