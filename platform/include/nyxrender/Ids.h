@@ -36,9 +36,11 @@ using GroupItemId = Id<struct GroupItemIdTag>;
 
 } // namespace nyx
 
+/// @cond
 template <class Tag>
 struct std::hash<nyx::Id<Tag>> {
     std::size_t operator()(nyx::Id<Tag> id) const noexcept {
         return std::hash<std::uint32_t>{}(id.value);
     }
 };
+/// @endcond

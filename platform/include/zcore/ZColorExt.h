@@ -11,10 +11,10 @@
 
 class ZColorExtData;
 
-/// A colour that is either plain (one element) or a multi-colour (an ordered list of sub-colours, of
-/// which one is active), with its own id, name and revision. A value: copies share their data until
-/// one of them is changed. Getters take any index; out of range they give the invalid id, the empty
-/// name, black with alpha 1. One object belongs to one thread; copies may live on others.
+/// A colour that is either plain (one element) or a multi-colour (an ordered list of sub-colours,
+/// of which one is active), with its own id, name and revision. A value: copies share their data
+/// until one of them is changed. Getters take any index; out of range they give the invalid id, the
+/// empty name, black with alpha 1. One object belongs to one thread; copies may live on others.
 class ZCORE_EXPORT ZColorExt {
 public:
     /// One element: its colour and name, and the id of the colour record that it stands for.

@@ -21,8 +21,8 @@ public:
     virtual bool redo() = 0;
     /// What the user reads in the undo history.
     [[nodiscard]] virtual QString text() const;
-    /// Asked of the earlier command when `other` has just been done after it: true when this command
-    /// now stands for both, and its undo takes both back. The base never merges.
+    /// Asked of the earlier command when `other` has just been done after it: true when this
+    /// command now stands for both, and its undo takes both back. The base never merges.
     virtual bool mergeWith(ZUndoCommand const* other);
     /// Whether this command, or any command inside it, has that id.
     [[nodiscard]] virtual bool hasIdRecursive(ZCommandId id) const;

@@ -13,13 +13,14 @@ class ZUndoCommand;
 /// below index() are done, those from index() on are undone and can be redone.
 ///
 /// While the stack runs code of a command (undo, redo, mergeWith, destructor), every push, macro
-/// begin or end, undo, redo, goTo, clear and setClean is refused (a pushed command is deleted). While
-/// a macro is open, undo, redo, goTo, clear and setClean are. A refusal changes nothing, writes one
-/// warning to the logging category "zcore.undo" and yields false where there is a result.
+/// begin or end, undo, redo, goTo, clear and setClean is refused (a pushed command is deleted).
+/// While a macro is open, undo, redo, goTo, clear and setClean are. A refusal changes nothing,
+/// writes one warning to the logging category "zcore.undo" and yields false where there is a
+/// result.
 ///
-/// What a command throws passes through to the caller. The stack stays usable: a command that throws
-/// in push() counts as failed there; an entry that throws in undo() or redo() moves the index as one
-/// that fails does.
+/// What a command throws passes through to the caller. The stack stays usable: a command that
+/// throws in push() counts as failed there; an entry that throws in undo() or redo() moves the
+/// index as one that fails does.
 class ZCORE_EXPORT ZUndoStack {
 public:
     ZUndoStack();
@@ -27,10 +28,11 @@ public:
     ZUndoStack(ZUndoStack const&) = delete;
     ZUndoStack& operator=(ZUndoStack const&) = delete;
 
-    /// Takes ownership of `command` and runs its redo(). When that fails the command is deleted, the
-    /// stack stays as it was, and the result is false. Otherwise what could be redone is dropped, and
-    /// the command is offered to the one before it on the same level (mergeWith; never across the
-    /// clean mark or into a macro): merged it is deleted, else it becomes an entry. Null gives false.
+    /// Takes ownership of `command` and runs its redo(). When that fails the command is deleted,
+    /// the stack stays as it was, and the result is false. Otherwise what could be redone is
+    /// dropped, and the command is offered to the one before it on the same level (mergeWith; never
+    /// across the clean mark or into a macro): merged it is deleted, else it becomes an entry. Null
+    /// gives false.
     virtual bool push(ZUndoCommand* command);
     /// Collects what is pushed until the matching endMacro() into one entry. Macros nest.
     virtual void beginMacro(QString const& text);
@@ -40,12 +42,12 @@ public:
     virtual void endMacro(QString const& text);
 
     /// Undoes the entry below index(), or redoes the one at it. Every command of a macro runs even
-    /// when one fails; false when any failed or there is nothing to do. The index moves all the same
-    /// when there was an entry.
+    /// when one fails; false when any failed or there is nothing to do. The index moves all the
+    /// same when there was an entry.
     bool undo();
     bool redo();
-    /// Undoes or redoes until index() is `index` (0 to count()); false when out of range or when any
-    /// step failed.
+    /// Undoes or redoes until index() is `index` (0 to count()); false when out of range or when
+    /// any step failed.
     bool goTo(int index);
     /// Deletes all entries; the empty stack is clean.
     bool clear();

@@ -13,8 +13,8 @@ public:
     /// Called once by the queue, on the render thread. Must not throw.
     virtual void run() = 0;
 
-    /// Whether the queue deletes the task when it has run; otherwise it stays its maker's, who keeps
-    /// it alive until then.
+    /// Whether the queue deletes the task when it has run; otherwise it stays its maker's, who
+    /// keeps it alive until then.
     void setDeleteOnDone(bool on) { deleteOnDone_ = on; }
     [[nodiscard]] bool deleteOnDone() const { return deleteOnDone_; }
 

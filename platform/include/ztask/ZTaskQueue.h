@@ -8,7 +8,7 @@ class ZTask;
 class ZTASK_EXPORT ZTaskQueue {
 public:
     virtual ~ZTaskQueue();
-    /// Adds a task during which rendering stands still; returns at once. A task whose deleteOnDone()
-    /// is set when it begins is deleted after it ran. Any thread may call.
+    /// Adds a task during which rendering stands still; returns at once. A task whose
+    /// deleteOnDone() is set when it begins is deleted after it ran. Any thread may call.
     virtual void addBlockingRenderTask(ZTask* task) = 0;
 };
