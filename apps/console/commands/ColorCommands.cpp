@@ -76,6 +76,7 @@ void createMulti(Host& host, Arguments& arguments) {
     color.setMultiColor(true);
     color.setColorName(name);
     std::vector<ZColorExt::ZColorWithId> elements;
+    elements.reserve(subs.size());
     for (nyx::ColorId const sub : subs) {
         elements.emplace_back(ZColor(db(host).colorFromId(sub)), sub);
     }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <ostream>
 
 namespace console {
@@ -120,8 +121,9 @@ public:
     }
 
 private:
-    nyxVector2f low_{1e30f, 1e30f};
-    nyxVector2f high_{-1e30f, -1e30f};
+    static constexpr float most = std::numeric_limits<float>::max();
+    nyxVector2f low_{most, most};
+    nyxVector2f high_{-most, -most};
 };
 
 std::vector<Picture::Point> segment(Frame const& frame, nyx::AnimationKey const& a,
@@ -157,6 +159,12 @@ void save(Host& host, Arguments& arguments) {
     std::string const path = arguments.word("a path");
     if (curve.keyCount() == 0) {
         throw CommandError("the curve has no keys");
+    }
+    nyxArray<float> data;
+    std::string types;
+    curve.store(data, types);
+    if (!std::ranges::all_of(data, [](float f) { return std::isfinite(f); })) {
+        throw CommandError("a point of the curve cannot be drawn");
     }
     Frame const frame(curve);
     Picture picture(512, 320);

@@ -6,6 +6,7 @@
 #include "zsg/values/ColorGradient.h"
 
 #include <algorithm>
+#include <cmath>
 #include <ostream>
 
 namespace console {
@@ -111,6 +112,9 @@ void save(Host& host, Arguments& arguments) {
     QList<ColorGradientStop> const stops = gradient.getStops();
     if (stops.isEmpty()) {
         throw CommandError("the gradient has no stops");
+    }
+    if (!std::ranges::all_of(stops, [](auto const& s) { return std::isfinite(s.getLocation()); })) {
+        throw CommandError("a stop of the gradient cannot be drawn");
     }
     constexpr int width = 512;
     constexpr double margin = 8;
