@@ -117,6 +117,20 @@ struct PlainMask {
     qsizetype length = 0;
 };
 
+/// True for single digits 0 and 1, separated by commas alone.
+bool isPlain(QStringView mask) {
+    if (mask.size() % 2 == 0) {
+        return false;
+    }
+    char16_t const* const text = mask.utf16();
+    auto const last = static_cast<std::size_t>(mask.size() - 1);
+    unsigned odd = (text[last] & ~1u) ^ u'0';
+    for (std::size_t i = 0; i < last; i += 2) {
+        odd |= ((text[i] & ~1u) ^ u'0') | (static_cast<unsigned>(text[i + 1]) ^ u',');
+    }
+    return odd == 0;
+}
+
 /// Finds the only mask of a text. A backslash could spell the key, or hide quotes inside a string,
 /// so then nothing is found.
 std::optional<PlainMask> findPlainMask(QStringView text) {
@@ -130,27 +144,11 @@ std::optional<PlainMask> findPlainMask(QStringView text) {
     }
     qsizetype const first = open + 2;
     qsizetype const close = text.indexOf(u']', first);
-    if (close < 0 || (close - first) % 2 == 0 || text.first(key).contains(u'\\') ||
-        text.sliced(close).contains(u'\\') || text.sliced(close).contains(maskKey)) {
+    if (close < 0 || text.first(key).contains(u'\\') || text.sliced(close).contains(u'\\') ||
+        text.sliced(close).contains(maskKey) || !isPlain(text.sliced(first, close - first))) {
         return {};
     }
     return PlainMask{first, close - first};
-}
-
-/// False when the mask is not single digits 0 and 1, separated by commas alone.
-bool readPlainMask(QStringView mask, WeaveGrid& grid) {
-    char16_t const* const text = mask.utf16();
-    WeaveGrid::Cell* const cells = grid.cells();
-    std::size_t const last = grid.count() - 1;
-    unsigned odd = 0;
-    for (std::size_t i = 0; i < last; ++i) {
-        unsigned const digit = text[2 * i];
-        odd |= ((digit & ~1u) ^ u'0') | (static_cast<unsigned>(text[2 * i + 1]) ^ u',');
-        cells[i] = static_cast<WeaveGrid::Cell>(digit & 1u);
-    }
-    unsigned const digit = text[2 * last];
-    cells[last] = static_cast<WeaveGrid::Cell>(digit & 1u);
-    return (odd | ((digit & ~1u) ^ u'0')) == 0;
 }
 
 /// Reads a pattern whose mask has `count` elements. `fill` puts them into a grid of that many
@@ -165,7 +163,8 @@ std::optional<WeaveText> readPattern(Members const& members, std::size_t count, 
         return {};
     }
     WeaveText read{WeaveGrid(warps, wefts), {}};
-    if (!fill(read.grid) || !readYarns(members, read.yarns)) {
+    fill(read.grid);
+    if (!readYarns(members, read.yarns)) {
         return {};
     }
     return read;
@@ -184,10 +183,14 @@ std::optional<WeaveText> readAroundMask(QStringView text) {
     if (!json.is_object() || !json.contains("pattern_mask")) {
         return {}; // not JSON, or the mask is that of an inner object
     }
-    return readPattern(json.get_ref<Members const&>(),
-                       static_cast<std::size_t>((mask->length + 1) / 2), [&](WeaveGrid& grid) {
-                           return readPlainMask(text.sliced(mask->first, mask->length), grid);
-                       });
+    auto const count = static_cast<std::size_t>((mask->length + 1) / 2);
+    return readPattern(json.get_ref<Members const&>(), count, [&](WeaveGrid& grid) {
+        char16_t const* const digits = text.utf16() + mask->first;
+        WeaveGrid::Cell* const cells = grid.cells();
+        for (std::size_t i = 0; i < count; ++i) {
+            cells[i] = digits[2 * i] & 1;
+        }
+    });
 }
 
 } // namespace
@@ -247,7 +250,6 @@ std::optional<WeaveText> weaveFromJson(QString const& text) {
     }
     return readPattern(members, cells.size(), [&cells](WeaveGrid& grid) {
         std::copy(cells.begin(), cells.end(), grid.cells());
-        return true;
     });
 }
 

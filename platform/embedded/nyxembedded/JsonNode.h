@@ -37,8 +37,9 @@ public:
     template <class Visit>
     void forEachElement(Visit const& visit) const {
         std::size_t const size = arraySize();
-        for (std::size_t i = 0; i < size; ++i)
+        for (std::size_t i = 0; i < size; ++i) {
             visit(element(i));
+        }
     }
     [[nodiscard]] JsonNode element(std::size_t index) const {
         return JsonNode(value_[index], *this, index);

@@ -285,7 +285,7 @@ bool Renderer::isModified() const { return impl_->api.isModified(); }
 unsigned Renderer::refreshCount() const { return impl_->api.refreshCount(); }
 
 std::string Renderer::loadScene(std::string const& path) {
-    std::string const error = loadSceneFile(impl_->scene, path);
+    std::string error = loadSceneFile(impl_->scene, path);
     if (error.empty()) {
         impl_->sceneLoaded();
         announceColors();
@@ -294,7 +294,7 @@ std::string Renderer::loadScene(std::string const& path) {
 }
 
 std::string Renderer::loadSceneText(std::string const& json) {
-    std::string const error = embedded::loadSceneText(impl_->scene, json);
+    std::string error = embedded::loadSceneText(impl_->scene, json);
     if (error.empty()) {
         impl_->sceneLoaded();
         announceColors();
@@ -303,7 +303,7 @@ std::string Renderer::loadSceneText(std::string const& json) {
 }
 
 std::string Renderer::saveScene(std::string const& path) {
-    std::string const error = saveSceneFile(impl_->scene, path);
+    std::string error = saveSceneFile(impl_->scene, path);
     if (error.empty()) {
         impl_->api.setUnmodified();
     }
