@@ -12,8 +12,7 @@ namespace console {
 namespace {
 
 // A terminal's escape sequences in somebody's script must not reach ours.
-std::string printable(std::string text) {
-    constexpr std::size_t longest = 80;
+std::string printable(std::string text, std::size_t longest) {
     for (char& c : text) {
         if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) {
             c = '?';
@@ -29,6 +28,9 @@ std::string printable(std::string text) {
     }
     return text;
 }
+
+constexpr std::size_t longestWord = 80;
+constexpr std::size_t longestMessage = 1000;
 
 } // namespace
 
@@ -55,6 +57,10 @@ void Interpreter::run(std::vector<std::string> words) {
     if (words.empty()) {
         return;
     }
+    // Names and paths end at it further down, so they would become others than those given.
+    if (std::ranges::any_of(words, [](auto const& w) { return w.find('\0') != w.npos; })) {
+        throw CommandError("a word holds a zero byte");
+    }
     // What a command prints is kept for "expect output"; those two print nothing themselves.
     std::ostream& out = host_.out();
     std::ostringstream captured;
@@ -79,6 +85,7 @@ void Interpreter::runWords(std::vector<std::string> words) {
     std::string const first = words[0];
     std::string const second = words.size() > 1 ? words[1] : std::string();
     if (first == "quit" || first == "exit") {
+        Arguments({words.begin() + 1, words.end()}).done();
         quit_ = true;
         return;
     }
@@ -86,12 +93,15 @@ void Interpreter::runWords(std::vector<std::string> words) {
         Arguments arguments({words.begin() + 1, words.end()});
         return help(arguments);
     }
-    if (first == "expect" && second == "failure" && words.size() > 3) {
-        return expectFailure({words.begin() + 2, words.end()});
+    if (first == "expect" && second == "failure") {
+        return expectFailure(Arguments({words.begin() + 2, words.end()}));
     }
-    if (first == "expect" && second == "output" && words.size() == 3) {
-        if (lastOutput_.find(words[2]) == std::string::npos) {
-            throw CommandError("expect output: \"" + words[2] + "\" was not printed");
+    if (first == "expect" && second == "output") {
+        Arguments arguments({words.begin() + 2, words.end()});
+        std::string const text = arguments.word("a text");
+        arguments.done();
+        if (lastOutput_.find(text) == std::string::npos) {
+            throw CommandError("expect output: \"" + text + "\" was not printed");
         }
         return;
     }
@@ -107,24 +117,35 @@ void Interpreter::runWords(std::vector<std::string> words) {
     }
     if (command == nullptr) {
         throw CommandError("unknown command \"" +
-                           printable(first + (second.empty() ? "" : ' ' + second)) +
+                           printable(first + (second.empty() ? "" : ' ' + second), longestWord) +
                            "\"; \"help\" lists them");
     }
     Arguments arguments({words.begin() + used, words.end()});
     try {
+        if (command->arguments.empty()) {
+            arguments.done();
+        }
         command->run(host_, arguments);
         arguments.done();
-    } catch (CommandError const& error) {
+    } catch (std::exception const& error) {
         host_.pump();
         throw CommandError(std::string(command->name) + ": " + error.what());
     }
     host_.pump();
 }
 
-void Interpreter::expectFailure(std::vector<std::string> words) {
-    std::string const wanted = words[0];
+void Interpreter::expectFailure(Arguments arguments) {
+    std::string const wanted = arguments.word("a text");
+    std::vector<std::string> command = arguments.rest();
+    if (command.empty()) {
+        throw CommandError("expected a command");
+    }
+    // A line of nothing else would go as deep as it is long.
+    if (command.size() > 1 && command[0] == "expect" && command[1] == "failure") {
+        throw CommandError("expect failure cannot be nested");
+    }
     try {
-        runWords({words.begin() + 1, words.end()});
+        runWords(std::move(command));
     } catch (CommandError const& error) {
         if (std::string_view(error.what()).find(wanted) == std::string_view::npos) {
             throw CommandError("expected a failure that says \"" + wanted + "\", found \"" +
@@ -155,7 +176,8 @@ int Interpreter::runScript(std::istream& in, std::string const& name, bool keepG
         } catch (std::exception const& error) {
             ++failures;
             host_.out().flush();
-            errors << name << ':' << number << ": " << printable(error.what()) << std::endl;
+            errors << name << ':' << number << ": " << printable(error.what(), longestMessage)
+                   << std::endl;
             if (!keepGoing) {
                 break;
             }
@@ -181,7 +203,7 @@ void Interpreter::help(Arguments& arguments) {
         }
     }
     if (!any) {
-        throw CommandError("no command begins with \"" + printable(wanted) + "\"");
+        throw CommandError("no command begins with \"" + printable(wanted, longestWord) + "\"");
     }
     if (wanted.empty()) {
         host_.out() << "  help [WORDS], quit\n"

@@ -32,7 +32,7 @@ public:
 
 private:
     void runWords(std::vector<std::string> words);
-    void expectFailure(std::vector<std::string> words);
+    void expectFailure(Arguments arguments);
     void help(Arguments& arguments);
 
     Host& host_;

@@ -15,6 +15,17 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+// Copying, writing and comparing a value go as deep as it is nested.
+Json parse(std::string const& line) {
+    constexpr int deepest = 64;
+    return Json::parse(line, [](int depth, Json::parse_event_t, Json&) {
+        if (depth > deepest) {
+            throw CommandError("nested deeper than " + std::to_string(deepest));
+        }
+        return true;
+    });
+}
+
 void runRequest(Interpreter& interpreter, Json const& request) {
     auto const command = request.is_object() ? request.find("command") : request.end();
     if (!request.is_object() || command == request.end()) {
@@ -66,7 +77,7 @@ int runJsonSession(Interpreter& interpreter, Host& host, std::istream& in, std::
                 throw CommandError("the line is longer than " + std::to_string(longestLine) +
                                    " bytes");
             }
-            Json const request = Json::parse(line);
+            Json const request = parse(line);
             if (request.is_object() && request.contains("id")) {
                 answer["id"] = request["id"];
             }

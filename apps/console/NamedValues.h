@@ -26,13 +26,10 @@ T& takeNamed(Host& host, Arguments& arguments, char const* what) {
     return found->second;
 }
 
-/// Gives a value the name that the next word is, in place of what had it.
+/// Gives a value a name, in place of what had it.
 template <class T>
-T& makeNamed(Host& host, Arguments& arguments, T value) {
-    std::string const name = arguments.word("a name");
-    return host.state<NamedValues<T>>()
-        .byName.insert_or_assign(name, std::move(value))
-        .first->second;
+void keepNamed(Host& host, std::string const& name, T value) {
+    host.state<NamedValues<T>>().byName.insert_or_assign(name, std::move(value));
 }
 
 } // namespace console

@@ -15,16 +15,16 @@ namespace console {
 
 namespace {
 
-// The completion callback of the line editor has no argument of its own.
+// The completion callbacks of the line editor have no argument of their own.
 Interpreter const* completing = nullptr;
+std::size_t wordStart = 0;
 
 char* nextCompletion(char const* text, int state) {
     static std::size_t next = 0;
     if (state == 0) {
         next = 0;
     }
-    std::string const line = rl_line_buffer == nullptr ? "" : rl_line_buffer;
-    std::size_t const wordStart = line.size() - std::min(line.size(), std::strlen(text));
+    std::string const line = std::string(rl_line_buffer, wordStart) + text;
     while (next < completing->commands().size()) {
         std::string const name(completing->commands()[next++]->name);
         if (name.starts_with(line)) {
@@ -34,7 +34,11 @@ char* nextCompletion(char const* text, int state) {
     return nullptr;
 }
 
-char** complete(char const* text, int, int) { return rl_completion_matches(text, nextCompletion); }
+// What stands behind the cursor does not count.
+char** complete(char const* text, int start, int) {
+    wordStart = static_cast<std::size_t>(start);
+    return rl_completion_matches(text, nextCompletion);
+}
 
 } // namespace
 

@@ -24,7 +24,7 @@ int runScript(console::Interpreter& interpreter, std::string const& path, bool k
     }
     std::ifstream in(path, std::ios::binary);
     if (!in) {
-        std::cerr << path << ": cannot be opened\n";
+        std::cerr << (path.empty() ? "\"\"" : path) << ": cannot be opened\n";
         return 1;
     }
     return interpreter.runScript(in, path, keepGoing, std::cerr) == 0 ? 0 : 1;
@@ -64,7 +64,7 @@ int main(int argc, char** argv) {
     if (jsonLines) {
         return console::runJsonSession(interpreter, host, std::cin, std::cout);
     }
-    if (!script.empty()) {
+    if (scriptOption->count() != 0) {
         return runScript(interpreter, script, keepGoing);
     }
     if (console::isTerminal()) {

@@ -14,10 +14,12 @@ std::optional<ColorwayPairs> repairedPairs(nyx::Span<nyx::ColorId> multiColors,
     std::iota(order.begin(), order.end(), std::size_t{0});
     auto const multiAt = [&](std::size_t position) { return multiColors[position]; };
     std::ranges::stable_sort(order, {}, multiAt);
-    auto const repeated = std::ranges::unique(order, {}, multiAt);
+    auto const repeated =
+        std::unique(order.begin(), order.end(),
+                    [&](std::size_t a, std::size_t b) { return multiAt(a) == multiAt(b); });
 
-    if (!repeated.empty()) {
-        order.erase(repeated.begin(), repeated.end());
+    if (repeated != order.end()) {
+        order.erase(repeated, order.end());
     } else if (multiColors.size() == activeSubs.size()) {
         return std::nullopt;
     } else {

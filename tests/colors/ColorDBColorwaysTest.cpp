@@ -22,47 +22,26 @@ protected:
 TEST_F(ColorDBColorwaysTest, ApplyingMovesTheActiveFlagAndSwitchesWhatStillBelongs) {
     use(shoe);
     use(sole);
-    EXPECT_EQ(trace([&] { db->applyColorway(summer); }), R"(
-colorway_params 1
-nyx_color_reference_count 3
-nyx_color_reference_count 4
-color_settings_params
-commit_color_settings_params
-nyx_get_colordb_revision
-nyx_get_colorways
-colorway_params 2
-nyx_color_reference_count 3
-nyx_color_reference_count 4
-colorway_params 3
-commit_colorway_params 1
-> ColorWayUpdated 1
-call_after_sync
-color_params 3
-color_params 4
-)");
-    EXPECT_EQ(trace([&] { db->applyColorway(winter); }), R"(
-commit_color_settings_params
-nyx_get_colordb_revision
-nyx_get_colorways
-commit_colorway_params 1
-> ColorWayUpdated 1
-call_after_sync
-commit_colorway_params 2
-> ColorWayUpdated 2
-call_after_sync
-commit_color_params 3
-> ColorUpdated 3
-> ColorUpdated 1
-> ColorUpdated 2
-)");
+    EXPECT_EQ(calls([&] { db->applyColorway(summer); }),
+              "colorway_params 1, nyx_color_reference_count 3, "
+              "nyx_color_reference_count 4, color_settings_params, "
+              "commit_color_settings_params, nyx_get_colordb_revision, nyx_get_colorways, "
+              "colorway_params 2, nyx_color_reference_count 3, "
+              "nyx_color_reference_count 4, colorway_params 3, commit_colorway_params 1, "
+              "> ColorWayUpdated 1, call_after_sync, color_params 3, color_params 4");
+    EXPECT_EQ(calls([&] { db->applyColorway(winter); }),
+              "commit_color_settings_params, nyx_get_colordb_revision, nyx_get_colorways, "
+              "commit_colorway_params 1, > ColorWayUpdated 1, call_after_sync, "
+              "commit_colorway_params 2, > ColorWayUpdated 2, call_after_sync, "
+              "commit_color_params 3, > ColorUpdated 3, > ColorUpdated 1, > ColorUpdated 2");
     EXPECT_EQ(db->getColorParameters(shoe)->activeSub(), blue);
     EXPECT_EQ(db->getColorParameters(sole)->activeSub(), red);
     EXPECT_EQ(db->activeColorwayName(), "Winter");
-    EXPECT_EQ(trace([&] { renderer.processEvents(); }),
-              "\n> ColorwaySynced 1\n> ColorwaySynced 1\n> ColorwaySynced 2\n");
+    EXPECT_EQ(calls([&] { renderer.processEvents(); }),
+              "> ColorwaySynced 1, > ColorwaySynced 1, > ColorwaySynced 2");
 
     for (ColorwayId const id : {empty, ColorwayId(), ColorwayId(77)}) {
-        EXPECT_EQ(trace([&] { db->applyColorway(id); }).find("commit"), std::string::npos);
+        EXPECT_EQ(calls([&] { db->applyColorway(id); }).find("commit"), std::string::npos);
     }
     EXPECT_EQ(db->activeColorwayId(), winter);
 }
@@ -81,60 +60,45 @@ TEST_F(ColorDBColorwaysTest, TheFirstReadingDropsUnusedMultiColorsUncommitted) {
 }
 
 TEST_F(ColorDBColorwaysTest, PushingFollowsTheActiveFlagInTheSettings) {
-    EXPECT_EQ(trace([&] { db->pushColorway(summer); }), "\n"); // no edit was asked for
+    EXPECT_EQ(calls([&] { db->pushColorway(summer); }), ""); // no edit was asked for
     ZColorwayEdit* const edit = db->getColorwayParameters(summer);
     edit->setActive(true);
     db->pushColorway(summer);
     EXPECT_EQ(db->activeColorwayId(), summer);
-    EXPECT_EQ(trace([&] { db->pushColorway(summer); }), "\n");
+    EXPECT_EQ(calls([&] { db->pushColorway(summer); }), "");
     db->getColorwayParameters(empty)->setDisplayName("Void");
     db->pushColorway(empty);
     EXPECT_EQ(db->activeColorwayName(), "Summer");
     edit->setActive(false);
-    EXPECT_EQ(trace([&] { db->pushColorway(summer); }), R"(
-commit_colorway_params 1
-commit_color_settings_params
-> ColorWayUpdated 1
-call_after_sync
-)");
+    EXPECT_EQ(calls([&] { db->pushColorway(summer); }),
+              "commit_colorway_params 1, commit_color_settings_params, "
+              "> ColorWayUpdated 1, call_after_sync");
     EXPECT_EQ(db->activeColorwayId(), ColorwayId());
     EXPECT_EQ(db->activeColorwayName() + db->colorwayName(ColorwayId()), "");
 
     auto const saved = edit->copy();
     edit->setDeleted(true);
-    EXPECT_EQ(trace([&] { db->setColorwayEdit(saved.get()); }), R"(
-clone_color_params 1
-release_colorway_params 1
-commit_colorway_params 1
-> ColorWayUpdated 1
-call_after_sync
-)");
+    EXPECT_EQ(calls([&] { db->setColorwayEdit(saved.get()); }),
+              "clone_color_params 1, release_colorway_params 1, commit_colorway_params 1, "
+              "> ColorWayUpdated 1, call_after_sync");
     EXPECT_FALSE(db->getColorwayParameters(summer)->isDeleted());
 }
 
 TEST_F(ColorDBColorwaysTest, ASwitchOfTheRendererRereadsTheColorwayAndItsMultiColors) {
     use(shoe);
     use(sole);
-    EXPECT_EQ(trace([&] { db->handleColorwayActivated(winter); }), "\n"); // nothing was read yet
+    EXPECT_EQ(calls([&] { db->handleColorwayActivated(winter); }), ""); // nothing was read yet
     db->getColorwayParameters(winter);
     ZColorExtEdit* const edit = db->getColorParameters(shoe);
     edit->setColor({0.5f, 0, 0, 1});
     EXPECT_FALSE(db->activeColorwayId().isValid());
     renderer.activateColorway(winter);
     EXPECT_EQ(db->getColorParameters(shoe)->activeSub(), red);
-    EXPECT_EQ(trace([&] { db->handleColorwayActivated(winter); }), R"(
-release_color_params 3
-color_params 3
-> ColorUpdated 3
-color_params 4
-> ColorUpdated 4
-release_colorway_params 2
-colorway_params 2
-nyx_color_reference_count 3
-nyx_color_reference_count 4
-> ColorWayUpdated 2
-call_after_sync
-)");
+    EXPECT_EQ(calls([&] { db->handleColorwayActivated(winter); }),
+              "release_color_params 3, color_params 3, > ColorUpdated 3, color_params 4, "
+              "> ColorUpdated 4, release_colorway_params 2, colorway_params 2, "
+              "nyx_color_reference_count 3, nyx_color_reference_count 4, "
+              "> ColorWayUpdated 2, call_after_sync");
     EXPECT_EQ(db->getColorParameters(shoe)->activeSub(), blue);
     EXPECT_FALSE(db->getColorParameters(shoe)->isModified());
     EXPECT_TRUE(db->getColorwayParameters(winter)->isActive());
@@ -158,7 +122,7 @@ TEST_F(ColorDBColorwaysTest, NewColorwaysAreToldOfAtOnceAndWhenTheRendererHasThe
     ASSERT_EQ(fresh, ColorwayId(4));
     EXPECT_EQ(db->colorways().size(), 4u);
     db.reset(); // the callback is the queue's
-    EXPECT_EQ(trace([&] { renderer.processEvents(); }), "\n> ColorwaySynced 4\n");
+    EXPECT_EQ(calls([&] { renderer.processEvents(); }), "> ColorwaySynced 4");
 
     auto other = std::make_unique<ZEventQueue>();
     db = std::make_unique<ColorDB>(other.get(), renderer.api());
@@ -167,6 +131,6 @@ TEST_F(ColorDBColorwaysTest, NewColorwaysAreToldOfAtOnceAndWhenTheRendererHasThe
     other.reset();
     renderer.processEvents(); // nobody to tell
     renderer.faults().failCreations = 1;
-    EXPECT_EQ(trace([&] { EXPECT_FALSE(db->createColorway().isValid()); }),
-              "\nlock\nbegin_colorway\nend_colorway\nunlock\n");
+    EXPECT_EQ(calls([&] { EXPECT_FALSE(db->createColorway().isValid()); }),
+              "lock, begin_colorway, end_colorway, unlock");
 }

@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -30,10 +31,7 @@ protected:
         db.reset();
         renderer.processEvents();
         nyx::embedded::Ledger const ledger = renderer.ledger();
-        EXPECT_EQ(ledger.blocks, 0u);
-        EXPECT_EQ(ledger.arrays, 0u);
-        EXPECT_EQ(ledger.alignedBlocks, 0u);
-        EXPECT_EQ(ledger.texts, 0u);
+        EXPECT_EQ(ledger.blocks + ledger.arrays + ledger.alignedBlocks + ledger.texts, 0u);
         EXPECT_EQ(ledger.lockDepth, 0);
     }
 
@@ -54,6 +52,19 @@ protected:
         takeJournal();
         renderer.recordJournal(false);
         return lines;
+    }
+
+    /// The same in one line, ", " between the calls.
+    template <class Action>
+    std::string calls(Action&& action) {
+        std::istringstream text(trace(action));
+        std::string told;
+        for (std::string line; std::getline(text, line);) {
+            if (!line.empty()) {
+                told += (told.empty() ? "" : ", ") + line;
+            }
+        }
+        return told;
     }
 
     nyx::ColorId color(std::string const& name, float red = 0) {

@@ -6,13 +6,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <utility>
-#include <vector>
 
 using namespace zsg;
 
@@ -111,42 +109,6 @@ TEST_F(ZEventQueueTest, nestedPostsAreDeliveredBeforeTheOuterDeliveryGoesOn) {
     };
     post(7);
     EXPECT_EQ(take(), "a8 a9 b9 back b8 ");
-}
-
-TEST_F(ZEventQueueTest, subscriptionsMayChangeDuringADelivery) {
-    auto const drop = [this](Actor& actor) { queue->unsubscribe(&actor); };
-    auto const add = [this](Actor& actor) { queue->subscribe(&actor, updated); };
-    struct Row {
-        std::function<void()> whenCalled;
-        char const* now;
-        char const* next;
-    };
-    std::vector<Row> const rows{
-        {[&] { drop(a); }, "ab", "b"},
-        {[&] { drop(b); }, "a", "a"},
-        {[&] { drop(a), add(a); }, "ab", "ab"},
-        {[&] { drop(b), add(b); }, "a", "ab"},
-        {[&] { add(c); }, "ab", "abc"},
-        {[&] { add(c), drop(c), drop(c); }, "ab", "ab"},
-        {[&] { add(c), drop(b), post(2); }, "aac", "ac"},
-    };
-    auto const heard = [this] {
-        std::string names = take();
-        std::erase_if(names, [](char letter) { return letter < 'a' || letter > 'c'; });
-        return names;
-    };
-    for (Row const& row : rows) {
-        SCOPED_TRACE(&row - rows.data());
-        add(a), add(b);
-        a.action = [&row](Event const&) { row.whenCalled(); };
-        post(1);
-        EXPECT_EQ(heard(), row.now);
-        post(1);
-        std::string next = heard();
-        std::sort(next.begin(), next.end());
-        EXPECT_EQ(next, row.next);
-        drop(a), drop(b), drop(c);
-    }
 }
 
 TEST_F(ZEventQueueTest, aThrowingListenerLeavesTheEventAndAUsableQueue) {

@@ -1,4 +1,5 @@
 #include "nyxembedded/Renderer.h"
+#include "nyxrender/nyxScene.h"
 
 #include <gmock/gmock.h>
 
@@ -39,11 +40,6 @@ TEST(SceneFile, ShowroomRoundTripsToTheByte) {
     Renderer first;
     ASSERT_EQ(first.loadScene(showroom), "");
     EXPECT_EQ(first.saveSceneText(), readFile(showroom));
-
-    Renderer second;
-    ASSERT_EQ(second.loadSceneText(first.saveSceneText()), "");
-    EXPECT_EQ(second.saveSceneText(), first.saveSceneText());
-    EXPECT_EQ(second.dump(), first.dump());
 }
 
 TEST(SceneFile, NothingThatASceneMayHoldIsLost) {
@@ -66,12 +62,18 @@ TEST(SceneFile, NothingThatASceneMayHoldIsLost) {
     made.addColor("last", {});
     ASSERT_TRUE(made.removeColor(gone));
     ASSERT_TRUE(made.removeColor(nyx::ColorId(6))); // the last one: its id must not come back
+    made.setUnitScale(0.0254);
 
     Renderer loaded;
     ASSERT_EQ(loaded.loadSceneText(made.saveSceneText()), "");
     EXPECT_EQ(loaded.saveSceneText(), made.saveSceneText());
     EXPECT_EQ(loaded.dump(), made.dump());
     EXPECT_EQ(loaded.addColor("new", {}), nyx::ColorId(7));
+    EXPECT_EQ(nyx_scene_unit_scale(*loaded.scene()), 0.0254);
+    for (double const bad : {std::nan(""), -1.0, HUGE_VAL}) {
+        loaded.setUnitScale(bad);
+        EXPECT_EQ(nyx_scene_unit_scale(*loaded.scene()), 0) << "no file could hold it";
+    }
 
     // A colorway whose lists differ in length, and the same name twice, exist in scenes too.
     std::string const text = R"("colors": [
@@ -92,7 +94,6 @@ struct Broken {
 
 TEST(SceneFile, AWrongFileIsNamedByPlaceAndExpectationAndChangesNothing) {
     std::string const red = R"({"id":1,"value":[1,0,0,1]})";
-    std::string const deep(1000000, '[');
     Broken const rows[] = {
         {"", "line 1, column 1: syntax error while parsing value - unexpected end of input; "
              "expected '[', '{', or a literal"},
@@ -101,8 +102,9 @@ TEST(SceneFile, AWrongFileIsNamedByPlaceAndExpectationAndChangesNothing) {
         {"{\"format\": \"\xC3(\"}", "line 1, column 14: syntax error while parsing value - invalid "
                                     "string: ill-formed UTF-8 byte"},
         {scene("\"unitScale\":1e999"), "line 1, column 51: number out of range"},
-        {deep, "/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0: nested deeper "
-               "than 32"},
+        {std::string(1000000, '['),
+         "/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0: nested deeper "
+         "than 32"},
         {"[]", "the file: expected an object, found an array"},
         {"{}", "the file: the key \"format\" is missing"},
         {R"({"format":"other","version":1})", "/format: expected \"zsg-scene\", found \"other\""},
@@ -185,7 +187,7 @@ TEST(SceneFile, DamagedFilesLoadOrAreRefusedWhole) {
         return static_cast<std::size_t>(random()) % limit;
     };
     int loaded = 0;
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < 120; ++round) {
         std::string text = good;
         if (round % 3 == 0) {
             text.resize(below(text.size()));
@@ -204,8 +206,8 @@ TEST(SceneFile, DamagedFilesLoadOrAreRefusedWhole) {
             ASSERT_EQ(renderer.saveSceneText(), current) << "round " << round;
         }
     }
-    EXPECT_GT(loaded, 30);
-    EXPECT_LT(loaded, 270);
+    EXPECT_GT(loaded, 12);
+    EXPECT_LT(loaded, 108);
 }
 
 } // namespace

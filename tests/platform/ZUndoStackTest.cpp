@@ -7,6 +7,7 @@
 #include <cctype>
 #include <functional>
 #include <map>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -75,7 +76,6 @@ protected:
     std::string trace;
     ZUndoStack stack;
 
-private:
     class Command final : public ZUndoCommand {
     public:
         Command(ZUndoStackTest& test, char name)
@@ -109,6 +109,7 @@ private:
         std::string name_;
     };
 
+private:
     QtMessageHandler before_;
 };
 
@@ -133,6 +134,7 @@ TEST_F(ZUndoStackTest, FollowsItsRules) {
         {"a macro merges inside itself only", "m(n(oa)b)c", "+m+n+o+ao<a~a+b+c", "*mMc|"},
         {"a macro is one entry, undone backwards", "(a(bc)d)-+", "+a+b+cb<c+d-d-c-b-a+a+b+c+d",
          "*M|"},
+        {"nothing merges into an inner macro", "((m)n(a))-", "+m+n+a-a-n-m", "*|M"},
         {"every command of a macro runs", "(ayb)-", "+a+ya<y+by<b-b-y-a?", "*|M"},
         {"a macro without a done command is nothing", "a-((x))", "+a-a+x~x?", "*|a"},
         {"a macro drops the undone with its first command", "ab-(xc", "+a+ba<b-b+x~x?+c~b", "*a|"},
@@ -170,6 +172,8 @@ TEST_F(ZUndoStackTest, MacrosHaveTextsAndIds) {
     EXPECT_FALSE(macro.hasIdRecursive(ZCommandId(200 + 'b')));
     run(")");
     EXPECT_EQ(warnings, 1) << "no macro was open";
+    std::string const depth(100000, '(');
+    EXPECT_EQ(run(depth + "ab" + std::string(depth.size(), ')') + "-+!"), "+a+ba<b-b-a+a+b~b~a~a");
 }
 
 TEST_F(ZUndoStackTest, RefusesWhatWouldTearTheHistory) {
@@ -188,9 +192,9 @@ TEST_F(ZUndoStackTest, RefusesWhatWouldTearTheHistory) {
         ++changes;
         EXPECT_FALSE(stack.isExecuting());
     });
-    EXPECT_EQ(run("(-+0!*"), "????") << "a macro is open";
+    EXPECT_EQ(run("1(-+0!*"), "????") << "a macro is open";
     EXPECT_EQ(std::exchange(warnings, 0), 5);
-    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(changes, 1) << "the macro's begin";
     EXPECT_EQ(entries(), "*a|b");
 
     for (char const* const moment : {"+m", "-m", "<c", "~c", "~b"}) {
@@ -207,18 +211,22 @@ TEST_F(ZUndoStackTest, RefusesWhatWouldTearTheHistory) {
     });
     during.clear();
     EXPECT_EQ(run("d"), "+d~m-d");
+    auto ending = std::make_unique<ZUndoStack>();
+    ending->setChangeCallback([&] { ending.reset(); });
+    EXPECT_TRUE(ending->push(new Command(*this, 'a')));
+    EXPECT_EQ(ending, nullptr);
 }
 
 TEST_F(ZUndoStackTest, StaysWholeWhenCommandsThrow) {
     auto const fails = [this](char const* moment, char const* script) {
-        during = {{moment, [] { throw std::runtime_error("no"); }}};
+        during = {{moment, [] { throw std::runtime_error("no"); }}, {"~c", [this] { act("-"); }}};
         EXPECT_THROW(run(script), std::runtime_error) << moment;
         EXPECT_FALSE(stack.isExecuting());
         during.clear();
         return std::exchange(trace, {});
     };
     run("ab-");
-    EXPECT_EQ(fails("+c", "c"), "+c~c");
+    EXPECT_EQ(fails("+c", "c"), "+c~c?") << "its destructor must not undo either";
     EXPECT_EQ(entries(), "*a|b");
     fails("<c", "c");
     EXPECT_EQ(entries(), "*ac|") << "it was done, so it has to stay undoable";

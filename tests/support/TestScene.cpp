@@ -1,5 +1,10 @@
 #include "support/TestScene.h"
 
+#include "nyxrender/nyx_memory.h"
+
+#include <cstdlib>
+#include <cstring>
+
 TestScene::~TestScene() {
     nyx::embedded::Ledger const ledger = renderer.ledger();
     EXPECT_EQ(ledger.blocks, 0u);
@@ -35,11 +40,29 @@ TestScene::SmallScene TestScene::addSmallScene() {
     return made;
 }
 
-nyxParameter_entry* findEntry(nyxParameter_edit& block, std::string const& name) {
+void TestScene::edit(nyx::ColorId id, std::function<void(nyxParameter_edit&)> const& change) {
+    nyxParameter_edit* const block = api()->color_params(id);
+    ASSERT_NE(block, nullptr);
+    change(*block);
+    api()->commit_color_params(block);
+    api()->release_color_params(block);
+}
+
+nyxParameter_entry& entry(nyxParameter_edit& block, std::string const& name) {
     for (std::int32_t i = 0; i < block.count; ++i) {
         if (block.entries[i].name == name) {
-            return &block.entries[i];
+            return block.entries[i];
         }
     }
-    return nullptr;
+    std::abort();
+}
+
+void setList(nyxParameter_value& value, nyx::Span<nyx::ColorId> ids) {
+    std::size_t const bytes = ids.size() * sizeof(nyx::ColorId);
+    nyx_free_aligned(value.list.ids);
+    value.list = {static_cast<nyx::ColorId*>(nyx_malloc_aligned(bytes, 32)),
+                  static_cast<std::int32_t>(ids.size())};
+    if (bytes != 0) {
+        std::memcpy(static_cast<void*>(value.list.ids), ids.data(), bytes);
+    }
 }

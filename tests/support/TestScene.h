@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 
 /// A fixture with an embedded renderer. When everything of the test is gone, members of derived
@@ -34,11 +35,20 @@ protected:
     };
     SmallScene addSmallScene();
 
+    /// Lends a colour's block to `change`, commits and releases it.
+    void edit(nyx::ColorId id, std::function<void(nyxParameter_edit&)> const& change);
+
     nyx::embedded::Renderer renderer;
 
 private:
     nyx::embedded::Ledger const atStart_ = renderer.ledger();
 };
 
-/// The entry of a name in a block; null when there is none.
-nyxParameter_entry* findEntry(nyxParameter_edit& block, std::string const& name);
+/// The entry of a name in a block; ends the program when there is none.
+nyxParameter_entry& entry(nyxParameter_edit& block, std::string const& name);
+/// Its value.
+inline nyxParameter_value& value(nyxParameter_edit& block, std::string const& name) {
+    return entry(block, name).value;
+}
+/// Gives a list entry other ids as an application does: the old list is freed.
+void setList(nyxParameter_value& value, nyx::Span<nyx::ColorId> ids);

@@ -56,6 +56,7 @@ TEST(AnimationCurve, KeepsKeysInOrder) {
         {1, {{2.5, 3}, {2, 3}, {2.75, 3}}, false},          // past the next key
         {1, {{-1, 3}, {-2, 3}, {0, 3}}, false},             // past the previous key
         {1, bare(2, 3), true},                              // on the next key
+        {1, bare(0, 3), true},                              // on the previous key
         {1, {{1, 3}, {1.1f, 3}, {1.2f, 3}}, false},         // handles on the wrong side
         {1, {{1, 3}, {0.5, 3}, {0.9f, 3}}, false},
         {0, {{0, 3}, {5, 3}, {0.5, 3}}, true}, // nothing lies that way
@@ -74,6 +75,7 @@ TEST(AnimationCurve, KeepsKeysInOrder) {
         EXPECT_EQ(curve.setKey(row.index, row.wanted), row.accepted) << &row - rows;
         EXPECT_EQ(curve == threeKeys(), !row.accepted) << &row - rows;
     }
+    EXPECT_TRUE((AnimationCurve{bare(0, 0), bare(1, 1), bare(2, 2)}).setPos(1, {1, 0}));
     // A neighbour that is wrong itself blocks the key.
     EXPECT_FALSE((AnimationCurve{key(0, 0), {{1, 1}, {2, 1}, {1, 1}}}).setPos(0, {0, 1}));
     EXPECT_FALSE((AnimationCurve{{{0, 0}, {0, 0}, {-1, 0}}, key(1, 0)}).setPos(1, {1, 1}));
@@ -123,6 +125,14 @@ TEST(AnimationCurve, ExchangesNumbersAndLetters) {
               "Invalid animation curve, got 2 keys but 5 control points\n"
               "Invalid animation curve, got 1 keys but 3 control points\n");
     EXPECT_EQ(curve, before);
+    for (float& number : stored) { // every number counts, and every key
+        ++number;
+        EXPECT_TRUE(curve.load(stored, "UTsSLUUU"));
+        EXPECT_FALSE(curve == before) << number;
+        --number;
+    }
+    EXPECT_TRUE(curve.load(stored, "UTsSLUUU") && curve == before && curve.removeKey(7));
+    EXPECT_FALSE(curve == before || before == curve);
 
     nyxVector2f const points[] = {{3, 4}, {1, 2}};
     KeyType const kinds[] = {static_cast<KeyType>(7), KeyType::S};
@@ -143,11 +153,11 @@ TEST(AnimationCurve, InsertsByTheTypeOfThePlace) {
     EXPECT_EQ(curve, (AnimationCurve{bare(-2, 7), key(0, 7, KeyType::L), last, bare(1, 9)}));
     EXPECT_EQ(curve.insertKey(NAN), 4); // no key lies behind it
 
-    for (AnimationKey const& wanted : {AnimationKey{{3, 6}, {2, 4}, {4, 8}, KeyType::L},
-                                       AnimationKey{{3, 0}, {2, 0}, {4, 0}, KeyType::s},
-                                       AnimationKey{{3, 12}, {2, 12}, {4, 12}, KeyType::S}}) {
+    for (AnimationKey const& wanted : {AnimationKey{{1.5, 3}, {1, 2}, {3, 6}, KeyType::L},
+                                       AnimationKey{{1.5, 0}, {1, 0}, {3, 0}, KeyType::s},
+                                       AnimationKey{{1.5, 12}, {1, 12}, {3, 12}, KeyType::S}}) {
         curve = {key(0, 0, wanted.type), key(6, 12)};
-        EXPECT_EQ(curve.insertKey(3), 1);
+        EXPECT_EQ(curve.insertKey(1.5), 1);
         EXPECT_EQ(curve, (AnimationCurve{key(0, 0, wanted.type), wanted, key(6, 12)}));
     }
     curve = {{{0, 0}, {0, 0}, {0, 8}, KeyType::T}, {{8, 8}, {8, 0}, {9, 9}}};
@@ -155,6 +165,9 @@ TEST(AnimationCurve, InsertsByTheTypeOfThePlace) {
     EXPECT_EQ(curve, (AnimationCurve{{{0, 0}, {0, 0}, {0, 4}, KeyType::T},
                                      {{4, 4}, {2, 4}, {6, 4}},
                                      {{8, 8}, {8, 4}, {9, 9}}}));
+    EXPECT_EQ(curve.insertKey(4), 2); // two keys there: the first is left without its handle
+    EXPECT_EQ((AnimationCurve{curve.keyAt(1), curve.keyAt(2)}),
+              (AnimationCurve{{{4, 4}, {2, 4}, {4, 4}}, {{4, 4}, {4, 4}, {6, 4}}}));
     // Where the curve runs backwards the handles stay on their sides, for setKey() to accept the
     // key.
     curve = {{{0, 0}, {0, 0}, {5, 0}}, {{1, 0}, {-4, 0}, {1, 0}}};
@@ -169,17 +182,17 @@ TEST(AnimationCurve, ManyInsertionsKeepShapeAndOrder) {
     for (int round = 0; round < 20; ++round) {
         AnimationCurve before;
         nyxArray<float> n;
-        for (float x = 0; x < 5; ++x) {
+        for (float x = 0; x < 6; ++x) {
             n.insert(n.end(), {x - part(random), part(random), x, part(random), x + part(random),
                                part(random)});
         }
-        ASSERT_TRUE(before.load(n, "UTsSL"));
+        ASSERT_TRUE(before.load(n, "UTsSLU"));
         AnimationCurve after = before;
         for (int i = 0; i < 40; ++i) {
-            float const x = 4 * part(random);
+            float const x = 5 * part(random);
             ASSERT_EQ(after.keyAt(after.insertKey(x)).pos.x, x);
         }
-        for (double x = 0.005; x < 4; x += 0.01) {
+        for (double x = 0.005; x < 5; x += 0.01) {
             ASSERT_NEAR(heightAt(after, x), heightAt(before, x), 1e-3) << round << ' ' << x;
         }
         for (int i = 0; i < after.keyCount(); ++i) {

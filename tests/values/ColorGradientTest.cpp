@@ -14,7 +14,7 @@ TEST(ColorGradient, ComparesAndResets) {
     ColorGradient two;
     two.resizeStops(2);
     EXPECT_EQ(two.getStops(), QList<ColorGradientStop>(2, {{0, 0, 0, 1}, 0, 0, 0}));
-    EXPECT_FALSE(two == empty || two.blend());
+    EXPECT_TRUE(two.colorStop(1) == ColorGradientStop() && !(two == empty || two.blend()));
     for (std::size_t place = 0; place < 7; ++place) {
         ColorGradient other = two;
         float n[] = {0, 0, 0, 1, 0, 0, 0};
@@ -40,7 +40,11 @@ TEST(ColorGradient, IsAlwaysWhatAStableSortGives) {
     ColorGradient gradient;
     for (int i = 0; i < 4000; ++i) {
         float const location = static_cast<float>(random() % 9) / 4 - 1;
-        ColorGradientStop const stop({static_cast<float>(i), 0, 0, 1}, location, 2, 3);
+        ColorGradientStop stop;
+        stop.setColor({static_cast<float>(i), 0, 0, 1});
+        stop.setLocation(location);
+        stop.setSlopeLeft(2);
+        stop.setSlopeRight(3);
         auto const index = static_cast<unsigned>(random() % 30);
         auto const what = random() % 16;
         if (what < 12) {
@@ -58,7 +62,7 @@ TEST(ColorGradient, IsAlwaysWhatAStableSortGives) {
             model.resize(index);
         }
         if (what < 12 || (what == 12 && index < model.size())) {
-            std::stable_sort(model.begin(), model.end());
+            std::ranges::stable_sort(model, {}, &ColorGradientStop::getLocation);
         }
         ASSERT_TRUE(std::ranges::equal(ColorGradient(gradient).getStops(), model)) << i;
     }
@@ -69,10 +73,9 @@ TEST(ColorGradient, NotANumberLeavesTheOtherStopsInOrder) {
     for (float const location : {3.0f, NAN, 1.0f, NAN, 2.0f, 0.0f, -INFINITY}) {
         gradient.addColorStop({}, location, 0, 0);
     }
-    std::vector<ColorGradientStop> stops;
-    std::ranges::copy_if(gradient.getStops(), std::back_inserter(stops),
-                         [](auto const& stop) { return !std::isnan(stop.getLocation()); });
-    EXPECT_TRUE(stops.size() == 5 && std::is_sorted(stops.begin(), stops.end()));
+    QList<ColorGradientStop> stops = gradient.getStops();
+    stops.removeIf([](auto const& stop) { return std::isnan(stop.getLocation()); });
+    EXPECT_TRUE(stops.size() == 5 && std::is_sorted(stops.cbegin(), stops.cend()));
 }
 
 } // namespace zsg

@@ -10,6 +10,7 @@
 #include <vector>
 
 using namespace zsg;
+using namespace std::string_literals;
 
 namespace {
 
@@ -64,7 +65,7 @@ TEST(IORLines, ReadsWhatTheRegularExpressionsAccept) {
                             R"([,;\t]?\s*(\d+)\s*$)");
     std::regex const pair(R"(^\s*(\d*.?\d*)\s*[,;\t]?\s*(\d*.?\d*)\s*$)");
     std::regex const columns(R"(^\s*(\d*.?\d*)\s*[,;\t]\s*(\d*.?\d*)\s*[,;\t]\s*(\d*.?\d*)$)");
-    std::string const alphabet("1234590..  ,,;;\t\t\r\v-+ex\0\xc3", 29);
+    std::string const alphabet = "1234590..  ,,;;\t\t\r\v-+ex\0\xc3"s;
     std::string const sober("0124.  ,;\t");
     std::mt19937 random(20240229);
     int accepted = 0;

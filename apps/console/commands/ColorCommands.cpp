@@ -32,6 +32,7 @@ void printNew(Host& host, nyx::ColorId id) {
 void list(Host& host, Arguments& arguments) {
     std::string const which =
         arguments.empty() ? "plain" : arguments.oneOf({"plain", "multi", "named"});
+    arguments.done();
     if (which == "named") {
         return printAll(host, db(host).namedColors());
     }
@@ -88,6 +89,7 @@ void createMulti(Host& host, Arguments& arguments) {
 void pushValue(Host& host, Arguments& arguments) {
     nyx::ColorId const id = takeColor(host, arguments);
     nyxColor_rgba const rgba = takeRgba(arguments);
+    arguments.done();
     ZColorExt color = db(host).colorFromId(id);
     color.setColor(ZColor(rgba), ZColorExt::NameOp::Keep);
     db(host).pushColor(color);
@@ -95,6 +97,7 @@ void pushValue(Host& host, Arguments& arguments) {
 
 void pushTemp(Host& host, Arguments& arguments) {
     nyxColor_rgba const rgba = takeRgba(arguments);
+    arguments.done();
     ZColorExt color(rgba.r, rgba.g, rgba.b, rgba.a);
     db(host).pushTempColor(color);
     printNew(host, color.getId());
@@ -108,17 +111,22 @@ void clone(Host& host, Arguments& arguments) {
 }
 
 void wrap(Host& host, Arguments& arguments) {
-    printNew(host, db(host).multiColorFromColor(takeColor(host, arguments)));
+    nyx::ColorId const id = takeColor(host, arguments);
+    arguments.done();
+    printNew(host, db(host).multiColorFromColor(id));
 }
 
 void switchSub(Host& host, Arguments& arguments) {
     nyx::ColorId const multi = takeColor(host, arguments, "a multi-colour");
     nyx::ColorId const sub = takeColor(host, arguments, "a sub-colour");
+    arguments.done();
     db(host).setActiveSubColor({multi, sub});
 }
 
 void references(Host& host, Arguments& arguments) {
-    host.out() << db(host).totalSceneReferenceCount(takeColor(host, arguments)) << '\n';
+    nyx::ColorId const id = takeColor(host, arguments);
+    arguments.done();
+    host.out() << db(host).totalSceneReferenceCount(id) << '\n';
 }
 
 void materials(Host& host, Arguments& arguments) {
@@ -128,6 +136,7 @@ void materials(Host& host, Arguments& arguments) {
         how = arguments.oneOf({"direct", "multi"}) == "direct" ? 1 : 2;
     }
     bool const all = arguments.flag("all");
+    arguments.done();
     for (nyx::MaterialId const material : db(host).getMaterialsUsingColor(id, how, all)) {
         auto const info = host.renderer().material(material);
         host.out() << "  " << material.toUint() << ' ' << (info ? info->name : "") << '\n';
@@ -135,8 +144,9 @@ void materials(Host& host, Arguments& arguments) {
 }
 
 void unique(Host& host, Arguments& arguments) {
-    auto const name =
-        db(host).findUniqueColorName(arguments.word("a name"), {}, nyxColor_extended::PlainColor);
+    std::string const wanted = arguments.word("a name");
+    arguments.done();
+    auto const name = db(host).findUniqueColorName(wanted, {}, nyxColor_extended::PlainColor);
     if (!name) {
         throw CommandError("there is no unique name");
     }
@@ -145,6 +155,7 @@ void unique(Host& host, Arguments& arguments) {
 
 void find(Host& host, Arguments& arguments) {
     std::string const name = arguments.word("a name");
+    arguments.done();
     auto const lock = db(host).createRtApiLock();
     auto const print = [&](char const* what, auto id) {
         host.out() << "  " << what << ' '
@@ -157,11 +168,15 @@ void find(Host& host, Arguments& arguments) {
 
 void rendererSets(Host& host, Arguments& arguments) {
     nyx::ColorId const id = takeColor(host, arguments);
-    host.renderer().changeColor(id, takeRgba(arguments));
+    nyxColor_rgba const rgba = takeRgba(arguments);
+    arguments.done();
+    host.renderer().changeColor(id, rgba);
 }
 
 void rendererRemoves(Host& host, Arguments& arguments) {
-    host.renderer().removeColor(takeColor(host, arguments));
+    nyx::ColorId const id = takeColor(host, arguments);
+    arguments.done();
+    host.renderer().removeColor(id);
 }
 
 constexpr Command table[] = {

@@ -66,7 +66,9 @@ void create(Host& host, Arguments& arguments) {
 }
 
 void apply(Host& host, Arguments& arguments) {
-    db(host).applyColorway(takeColorway(host, arguments));
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    arguments.done();
+    db(host).applyColorway(id);
 }
 
 void active(Host& host, Arguments&) {
@@ -77,15 +79,21 @@ void active(Host& host, Arguments&) {
 }
 
 void unused(Host& host, Arguments& arguments) {
-    db(host).checkForUnusedMultiColors(takeColorway(host, arguments));
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    arguments.done();
+    db(host).checkForUnusedMultiColors(id);
 }
 
 void push(Host& host, Arguments& arguments) {
-    db(host).pushColorway(takeColorway(host, arguments));
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    arguments.done();
+    db(host).pushColorway(id);
 }
 
 void rendererActivates(Host& host, Arguments& arguments) {
-    if (!host.renderer().activateColorway(takeColorway(host, arguments))) {
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    arguments.done();
+    if (!host.renderer().activateColorway(id)) {
         throw CommandError("the renderer has no such colorway");
     }
 }

@@ -33,11 +33,17 @@ void accepted(bool ok) {
     }
 }
 
-void make(Host& host, Arguments& arguments) { makeNamed(host, arguments, AnimationCurve()); }
+void make(Host& host, Arguments& arguments) {
+    std::string const name = arguments.word("a name");
+    arguments.done();
+    keepNamed(host, name, AnimationCurve());
+}
 
 void insert(Host& host, Arguments& arguments) {
     AnimationCurve& curve = take(host, arguments);
-    int const index = curve.insertKey(static_cast<float>(arguments.real("a place on the x axis")));
+    auto const x = static_cast<float>(arguments.real("a place on the x axis"));
+    arguments.done();
+    int const index = curve.insertKey(x);
     host.out() << "  key " << index << '\n';
 }
 
@@ -48,6 +54,7 @@ void setPoint(Host& host, Arguments& arguments) {
     nyxVector2f point;
     point.x = static_cast<float>(arguments.real("x"));
     point.y = static_cast<float>(arguments.real("y"));
+    arguments.done();
     accepted((curve.*set)(index, point));
 }
 
@@ -55,7 +62,9 @@ template <bool (AnimationCurve::*set)(int, float)>
 void setWeight(Host& host, Arguments& arguments) {
     AnimationCurve& curve = take(host, arguments);
     int const index = takeIndex(curve, arguments);
-    accepted((curve.*set)(index, static_cast<float>(arguments.real("a length"))));
+    auto const length = static_cast<float>(arguments.real("a length"));
+    arguments.done();
+    accepted((curve.*set)(index, length));
 }
 
 void setType(Host& host, Arguments& arguments) {
@@ -63,13 +72,16 @@ void setType(Host& host, Arguments& arguments) {
     int const index = takeIndex(curve, arguments);
     nyx::AnimationKey key = curve.keyAt(index);
     std::string const letter = arguments.oneOf({"U", "T", "s", "S", "L"});
+    arguments.done();
     key.type = static_cast<nyx::KeyType>(std::string("UTsSL").find(letter));
     accepted(curve.setKey(index, key));
 }
 
 void remove(Host& host, Arguments& arguments) {
     AnimationCurve& curve = take(host, arguments);
-    curve.removeKey(takeIndex(curve, arguments));
+    int const index = takeIndex(curve, arguments);
+    arguments.done();
+    curve.removeKey(index);
 }
 
 // The exchange format: letters, then in.x in.y pos.x pos.y out.x out.y of each key.
@@ -87,6 +99,7 @@ void load(Host& host, Arguments& arguments) {
 
 void show(Host& host, Arguments& arguments) {
     AnimationCurve const& curve = take(host, arguments);
+    arguments.done();
     nyxArray<float> data;
     std::string types;
     curve.store(data, types);
@@ -157,6 +170,7 @@ std::vector<Picture::Point> segment(Frame const& frame, nyx::AnimationKey const&
 void save(Host& host, Arguments& arguments) {
     AnimationCurve const& curve = take(host, arguments);
     std::string const path = arguments.word("a path");
+    arguments.done();
     if (curve.keyCount() == 0) {
         throw CommandError("the curve has no keys");
     }

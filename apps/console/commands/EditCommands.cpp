@@ -15,6 +15,8 @@ namespace console {
 
 namespace {
 
+constexpr int mostSteps = 100'000;
+
 zsg::ColorController& controller(Host& host) { return *host.root().colorController(); }
 
 void printId(Host& host, nyx::ColorId id) {
@@ -40,6 +42,9 @@ void drag(Host& host, Arguments& arguments) {
     arguments.oneOf({"in"});
     int const steps = arguments.integer("a number of steps");
     arguments.done();
+    if (steps < 1 || steps > mostSteps) {
+        throw CommandError("expected 1 to " + std::to_string(mostSteps) + " steps");
+    }
     nyxColor_rgba const from = host.root().colorDB()->getColorParameters(id)
                                    ? host.root().colorDB()->getColorParameters(id)->color()
                                    : nyxColor_rgba{};
@@ -163,7 +168,9 @@ void uses(Host& host, Arguments& arguments) {
                    << '\n';
         return;
     }
-    host.out() << controller(host).activeReferenceCount(takeColor(host, arguments)) << '\n';
+    nyx::ColorId const id = takeColor(host, arguments);
+    arguments.done();
+    host.out() << controller(host).activeReferenceCount(id) << '\n';
 }
 
 void colorwayCreate(Host& host, Arguments& arguments) {

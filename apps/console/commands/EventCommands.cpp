@@ -12,11 +12,16 @@ namespace {
 
 void list(Host& host, Arguments&) {
     for (EventLog::Entry const& event : host.events().entries()) {
-        host.out() << "event " << event.id << ' ' << event.typeText << ' ' << event.payload << '\n';
+        host.out() << "event " << event.id << ' ' << event.typeText
+                   << (event.payload.empty() ? "" : " ") << event.payload << '\n';
     }
 }
 
-void show(Host& host, Arguments& arguments) { host.showEvents(arguments.onOff()); }
+void show(Host& host, Arguments& arguments) {
+    bool const on = arguments.onOff();
+    arguments.done();
+    host.showEvents(on);
+}
 
 void clear(Host& host, Arguments&) { host.events().clear(); }
 

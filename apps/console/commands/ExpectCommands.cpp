@@ -62,6 +62,7 @@ void cleanState(Host& host, Arguments& arguments) {
 
 void keep(Host& host, Arguments& arguments) {
     std::string const name = arguments.word("a name for the state");
+    arguments.done();
     host.state<Dumps>().byName[name] = host.renderer().dump();
 }
 
@@ -114,9 +115,10 @@ void contains(Host& host, Arguments& arguments) {
 }
 
 void journal(Host& host, Arguments& arguments) {
-    std::vector<std::string> const calls = host.renderer().takeJournal();
-    compare("calls to the renderer", arguments.integer("a number of calls"),
-            static_cast<long long>(calls.size()));
+    int const expected = arguments.integer("a number of calls");
+    arguments.done();
+    compare("calls to the renderer", expected,
+            static_cast<long long>(host.renderer().takeJournal().size()));
 }
 
 constexpr Command table[] = {

@@ -41,7 +41,11 @@ Stop takeStop(Arguments& arguments) {
     return stop;
 }
 
-void make(Host& host, Arguments& arguments) { makeNamed(host, arguments, ColorGradient()); }
+void make(Host& host, Arguments& arguments) {
+    std::string const name = arguments.word("a name");
+    arguments.done();
+    keepNamed(host, name, ColorGradient());
+}
 
 void add(Host& host, Arguments& arguments) {
     ColorGradient& gradient = take(host, arguments);
@@ -63,12 +67,15 @@ void replace(Host& host, Arguments& arguments) {
 
 void blend(Host& host, Arguments& arguments) {
     ColorGradient& gradient = take(host, arguments);
-    gradient.setBlend(arguments.onOff());
+    bool const on = arguments.onOff();
+    arguments.done();
+    gradient.setBlend(on);
 }
 
 void size(Host& host, Arguments& arguments) {
     ColorGradient& gradient = take(host, arguments);
     unsigned const count = arguments.number("a number of stops");
+    arguments.done();
     if (count > mostStops) {
         throw CommandError("expected at most " + std::to_string(mostStops) + " stops");
     }
@@ -77,6 +84,7 @@ void size(Host& host, Arguments& arguments) {
 
 void show(Host& host, Arguments& arguments) {
     ColorGradient const& gradient = take(host, arguments);
+    arguments.done();
     for (ColorGradientStop const& stop : gradient.getStops()) {
         host.out() << "  " << stop.getLocation() << ' ' << swatch(stop.getColor());
         if (stop.getSlopeLeft() != 0 || stop.getSlopeRight() != 0) {
@@ -109,6 +117,7 @@ nyxColor_rgba colorAt(QList<ColorGradientStop> const& stops, bool blend, float l
 void save(Host& host, Arguments& arguments) {
     ColorGradient const& gradient = take(host, arguments);
     std::string const path = arguments.word("a path");
+    arguments.done();
     QList<ColorGradientStop> const stops = gradient.getStops();
     if (stops.isEmpty()) {
         throw CommandError("the gradient has no stops");

@@ -53,12 +53,14 @@ void load(Host& host, Arguments& arguments) {
     if (!zsg::loadIORFile(path, triples)) {
         throw CommandError(path + ": holds no samples");
     }
-    host.state<NamedValues<FloatArray>>().byName[name] = triples;
+    keepNamed(host, name, triples);
     host.out() << "  " << triples.size() / 3 << " samples\n";
 }
 
 void show(Host& host, Arguments& arguments) {
-    for (Sample const& s : samples(take(host, arguments))) {
+    FloatArray const& triples = take(host, arguments);
+    arguments.done();
+    for (Sample const& s : samples(triples)) {
         host.out() << "  " << s.wavelength << " nm  n " << s.n << "  k " << s.k << "  R "
                    << std::fixed << std::setprecision(2) << s.reflectance() << std::defaultfloat
                    << std::setprecision(6) << '\n';
@@ -68,6 +70,7 @@ void show(Host& host, Arguments& arguments) {
 void reflectance(Host& host, Arguments& arguments) {
     std::vector<Sample> const list = samples(take(host, arguments));
     double const wavelength = arguments.real("a wavelength in nanometres");
+    arguments.done();
     auto const next = std::ranges::lower_bound(list, wavelength, {}, &Sample::wavelength);
     if (next == list.end() || (next == list.begin() && next->wavelength != wavelength)) {
         throw CommandError("the file has no figures there");
@@ -86,6 +89,7 @@ void reflectance(Host& host, Arguments& arguments) {
 void save(Host& host, Arguments& arguments) {
     std::vector<Sample> const list = samples(take(host, arguments));
     std::string const path = arguments.word("a path");
+    arguments.done();
     double const from = list.front().wavelength;
     double const to = list.back().wavelength;
     double top = 1;

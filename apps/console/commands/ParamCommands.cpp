@@ -73,6 +73,7 @@ void list(Host& host, Arguments&) {
 
 void show(Host& host, Arguments& arguments) {
     Parameter const p = take(host, arguments);
+    arguments.done();
     host.out() << "  " << p.displayName().toStdString() << ", " << zsg::typeName(p.type())
                << ", flags 0x" << std::hex << p.flags().toInt() << std::dec << ", quantity "
                << static_cast<int>(p.quantity()) << (p.isValid() ? "" : ", invalid")

@@ -28,7 +28,9 @@ void save(Host& host, Arguments& arguments) {
 void pump(Host& host, Arguments&) { host.pump(); }
 
 void recordJournal(Host& host, Arguments& arguments) {
-    host.renderer().recordJournal(arguments.onOff());
+    bool const on = arguments.onOff();
+    arguments.done();
+    host.renderer().recordJournal(on);
 }
 
 void showJournal(Host& host, Arguments&) {
@@ -49,16 +51,18 @@ void fault(Host& host, Arguments& arguments) {
     std::string const name =
         arguments.oneOf({"creations", "unique-names", "scene", "notifications", "settings"});
     if (name == "creations") {
-        faults.failCreations = arguments.integer("how many creations fail");
-    } else if (name == "unique-names") {
-        faults.noUniqueNames = arguments.onOff();
-    } else if (name == "scene") {
-        faults.noScene = arguments.onOff();
-    } else if (name == "settings") {
-        faults.noSettings = arguments.onOff();
-    } else {
-        faults.holdNotifications = arguments.onOff();
+        int const count = arguments.integer("how many creations fail");
+        arguments.done();
+        faults.failCreations = count;
+        return;
     }
+    bool const on = arguments.onOff();
+    arguments.done();
+    bool& fault = name == "unique-names" ? faults.noUniqueNames
+                  : name == "scene"      ? faults.noScene
+                  : name == "settings"   ? faults.noSettings
+                                         : faults.holdNotifications;
+    fault = on;
 }
 
 constexpr Command table[] = {

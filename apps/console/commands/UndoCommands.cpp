@@ -12,6 +12,9 @@ void repeat(Arguments& arguments, ZUndoStack& stack, bool (ZUndoStack::*step)(),
     bool const all = arguments.flag("all");
     int count = all || arguments.empty() ? 1 : arguments.integer("how many steps, or all");
     arguments.done();
+    if (count < 0) {
+        throw CommandError("expected 0 or more");
+    }
     if (!all && !(stack.*possible)()) {
         throw CommandError(nothing);
     }
@@ -43,17 +46,21 @@ void history(Host& host, Arguments&) {
 
 void goTo(Host& host, Arguments& arguments) {
     int const index = arguments.integer("how many entries are done");
+    arguments.done();
     if (!host.undoStack().goTo(index)) {
         throw CommandError("there is no way to that place");
     }
 }
 
 void macroBegin(Host& host, Arguments& arguments) {
-    host.undoStack().beginMacro(QString::fromStdString(arguments.word("a text")));
+    std::string const text = arguments.word("a text");
+    arguments.done();
+    host.undoStack().beginMacro(QString::fromStdString(text));
 }
 
 void macroEnd(Host& host, Arguments& arguments) {
     std::string const text = arguments.empty() ? std::string() : arguments.word("a text");
+    arguments.done();
     if (host.undoStack().macroDepth() == 0) {
         throw CommandError("no macro is open");
     }
@@ -64,6 +71,7 @@ void clean(Host& host, Arguments&) { host.undoStack().setClean(); }
 
 void limit(Host& host, Arguments& arguments) {
     int const entries = arguments.integer("how many entries are kept");
+    arguments.done();
     if (entries < 0) {
         throw CommandError("expected 0 or more");
     }

@@ -29,7 +29,7 @@ void make(Host& host, Arguments& arguments) {
     if (!arguments.empty()) {
         withValue(holder->type(), arguments, [&](void const* value) { holder->set(value); });
     }
-    host.state<NamedValues<Holder>>().byName[name] = holder;
+    keepNamed(host, name, holder);
     print(host, *holder);
 }
 
@@ -40,21 +40,29 @@ void set(Host& host, Arguments& arguments) {
     });
 }
 
-void show(Host& host, Arguments& arguments) { print(host, *take(host, arguments)); }
+void show(Host& host, Arguments& arguments) {
+    Holder const holder = take(host, arguments);
+    arguments.done();
+    print(host, *holder);
+}
 
 void hash(Host& host, Arguments& arguments) {
-    host.out() << std::hex << zsg::hash_variant(take(host, arguments).get()) << std::dec << '\n';
+    Holder const holder = take(host, arguments);
+    arguments.done();
+    host.out() << std::hex << zsg::hash_variant(holder.get()) << std::dec << '\n';
 }
 
 void clone(Host& host, Arguments& arguments) {
     Holder const source = take(host, arguments);
     std::string const name = arguments.word("a name");
-    host.state<NamedValues<Holder>>().byName[name] = Holder(source->cloneValue());
+    arguments.done();
+    keepNamed(host, name, Holder(source->cloneValue()));
 }
 
 void copy(Host& host, Arguments& arguments) {
     Holder const from = take(host, arguments);
     Holder const to = take(host, arguments);
+    arguments.done();
     if (from->type() != to->type()) {
         throw CommandError("the two are of different types");
     }

@@ -5,6 +5,7 @@
 #include "nyxrender/WeavePattern.h"
 #include "zsg/values/WeavePattern.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iomanip>
 #include <iostream>
@@ -17,6 +18,7 @@ namespace {
 using zsg::WeavePattern;
 
 constexpr int largestSide = 4096;
+constexpr int largestDrawnSide = 512;
 
 WeavePattern& take(Host& host, Arguments& arguments) {
     return takeNamed<WeavePattern>(host, arguments, "a weave");
@@ -35,30 +37,42 @@ WeavePattern::YarnType yarn(Arguments& arguments) {
     return arguments.oneOf({"warp", "weft"}) == "warp" ? WeavePattern::Warp : WeavePattern::Weft;
 }
 
-void make(Host& host, Arguments& arguments) {
-    WeavePattern& weave = makeNamed(host, arguments, WeavePattern());
+WeavePattern takeWeave(Arguments& arguments) {
     std::string const kind =
         arguments.oneOf({"plain", "twill", "satin", "basket", "herringbone", "empty"});
     if (kind == "plain") {
-        weave = WeavePattern::makePlain();
-    } else if (kind == "twill") {
-        int const n = side(arguments, "a repeat");
-        weave = WeavePattern::makeTwill(n, arguments.integer("a band width"));
-    } else if (kind == "satin") {
-        int const n = side(arguments, "a repeat");
-        weave = WeavePattern::makeSatin(n, arguments.integer("a step"));
-    } else if (kind == "basket") {
-        weave = WeavePattern::makeBasket(side(arguments, "a block size"));
-    } else if (kind == "herringbone") {
-        weave = WeavePattern::makeHerringbone();
-    } else {
-        int const columns = side(arguments, "a number of warps");
-        weave.setSize(columns, side(arguments, "a number of wefts"));
+        return WeavePattern::makePlain();
     }
+    if (kind == "twill") {
+        int const n = side(arguments, "a repeat");
+        return WeavePattern::makeTwill(n, arguments.integer("a band width"));
+    }
+    if (kind == "satin") {
+        int const n = side(arguments, "a repeat");
+        return WeavePattern::makeSatin(n, arguments.integer("a step"));
+    }
+    if (kind == "basket") {
+        return WeavePattern::makeBasket(side(arguments, "a block size"));
+    }
+    if (kind == "herringbone") {
+        return WeavePattern::makeHerringbone();
+    }
+    WeavePattern weave;
+    int const columns = side(arguments, "a number of warps");
+    weave.setSize(columns, side(arguments, "a number of wefts"));
+    return weave;
+}
+
+void make(Host& host, Arguments& arguments) {
+    std::string const name = arguments.word("a name");
+    WeavePattern const weave = takeWeave(arguments);
+    arguments.done();
+    keepNamed(host, name, weave);
 }
 
 void show(Host& host, Arguments& arguments) {
     WeavePattern const& weave = take(host, arguments);
+    arguments.done();
     for (int y = 0; y < weave.numWeft(); ++y) {
         host.out() << "  ";
         for (int x = 0; x < weave.numWarp(); ++x) {
@@ -77,21 +91,31 @@ void set(Host& host, Arguments& arguments) {
     WeavePattern& weave = take(host, arguments);
     int const x = arguments.integer("a column");
     int const y = arguments.integer("a row");
-    weave.set(x, y, yarn(arguments));
+    auto const type = yarn(arguments);
+    arguments.done();
+    weave.set(x, y, type);
 }
 
 void flip(Host& host, Arguments& arguments) {
     WeavePattern& weave = take(host, arguments);
     int const x = arguments.integer("a column");
-    weave.flip(x, arguments.integer("a row"));
+    int const y = arguments.integer("a row");
+    arguments.done();
+    weave.flip(x, y);
 }
 
-void invert(Host& host, Arguments& arguments) { take(host, arguments).invert(); }
+void invert(Host& host, Arguments& arguments) {
+    WeavePattern& weave = take(host, arguments);
+    arguments.done();
+    weave.invert();
+}
 
 void size(Host& host, Arguments& arguments) {
     WeavePattern& weave = take(host, arguments);
     int const columns = side(arguments, "a number of warps");
-    weave.setSize(columns, side(arguments, "a number of wefts"));
+    int const rows = side(arguments, "a number of wefts");
+    arguments.done();
+    weave.setSize(columns, rows);
 }
 
 void setYarn(Host& host, Arguments& arguments) {
@@ -99,11 +123,13 @@ void setYarn(Host& host, Arguments& arguments) {
     auto const type = yarn(arguments);
     std::string const what = arguments.oneOf({"width", "tension", "kind"});
     if (what == "kind") {
-        weave.setKind(type, arguments.oneOf({"round", "ribbon"}) == "round" ? WeavePattern::Round
-                                                                            : WeavePattern::Ribbon);
+        bool const round = arguments.oneOf({"round", "ribbon"}) == "round";
+        arguments.done();
+        weave.setKind(type, round ? WeavePattern::Round : WeavePattern::Ribbon);
         return;
     }
     auto const value = static_cast<float>(arguments.real("a number"));
+    arguments.done();
     if (what == "width") {
         weave.setWidth(type, value);
     } else {
@@ -112,21 +138,24 @@ void setYarn(Host& host, Arguments& arguments) {
 }
 
 void json(Host& host, Arguments& arguments) {
-    host.out() << take(host, arguments).toJson().toStdString() << '\n';
+    WeavePattern const& weave = take(host, arguments);
+    arguments.done();
+    host.out() << weave.toJson().toStdString() << '\n';
 }
 
 void read(Host& host, Arguments& arguments) {
-    WeavePattern weave;
-    WeavePattern& target = makeNamed(host, arguments, weave);
+    std::string const name = arguments.word("a name");
     std::string const path = arguments.word("a path");
+    arguments.done();
     std::ifstream in(path, std::ios::binary);
     std::ostringstream text;
     text << in.rdbuf();
     if (!in) {
         throw CommandError(path + ": cannot be read");
     }
+    WeavePattern weave;
     try {
-        if (!target.setFromJson(QString::fromStdString(text.str()))) {
+        if (!weave.setFromJson(QString::fromStdString(text.str()))) {
             throw CommandError(path + ": is no weave pattern");
         }
     } catch (CommandError const&) {
@@ -134,11 +163,13 @@ void read(Host& host, Arguments& arguments) {
     } catch (std::exception const& error) {
         throw CommandError(path + ": " + error.what());
     }
+    keepNamed(host, name, weave);
 }
 
 /// The snippet goes to standard output, whatever ours is.
 void preset(Host& host, Arguments& arguments) {
     WeavePattern const& weave = take(host, arguments);
+    arguments.done();
     std::ostringstream text;
     std::streamsize const precision = std::cout.precision();
     std::streambuf* const before = std::cout.rdbuf(text.rdbuf());
@@ -149,12 +180,16 @@ void preset(Host& host, Arguments& arguments) {
 }
 
 void hash(Host& host, Arguments& arguments) {
-    host.out() << std::hex << take(host, arguments).hash() << std::dec << '\n';
+    WeavePattern const& weave = take(host, arguments);
+    arguments.done();
+    host.out() << std::hex << weave.hash() << std::dec << '\n';
 }
 
 void equal(Host& host, Arguments& arguments) {
     WeavePattern const& a = take(host, arguments);
-    host.out() << (a.equals(take(host, arguments)) ? "equal\n" : "different\n");
+    WeavePattern const& b = take(host, arguments);
+    arguments.done();
+    host.out() << (a.equals(b) ? "equal\n" : "different\n");
 }
 
 void save(Host& host, Arguments& arguments) {
@@ -169,6 +204,9 @@ void save(Host& host, Arguments& arguments) {
             throw CommandError(path + ": cannot be written");
         }
         return;
+    }
+    if (std::max(weave.numWarp(), weave.numWeft()) > largestDrawnSide) {
+        throw CommandError("the weave is too large to draw");
     }
     // A weaver's draft: black where the warp lies on top; at least two repeats to see the joints.
     constexpr double cell = 12;

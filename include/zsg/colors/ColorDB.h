@@ -103,7 +103,7 @@ private:
     nyx::Unique_array<nyx::ColorwayId> colorwayIds_;
     nyx::Unique_array<nyx::ColorId> plainIds_;
     nyx::Unique_array<nyx::ColorId>
-        namedIds_; ///< read along with plainIds_, as the renderer expects
+        namedIds_; ///< in step with plainIds_; namedColors() asks afresh
     nyx::Unique_array<nyx::ColorId> multiIds_;
     unsigned plainRevision_ = 0; ///< of plainIds_ and namedIds_
     unsigned multiRevision_ = 0;

@@ -9,6 +9,7 @@
 #include "nyxrender/Scene.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace nyx::embedded {
@@ -96,7 +97,9 @@ nyx::ObjectId Renderer::addLight(std::string const& name, nyx::GroupItemId paren
     return nyx::ObjectId(id.toUint());
 }
 
-void Renderer::setUnitScale(double scale) { impl_->scene.setUnitScale(scale); }
+void Renderer::setUnitScale(double scale) {
+    impl_->scene.setUnitScale(std::isfinite(scale) && scale > 0 ? scale : 0);
+}
 
 bool Renderer::removeColor(nyx::ColorId id) { return impl_->scene.removeColor(id); }
 

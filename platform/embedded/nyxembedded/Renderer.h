@@ -70,7 +70,7 @@ public:
     nyx::ObjectId addObject(std::string const& name, nyx::GroupItemId parent = {},
                             nyx::MaterialId material = {});
     nyx::ObjectId addLight(std::string const& name, nyx::GroupItemId parent = {});
-    /// What nyx_scene_unit_scale() answers.
+    /// What nyx_scene_unit_scale() answers; what is no finite number above 0 counts as none.
     void setUnitScale(double scale);
 
     // What the renderer does by itself, behind the library's back.
@@ -90,7 +90,8 @@ public:
     // Notifications. Messages and call_after_sync functions are delivered in the next turn of the
     // Qt event loop, or by processEvents(), never inside the call that caused them: first one
     // message 5006 with the colours that commits changed, in commit order without repeats, then
-    // other messages, then the functions. What a receiver causes waits for the turn after.
+    // other messages, then the functions. What a receiver causes waits for the turn after. A
+    // receiver may load a scene, but must not end the renderer.
 
     void setMessageHandler(std::function<void(nyxMessage const&)> handler);
     /// Delivers turn after turn until nothing waits, without needing a Qt event loop; ignored
@@ -138,7 +139,8 @@ public:
 
     /// Replaces the scene's contents and announces the colours. On failure the scene stays as it
     /// was, and the result is a message for people; it is empty on success. Pointers to materials
-    /// and items end with the old contents.
+    /// and items end with the old contents. Blocks and undo commands name records by id, so from
+    /// then on they mean the new ones: commit or release, and clear the undo stack, before loading.
     [[nodiscard]] std::string loadScene(std::string const& path);
     [[nodiscard]] std::string loadSceneText(std::string const& json);
     [[nodiscard]] std::string saveScene(std::string const& path);

@@ -1,5 +1,7 @@
 #include "nyxrender/Journal.h"
 
+#include "nyxembedded/SceneText.h"
+
 #include <cstdio>
 
 namespace nyx::embedded {
@@ -10,8 +12,14 @@ std::vector<std::string> Journal::take() {
 }
 
 void Journal::append(std::string& line, char const* text) {
-    line += text == nullptr ? " null" : " \"" + std::string(text) + '"';
+    if (text == nullptr) {
+        line += " null";
+    } else {
+        append(line, std::string(text));
+    }
 }
+
+void Journal::append(std::string& line, std::string const& text) { appendText(line += ' ', text); }
 
 void Journal::append(std::string& line, float value) {
     char digits[32];

@@ -14,7 +14,7 @@ public:
     void setRecording(bool on) { recording_.store(on, std::memory_order_relaxed); }
     [[nodiscard]] std::vector<std::string> take();
 
-    /// Appends one line made of the parts with blanks between them; texts are quoted, ids and
+    /// Appends one line made of the parts with blanks between them; texts are JSON strings, ids and
     /// numbers are written as decimals, lists in brackets. Costs one branch while recording is off.
     template <class... Parts>
     void write(char const* call, Parts const&... parts) {
@@ -27,7 +27,7 @@ public:
 
 private:
     static void append(std::string& line, char const* text);
-    static void append(std::string& line, std::string const& text) { append(line, text.c_str()); }
+    static void append(std::string& line, std::string const& text);
     static void append(std::string& line, bool value) { line += value ? " true" : " false"; }
     static void append(std::string& line, float value);
     static void append(std::string& line, int value) { line += ' ' + std::to_string(value); }

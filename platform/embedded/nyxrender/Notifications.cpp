@@ -35,11 +35,11 @@ class Notifications::Delivery {
 public:
     explicit Delivery(Notifications& owner)
         : owner_(owner), turn(std::exchange(owner.waiting_, {})) {
-        owner_.delivering_ = true;
+        owner_.delivering_ = &turn;
         owner_.waitingColors_.clear();
     }
     ~Delivery() {
-        owner_.delivering_ = false;
+        owner_.delivering_ = nullptr;
         prepend(owner_.waiting_.messages, std::move(turn.messages));
         prepend(owner_.waiting_.functions, std::move(turn.functions));
         if (!owner_.waiting_.empty()) {
@@ -81,10 +81,13 @@ void Notifications::forgetMessages() {
     waiting_.colors.clear();
     waitingColors_.clear();
     waiting_.messages.clear();
+    if (delivering_ != nullptr) {
+        delivering_->messages.clear();
+    }
 }
 
 void Notifications::schedule() {
-    if (!posted_ && !delivering_ && QCoreApplication::instance() != nullptr) {
+    if (!posted_ && delivering_ == nullptr && QCoreApplication::instance() != nullptr) {
         posted_ = true;
         QCoreApplication::postEvent(this, new QEvent(turnEvent()));
     }
@@ -102,14 +105,14 @@ bool Notifications::event(QEvent* event) {
         return true;
     }
     posted_ = false;
-    if (!delivering_) {
+    if (delivering_ == nullptr) {
         deliverTurn();
     }
     return true;
 }
 
 void Notifications::processEvents() {
-    if (delivering_) {
+    if (delivering_ != nullptr) {
         return;
     }
     for (int turn = 0; turn < turnLimit; ++turn) {

@@ -26,7 +26,8 @@ public:
     void colorChanged(nyx::ColorId id);
     void colorwayActivated(nyx::ColorwayId id);
     void callAfterSync(std::function<void()> function);
-    /// Drops waiting colours and messages: the records that they name are no more.
+    /// Drops colours and messages not yet delivered, those of a turn under way included: the
+    /// records that they name are no more.
     void forgetMessages();
     /// Delivers turn after turn until nothing waits. Ignored inside a delivery. After 1000 turns it
     /// gives up with a warning: receivers that always cause more would keep it forever.
@@ -54,7 +55,7 @@ private:
     Turn waiting_;
     std::unordered_set<nyx::ColorId> waitingColors_;
     bool posted_ = false;
-    bool delivering_ = false;
+    Turn* delivering_ = nullptr; ///< the rest of the turn under way
 };
 
 } // namespace nyx::embedded

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <exception>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -40,7 +41,20 @@ public:
                                    [id](auto const& child) { return child->hasIdRecursive(id); });
     }
 
+    /// Takes over what an inner macro held. Macros hold no macros, so however deep they were
+    /// nested, no call on one goes deep.
+    void absorb(std::vector<CommandPtr> inner) {
+        if (children.empty()) {
+            children = std::move(inner);
+        } else {
+            children.insert(children.end(), std::make_move_iterator(inner.begin()),
+                            std::make_move_iterator(inner.end()));
+        }
+        sealed = children.size();
+    }
+
     std::vector<CommandPtr> children;
+    std::size_t sealed = 0; // so many were in an inner macro or come before one: none merges
 
 private:
     // A child that fails, even by throwing, does not keep the others from running: a macro that
@@ -136,21 +150,22 @@ public:
     }
 
     /// Takes a command that has just been done into the innermost open level.
-    void append(CommandPtr command, bool mayMerge) {
+    void append(CommandPtr command) {
         dropBack(index);
         // Kept before it is offered: when mergeWith throws, the command stays undoable on its own.
         if (!open.empty()) {
-            std::vector<CommandPtr>& children = open.back()->children;
-            children.push_back(std::move(command));
-            if (mayMerge && mergesNewest(children)) {
-                children.pop_back();
+            Macro& macro = *open.back();
+            macro.children.push_back(std::move(command));
+            if (macro.children.size() > macro.sealed + 1 && mergesNewest(macro.children)) {
+                macro.children.pop_back();
             }
             return;
         }
-        bool const crossesClean = clean == index;
+        bool const mayMerge = index > 0 && clean != index && entry(index - 1).id() != macroId &&
+                              command->id() != macroId;
         entries.push_back(std::move(command));
         ++index;
-        if (mayMerge && !crossesClean && mergesNewest(entries)) {
+        if (mayMerge && mergesNewest(entries)) {
             entries.pop_back();
             --index;
         }
@@ -190,11 +205,11 @@ public:
     std::shared_ptr<std::function<void()> const> callback;
 
 private:
+    static constexpr ZCommandId macroId = ZCommandId::Macro;
+
     /// Offers the newest command of a level to the one before it.
     static bool mergesNewest(std::vector<CommandPtr> const& level) {
-        ZUndoCommand* const below = level.size() < 2 ? nullptr : level[level.size() - 2].get();
-        return below != nullptr && below->id() != ZCommandId::Macro &&
-               below->mergeWith(level.back().get());
+        return level[level.size() - 2]->mergeWith(level.back().get());
     }
 
     bool step(bool forward) {
@@ -223,11 +238,12 @@ bool ZUndoStack::push(ZUndoCommand* command) {
     }
     try {
         Raised const running(impl_->executing);
-        if (!owned->redo()) {
-            owned.reset();
+        // Ends before `running` does: what its destructor asks of the stack is refused.
+        CommandPtr doing = std::move(owned);
+        if (!doing->redo()) {
             return false;
         }
-        impl_->append(std::move(owned), true);
+        impl_->append(std::move(doing));
     } catch (...) {
         impl_->notify();
         throw;
@@ -257,9 +273,13 @@ void ZUndoStack::endMacro(QString const& text) {
     if (!text.isEmpty()) {
         macro->setText(text);
     }
-    if (!macro->children.empty()) {
+    if (!impl_->open.empty()) {
+        if (!macro->children.empty()) {
+            impl_->open.back()->absorb(std::move(macro->children));
+        }
+    } else if (!macro->children.empty()) {
         Raised const running(impl_->executing);
-        impl_->append(std::move(macro), false);
+        impl_->append(std::move(macro));
     }
     impl_->notify();
 }
@@ -275,7 +295,7 @@ bool ZUndoStack::redo() {
 
 bool ZUndoStack::goTo(int index) {
     return !impl_->refuses("goTo", true) && index >= 0 && index <= impl_->count() &&
-           impl_->move(index);
+           (index == impl_->index || impl_->move(index));
 }
 
 bool ZUndoStack::clear() {

@@ -1,0 +1,102 @@
+#include "colors/ColorCommands.h"
+
+#include "colors/ControllerScene.h"
+
+using namespace zsg;
+using nyx::ColorId;
+
+namespace {
+
+class ColorCommandsTest : public ControllerScene {
+protected:
+    std::unique_ptr<ZEditColorCommand> colorEdit(int kind, ColorId id, int mergeMode = 0) {
+        ZColorExtEdit const* const state = db->getColorParameters(id);
+        return std::make_unique<ZEditColorCommand>(kind, db.get(), state->copyFor(id),
+                                                   state->copyFor(id), mergeMode);
+    }
+};
+
+} // namespace
+
+TEST_F(ColorCommandsTest, OnlySetColorMergesIntoAnOpenSetColor) {
+    ZToggleMultiColorCommand toggle(db.get(), ids(red));
+    EXPECT_FALSE(colorEdit(1, red)->mergeWith(&toggle)); // of the same command id
+    EXPECT_FALSE(toggle.mergeWith(colorEdit(1, red).get()));
+    struct {
+        int kind, mode, laterKind, laterMode;
+        bool merges, mergesOn;
+    } const rows[] = {
+        {1, 0, 1, 0, true, true},   {1, 0, 1, 1, true, false},  {1, 1, 1, 0, false, false},
+        {1, 0, 3, 0, false, true},  {0, 0, 0, 0, false, false}, {3, 0, 1, 0, false, false},
+        {1, 0, 1, -7, true, false},
+    };
+    for (auto const& row : rows) {
+        auto const command = colorEdit(row.kind, red, row.mode);
+        EXPECT_EQ(command->mergeWith(colorEdit(row.laterKind, red, row.laterMode).get()),
+                  row.merges);
+        EXPECT_EQ(command->mergeWith(colorEdit(1, red).get()), row.mergesOn);
+    }
+}
+
+TEST_F(ColorCommandsTest, MergingAcrossColorsLosesWhatLiesBetween) {
+    std::string const before = renderer.dump();
+    edit.setColor(red, ZColor(0.5f, 0, 0), AllowForwardUndoMerge::Yes);
+    edit.changeSubColor(cover, red, blue);
+    EXPECT_EQ(history(), "177 Set Color");
+    std::string const after = renderer.dump();
+    stack.undo(); // red only: neither the multi-colour nor the flag that it cost Summer
+    EXPECT_EQ(since(before), "Cover subs 3 2 active 3; Summer off");
+    stack.redo(); // the multi-colour only
+    EXPECT_EQ(since(after), "color 1 'Red' 1 0 0 1");
+}
+
+TEST_F(ColorCommandsTest, UndoingASwitchToTheActiveColorwayLeavesNoneActive) {
+    edit.applyColorway(summer);
+    std::string const before = renderer.dump();
+    stack.undo();
+    EXPECT_EQ(since(before), "Summer off");
+}
+
+TEST_F(ColorCommandsTest, ASwitchStopsAtAMissingMultiColorAndIsNotPushed) {
+    ColorId const trim = multiColor("Trim", {red, blue});
+    for (ColorId const multi : {cover, trim}) {
+        use(multi); // or the first reading of a colorway drops it
+    }
+    auto const way = renderer.addColorway("Way", {{cover, green}, {trim, blue}});
+    ASSERT_EQ(db->getColorwayParameters(way)->multiColors().size(), 2u);
+    renderer.removeColor(trim);
+    std::string const before = renderer.dump();
+    edit.applyColorway(way);
+    EXPECT_EQ(history(), "");
+    EXPECT_EQ(since(before), "Cover subs 1 2 active 2");
+}
+
+TEST_F(ColorCommandsTest, UndoDoesNotBringBackUnusedMultiColorsDroppedByReading) {
+    auto const way = renderer.addColorway("Way", {{multiColor("Trim", {red}), red}, {cover, red}});
+    edit.setDisplayName(way, "x");
+    std::string const before = renderer.dump();
+    stack.undo();
+    EXPECT_EQ(since(before), "colorway 3 'Way' pairs 4:1");
+}
+
+TEST_F(ColorCommandsTest, ListsOfAColorEditAreFollowedBothWays) {
+    auto const command = colorEdit(6, cover);
+    command->setUndeleteOnRedo({winter, noColorway});
+    command->setSyncColors(ids(blue, red));
+    std::string const before = renderer.dump();
+    std::string const told = "commit_color_params 4; > ColorUpdated 4; commit_colorway_params 2; "
+                             "> ColorWayUpdated 2; > ColorUpdated 3; > ColorUpdated 1";
+    EXPECT_EQ(story([&] { EXPECT_TRUE(command->undo()); }), told);
+    EXPECT_EQ(since(before), "colorway 2 'Winter' flags 1 pairs 4:2");
+    EXPECT_EQ(story([&] { EXPECT_TRUE(command->redo()); }), told);
+    EXPECT_EQ(since(before), "");
+}
+
+TEST_F(ColorCommandsTest, WithoutTheirRecords) {
+    ZCreateColorwayCommand create("Made", db.get(), noColorway);
+    EXPECT_FALSE(create.redo() || create.undo());
+    EXPECT_EQ(create.text(), "Made");
+    ZActivateColorwayCommand activate(db.get(), noColorway);
+    EXPECT_TRUE(activate.redo() && activate.undo());
+    EXPECT_EQ(activate.text() + colorEdit(8, red)->text() + colorEdit(-1, red)->text(), "");
+}

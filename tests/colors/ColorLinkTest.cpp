@@ -1,0 +1,83 @@
+#include "colors/ControllerScene.h"
+#include "zsg/colors/IColorLinkHandler.h"
+#include "zsg/colors/IColorLinker.h"
+
+using namespace zsg;
+using nyx::ColorId;
+
+namespace {
+
+class ColorLinkTest : public ControllerScene, public IColorLinkHandler {
+protected:
+    Resolution resolveConflict(ZColorExt const& color, int index, ColorId existing) override {
+        asked += color.getName(index) + ':' + std::to_string(existing.value) + ' ';
+        return color.getName(index) == "Red" ? Resolution::Link : Resolution::Rename;
+    }
+
+    static ZColorExt palette(std::vector<ZColor> const& colors) {
+        std::vector<ZColorExt::ZColorWithId> elements;
+        for (ZColor const& color : colors) {
+            elements.emplace_back(color, ColorId());
+        }
+        ZColorExt made;
+        made.setMultiColor(true);
+        made.setColorName("Palette");
+        made.setColors(elements);
+        return made;
+    }
+
+    std::unique_ptr<IColorLinker> const linker = db->getColorLinker(&edit, this);
+    std::string asked;
+};
+
+} // namespace
+
+TEST_F(ColorLinkTest, AConflictIsANameInUseWithAnotherValue) {
+    auto const conflicts = [&](ZColor const& color) {
+        auto const found = edit.checkForConflict(palette({ZColor(), color}));
+        EXPECT_TRUE(found.empty() || (found[0].index == 1 && found[0].name == color.name() &&
+                                      found[0].existing == db->colorFromId(red).getId()));
+        return found.size();
+    };
+    EXPECT_EQ(conflicts({1, 0, 0, 1, "Red"}), 0u);
+    EXPECT_EQ(conflicts({1, 0.00009f, 0, 1, "Red"}), 0u);
+    EXPECT_EQ(conflicts({1, 0, 0.00011f, 1, "Red"}), 1u);
+    EXPECT_EQ(conflicts({1, 0, 0, 0.5f, "Red"}), 1u);
+    EXPECT_EQ(conflicts({NAN, 0, 0, 1, "Red"}), 1u);
+    EXPECT_EQ(conflicts({1, 1, 1, 1, "Blue"}), 0u);  // its material is on no object
+    EXPECT_EQ(conflicts({1, 1, 1, 1, "Cover"}), 0u); // a multi-colour
+    EXPECT_EQ(conflicts({1, 1, 1, 1, ""}), 0u);
+}
+
+TEST_F(ColorLinkTest, AnImportAsksOncePerConflictAndOverwritesNothing) {
+    std::string const before = renderer.dump();
+    ZColorExt color = palette({{0, 0, 0, 1, "Red"}, {0, 0, 0, 1, "Sand"}, {1, 1, 1, 1, "Green"}});
+    EXPECT_EQ(linker->importColor(color), ColorId(5));
+    EXPECT_EQ(asked, "Red:1 Green:2 ");
+    EXPECT_EQ(since(before), "color 5 'Palette' 1 0 0 1 flags 1 subs 1 6 7 active 1; color 6 "
+                             "'Sand' 0 0 0 1; color 7 'Green 1' 1 1 1 1");
+    EXPECT_EQ(color.getSubColorId(2), ColorId(7));
+
+    ZColorExt plain{ZColor(0, 0, 0, 1, "Red")};
+    EXPECT_EQ(linker->importColor(plain), red);
+    EXPECT_EQ(plain, db->colorFromId(red));
+    ZColorExt other{ZColor(0, 0, 0, 1, "Red")};
+    db->getColorLinker(&edit, nullptr)->importColor(other);
+    EXPECT_EQ(other.getColorName(), "Red 1");
+    EXPECT_EQ(renderer.color(other.getId())->name, "Red 1");
+    EXPECT_EQ(history(), ""); // the import itself cannot be undone
+    renderer.faults().noUniqueNames = true;
+    EXPECT_EQ(linker->uniqueColorName("Red"), "");
+}
+
+TEST_F(ColorLinkTest, MergingAddsWhatIsMissing) {
+    ColorId const trim = multiColor("Trim", {blue, green});
+    std::string const before = renderer.dump();
+    linker->mergeSubColors(trim, cover);
+    linker->mergeSubColors(trim, cover); // nothing is missing any more
+    linker->mergeSubColors(trim, red);
+    EXPECT_EQ(since(before), "color 5 'Trim' 0 0 0 1 flags 1 subs 3 2 1 active 3");
+    EXPECT_EQ(history(), "177 Add Sub Color (Trim)");
+    EXPECT_EQ(linker->controller(), &edit);
+    EXPECT_EQ(linker->colorDB(), db.get());
+}
