@@ -61,7 +61,8 @@ gate_tsan() {
 }
 
 gate_fuzz() {
-    cmake --preset fuzz >/dev/null && cmake --build --preset fuzz -j "$jobs" || return 1
+    cmake --preset fuzz >/dev/null && cmake --build --preset fuzz -j "$jobs" --target fuzzers ||
+        return 1
     local fuzzer name seconds=${ZSG_FUZZ_SECONDS:-60}
     export seconds
     run_fuzzer() {

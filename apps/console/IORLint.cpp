@@ -19,6 +19,13 @@ bool startsWithNumber(std::string const& line) {
            (std::isdigit(static_cast<unsigned char>(line[at])) != 0 || line[at] == '.');
 }
 
+// What a header consists of; lines before it may start with a number, say a year.
+bool looksLikeHeader(std::string const& line) {
+    std::size_t const at = line.find_first_not_of(" \t");
+    return at != std::string::npos && line[at] >= '1' && line[at] <= '4' &&
+           line.find_first_not_of("0123456789.,; \t") == std::string::npos;
+}
+
 // A digit, then e, then a digit or a sign.
 bool scientific(std::string const& line) {
     for (std::size_t i = 1; i + 1 < line.size(); ++i) {
@@ -59,7 +66,7 @@ std::vector<std::string> lintIOR(std::string const& text, std::string const& ext
             say("is blank, and counts as a sample with n = 0 and k = 0");
         }
         if (scientific(line)) {
-            say("has a number in scientific notation; such lines are skipped");
+            say("has a number in scientific notation; most such lines are skipped");
         }
         std::size_t const last = line.find_last_not_of(" \t");
         if (last != std::string::npos && line[last] == ';') {
@@ -68,8 +75,8 @@ std::vector<std::string> lintIOR(std::string const& text, std::string const& ext
         if (!pairs && line.size() >= 100) {
             say("has 100 characters or more; reading ends here");
         }
+        pastHeader = pastHeader || looksLikeHeader(line);
         if (startsWithNumber(line)) {
-            pastHeader = true;
             ++rows;
             largest = std::max(largest, std::strtod(line.c_str(), nullptr));
         }

@@ -61,14 +61,17 @@ int main(int argc, char** argv) {
         return 1;
     }
     console::Interpreter interpreter(host);
+    int code = 0;
     if (jsonLines) {
-        return console::runJsonSession(interpreter, host, std::cin, std::cout);
+        code = console::runJsonSession(interpreter, host, std::cin, std::cout);
+    } else if (scriptOption->count() == 0 && console::isTerminal()) {
+        code = console::runTerminalSession(interpreter, host);
+    } else {
+        code = runScript(interpreter, scriptOption->count() == 0 ? "-" : script, keepGoing);
     }
-    if (scriptOption->count() != 0) {
-        return runScript(interpreter, script, keepGoing);
+    if (!std::cout.flush()) {
+        std::cerr << "the output could not be written\n";
+        return 1;
     }
-    if (console::isTerminal()) {
-        return console::runTerminalSession(interpreter, host);
-    }
-    return runScript(interpreter, "-", keepGoing);
+    return code;
 }

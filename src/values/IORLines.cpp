@@ -284,7 +284,9 @@ std::optional<IORColumns> readIORColumns(std::string_view line) {
         return IORColumns{(*numbers)[0], (*numbers)[1], (*numbers)[2]};
     }
     // The dot lets "-1" pass, but not "-0.1", which would go unmentioned.
-    if (Split<3> split; split.read(line, true)) {
+    if (Split<3> split; split.read(line, true) && split.gaps[0].marks == 0 &&
+                        split.gaps[1].isSeparator() && split.gaps[2].isSeparator() &&
+                        split.gaps[3].marks == 0) {
         auto const [wavelength, n, k] = split.values();
         if (n < 0 || k < 0) {
             return IORColumns{wavelength, n, k};

@@ -40,7 +40,8 @@ struct IORColumns {
 
 [[nodiscard]] std::optional<IORHeader> readIORHeader(std::string_view line);
 [[nodiscard]] std::optional<IORPair> readIORPair(std::string_view line);
-/// Accepts one kind of line more: three plain numbers of which n or k is negative.
+/// Accepts one kind of line more: three plain numbers, parted as the expression demands, of which n
+/// or k is negative. White space may follow them.
 [[nodiscard]] std::optional<IORColumns> readIORColumns(std::string_view line);
 
 } // namespace zsg

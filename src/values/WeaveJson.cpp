@@ -52,9 +52,10 @@ void appendMask(QString& text, WeaveGrid const& grid) {
     text.chop(1);
 }
 
-/// A number as an int in the library's own way, except where that conversion is undefined.
+/// A number as an int in the library's own way. False for one beyond the range of an int: the
+/// library would let integers wrap around, so that an absurd size looks sound.
 bool readInt(Json const& value, int& out) {
-    if (value.is_number_float()) {
+    if (value.is_number()) {
         double const number = std::trunc(value.get<double>());
         if (!(number >= std::numeric_limits<int>::min() &&
               number <= std::numeric_limits<int>::max())) {

@@ -14,8 +14,10 @@ namespace zsg {
 
 namespace {
 
+/// What follows the last dot, in small letters; empty when there is no dot.
 std::string extensionOf(std::string const& path) {
-    std::string extension = path.substr(path.find_last_of('.') + 1);
+    std::size_t const dot = path.find_last_of('.');
+    std::string extension = dot == std::string::npos ? "" : path.substr(dot + 1);
     std::transform(extension.begin(), extension.end(), extension.begin(),
                    [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
     return extension;

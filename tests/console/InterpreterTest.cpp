@@ -65,8 +65,59 @@ TEST_F(InterpreterTest, ExpectationsCountWhatHappenedAndFailWhenItDidNot) {
                      "expect failure \"was not printed\" expect output 3\n"),
               0)
         << errors.str();
-    EXPECT_EQ(script("expect undo 5\n"), 1);
+    std::string nested;
+    for (int i = 0; i < 50'000; ++i) {
+        nested += "expect failure a ";
+    }
+    EXPECT_EQ(script(nested + "\nexpect undo 5\n", true), 2);
+    EXPECT_THAT(errors.str(), HasSubstr("cannot be nested"));
     EXPECT_THAT(errors.str(), HasSubstr("expected 5 edits to undo, found 0"));
+}
+
+TEST_F(InterpreterTest, AWordTooManyStopsACommandBeforeItActs) {
+    ASSERT_EQ(script("events show off\nweave make w twill 4 2\ngradient make g\n"
+                     "gradient add g 0 1 1 1\ncurve make c\n"
+                     "curve load c UU 0 0 0 0 1 1 1 1 1 1 2 2\nvalue make v Integer 3\n"
+                     "edit name Teal Petrol\nedit drag Petrol 0 0 0 in 2\nundo\n"),
+              0)
+        << errors.str();
+    auto const state = [this] {
+        out.str("");
+        EXPECT_EQ(script("scene\nhistory\nexpect redo 1\ncolor show Petrol\njournal\nevents\n"
+                         "weave json w\ncurve show c\ngradient show g\nvalue print v\n"
+                         "param show steps\n"),
+                  0)
+            << errors.str();
+        return out.str();
+    };
+    std::string const before = state();
+    std::istringstream rows("undo 1\nredo 1\ngoto 0\nmacro begin X\nhistory limit 1\n"
+                            "history clean\njournal record on\nfault scene on\nevents clear\n"
+                            "color create X 1 1 1 1\ncolor push Petrol 1 1 1 1\n"
+                            "color temp 1 1 1 1\ncolor clone Petrol\ncolor wrap Petrol\n"
+                            "color show Petrol\ncolor switch 38 14\n"
+                            "renderer color Petrol 1 1 1 1\nrenderer remove Petrol\n"
+                            "colorway apply 2\nrenderer colorway 2\nedit name Petrol X\n"
+                            "edit color Petrol 1 1 1 1\nedit toggle Petrol\nway apply 2\n"
+                            "way delete 2\nvalue make v Integer 4\nvalue set v 4\n"
+                            "weave make w plain\nweave flip w 0 0\nweave invert w\n"
+                            "weave size w 2 2\nweave yarn w warp width 2\n"
+                            "weave yarn w weft kind ribbon\ncurve make c\ncurve insert c 0.5\n"
+                            "curve pos c 0 3 3\ncurve type c 0 L\ncurve weight-out c 0 3\n"
+                            "curve remove c 0\ngradient make g\ngradient blend g off\n"
+                            "gradient size g 9\nquit\n");
+    for (std::string line; std::getline(rows, line);) {
+        try {
+            interpreter.run(line + " surplus");
+            ADD_FAILURE() << line;
+        } catch (console::CommandError const& error) {
+            EXPECT_THAT(error.what(), HasSubstr("unexpected \"surplus\"")) << line;
+        }
+    }
+    EXPECT_EQ(host.undoStack().macroDepth(), 0);
+    EXPECT_EQ(state(), before);
+    EXPECT_EQ(script("weave make w twill four\nweave read w /nowhere\n", true), 2);
+    EXPECT_EQ(state(), before) << "what had the name is kept";
 }
 
 TEST_F(InterpreterTest, LoadingABrokenSceneLeavesEverythingAsItWas) {
@@ -79,10 +130,13 @@ TEST_F(InterpreterTest, LoadingABrokenSceneLeavesEverythingAsItWas) {
 }
 
 TEST_F(InterpreterTest, JsonLinesAnswerEveryRequest) {
+    std::string const deep = "{\"id\": " + std::string(400'000, '[') + std::string(400'000, ']') +
+                             ", \"command\": \"undo\"}\n";
     std::istringstream in("{\"id\": 7, \"command\": \"edit name Teal Petrol\"}\n"
                           "{\"command\": [\"color\", \"unique\", \"Petrol\"]}\n"
                           "not json\n[]\n{\"command\": 3}\n{\"command\": [1]}\n"
-                          "{\"id\": \"x\", \"command\": \"undo undo\"}\n");
+                          "{\"command\": [\"edit\", \"name\", \"Petrol\", \"a\\u0000b\"]}\n" +
+                          deep + "{\"id\": \"x\", \"command\": \"undo undo\"}\n");
     std::ostringstream answers;
     host.pump();
     EXPECT_EQ(console::runJsonSession(interpreter, host, in, answers), 1);
@@ -91,21 +145,21 @@ TEST_F(InterpreterTest, JsonLinesAnswerEveryRequest) {
     for (std::string line; std::getline(split, line);) {
         lines.push_back(line);
     }
-    ASSERT_EQ(lines.size(), 7u);
+    ASSERT_EQ(lines.size(), 9u);
     EXPECT_THAT(lines[0], AllOf(HasSubstr(R"("id":7,"ok":true)"),
                                 HasSubstr(R"("type":"ColorUpdated","payload":"29")")));
     EXPECT_THAT(lines[1], HasSubstr(R"("output":["Petrol 1"])"));
     for (std::size_t i = 2; i < lines.size(); ++i) {
         EXPECT_THAT(lines[i], HasSubstr("\"ok\":false,\"error\":")) << i;
     }
-    EXPECT_THAT(lines[6], HasSubstr(R"("id":"x")"));
+    EXPECT_THAT(lines[8], HasSubstr(R"("id":"x")"));
     EXPECT_EQ(host.undoStack().index(), 1) << "a command with a word too many does nothing";
 }
 
 TEST(IORLint, EachKindOfTroubleIsNamedAtItsFirstPlace) {
-    EXPECT_THAT(console::lintIOR("4 400 700 3\n1 0\n\n1.5e-1 0\n1 0;\n\n", "nk"),
-                ElementsAre(HasSubstr("line 3: is blank"), HasSubstr("line 4: has a number in sci"),
-                            HasSubstr("line 5: ends in a semicolon")));
+    EXPECT_THAT(console::lintIOR("1972 a year\n\n4 400 700 3\n\n1.5e-1 0\n1 0;\n\n", "nk"),
+                ElementsAre(HasSubstr("line 4: is blank"), HasSubstr("line 5: has a number in sci"),
+                            HasSubstr("line 6: ends in a semicolon")));
     EXPECT_THAT(console::lintIOR("wavelength,n,k\r\n0.4,1.5,0\r\n" + std::string(120, '1'), "csv"),
                 ElementsAre(HasSubstr("line 1: ends in CR LF"), HasSubstr("100 characters")));
     EXPECT_THAT(console::lintIOR("0.4,1.5,0\n0.7,1.5,0\n", "csv"),

@@ -4,9 +4,9 @@
 
 #include <gmock/gmock.h>
 
-#include <atomic>
 #include <functional>
 #include <future>
+#include <memory>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -19,20 +19,13 @@ using Mode = RenderTaskQueue::Mode;
 
 class Call final : public ZTask {
 public:
-    Call(std::function<void()> function, bool deleteOnDone, std::atomic<int>* deleted = nullptr)
-        : function_(std::move(function)), deleted_(deleted) {
+    Call(std::function<void()> function, bool deleteOnDone) : function_(std::move(function)) {
         setDeleteOnDone(deleteOnDone);
-    }
-    ~Call() override {
-        if (deleted_ != nullptr) {
-            ++*deleted_;
-        }
     }
     void run() override { function_(); }
 
 private:
     std::function<void()> function_;
-    std::atomic<int>* deleted_;
 };
 
 void add(ZTaskQueue& queue, std::function<void()> function) {
@@ -62,31 +55,28 @@ TEST_P(RenderTaskQueueTest, StepsThroughAPausedQueue) {
     queue.waitIdle();
     EXPECT_TRUE(queue.isPaused());
     EXPECT_EQ(queue.pending(), 4U);
-    EXPECT_THAT(ran, ElementsAre());
     EXPECT_TRUE(queue.step());
     EXPECT_THAT(ran, ElementsAre(1));
     EXPECT_TRUE(queue.step());
     EXPECT_THAT(ran, ElementsAre(1, 2));
-    EXPECT_EQ(queue.pending(), 2U);
     queue.resume();
     queue.waitIdle();
     EXPECT_THAT(ran, ElementsAre(1, 2, 3, 4, 5));
-    EXPECT_EQ(queue.pending(), 0U);
 }
 
 TEST_P(RenderTaskQueueTest, DeletesWhatItOwnsAndRunsWhatIsLeft) {
-    std::atomic<int> deleted = 0;
-    Call kept([&] { ran.push_back(2); }, false, &deleted);
+    auto const alive = std::make_shared<int>();
+    Call kept([this, alive] { ran.push_back(2); }, false);
     {
         RenderTaskQueue ending(GetParam());
         ending.pause();
-        ending.addBlockingRenderTask(new Call([&] { ran.push_back(1); }, true, &deleted));
+        add(ending, [this, alive] { ran.push_back(1); });
         ending.addBlockingRenderTask(&kept);
         ending.addBlockingRenderTask(&kept);
         add(ending, [&] { add(ending, [&] { ran.push_back(3); }); });
     }
     EXPECT_THAT(ran, ElementsAre(1, 2, 2, 3));
-    EXPECT_EQ(deleted, 1);
+    EXPECT_EQ(alive.use_count(), 2) << "the one that is kept and this";
 }
 
 TEST_P(RenderTaskQueueTest, KeepsEachAddersOrderAndRunsOneAtATime) {
@@ -119,10 +109,7 @@ TEST_P(RenderTaskQueueTest, KeepsEachAddersOrderAndRunsOneAtATime) {
     EXPECT_THAT(last, testing::Each(each - 1));
 }
 
-INSTANTIATE_TEST_SUITE_P(Modes, RenderTaskQueueTest, testing::Values(Mode::Threaded, Mode::Manual),
-                         [](auto const& mode) {
-                             return mode.param == Mode::Threaded ? "Threaded" : "Manual";
-                         });
+INSTANTIATE_TEST_SUITE_P(Modes, RenderTaskQueueTest, testing::Values(Mode::Threaded, Mode::Manual));
 
 TEST(RenderThreadTest, AddingNeverWaitsForATask) {
     RenderTaskQueue queue;

@@ -47,9 +47,8 @@ protected:
     }
 
     void rename(ColorId id, char const* name) {
-        edit(id, [&](nyxParameter_edit& block) {
-            value(block, "display_name").text = nyx_string_dup(*scene(), name);
-        });
+        char* const text = nyx_string_dup(*scene(), name);
+        edit(id, [text](nyxParameter_edit& block) { value(block, "display_name").text = text; });
     }
 
     void setFlags(ColorId id, std::uint32_t flags) {
@@ -107,14 +106,14 @@ TEST_F(RendererColors, IgnoredColorsFreeTheirNumbersAndRenamedOnesToo) {
         nyx_color_set_unique_name(scene(), id);
     }
     nyx_color_set_unique_name(scene(), ColorId(99));
-    rename(one, "Other");
+    rename(twin, "Other");
     EXPECT_EQ(uniqueName("Red"), "Red 1");
     EXPECT_EQ(renderer.addMultiColor("Other", {}, {}), ColorId(6));
     std::string names;
     for (ColorId const id : renderer.colors()) {
         names += renderer.color(id)->name + ", ";
     }
-    EXPECT_EQ(names, "Red, Other, Red 2, Red 3, , Other 1, ") << "plain and multi share names";
+    EXPECT_EQ(names, "Red, Red 3, Red 2, Other, , Other 1, ") << "plain and multi share names";
     renderer.faults().noUniqueNames = true;
     EXPECT_EQ(uniqueName("Red"), "(null)");
 }
@@ -191,7 +190,6 @@ TEST_F(RendererColors, CreationNeedsMatchingCallsAndFailsOnDemand) {
     make->begin_color();
     EXPECT_EQ(make->end_colorway(), nullptr);
     EXPECT_EQ(make->end_color(), nullptr) << "dropped by the wrong end";
-
     renderer.faults().failCreations = 2;
     EXPECT_FALSE(create("Red").isValid());
     make->begin_colorway();

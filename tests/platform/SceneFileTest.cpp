@@ -13,11 +13,10 @@
 #include <limits>
 #include <random>
 #include <string>
-#include <vector>
+#include <utility>
 
 namespace {
 
-using nyx::embedded::ColorwayPair;
 using nyx::embedded::Renderer;
 
 std::string const showroom = ZSG_SOURCE_DIR "/examples/scenes/showroom.json";
@@ -34,41 +33,62 @@ std::string scene(std::string const& rest) {
 
 std::string colors(std::string const& list) { return scene("\"colors\":[" + list + "]"); }
 
-// A file of showroom's size and shape is what people keep under version control, so the text that
-// is written is pinned to the byte.
-TEST(SceneFile, ShowroomRoundTripsToTheByte) {
-    Renderer first;
-    ASSERT_EQ(first.loadScene(showroom), "");
-    EXPECT_EQ(first.saveSceneText(), readFile(showroom));
+TEST(SceneDump, IsOneReadableLinePerRecord) {
+    Renderer renderer;
+    ASSERT_EQ(renderer.loadSceneText(R"({"format": "zsg-scene", "version": 1, "unitScale": 0.01,
+      "nextIds": {"color": 90},
+      "colors": [
+        {"id": 2, "name": "Red", "originalName": "Rouge", "value": [1, 0.1, -0.0, 0.5]},
+        {"id": 3, "value": [0, 0, 0, 1], "flags": 4},
+        {"id": 7, "name": "Multi\n", "value": [0, 0, 0, 1], "flags": 1,
+         "subColors": [2, 5, 2, 4294967295], "activeSub": 5}],
+      "colorways": [{"id": 1, "name": "Day", "flags": 2, "multiColors": [7, 8], "activeSubs": [2]}],
+      "settings": {"activeColorway": 1},
+      "materials": [{"id": 4, "name": "Cloth", "items": [3, 1], "metadata": "{\"a\":1}",
+        "places": [{"node": 2, "parameter": "diffuse", "color": 7}, {"node": 1, "parameter": "x"}],
+        "cmf": [["Vendor", "\u00c5s"], ["Finish", "Matt"]]}, {"id": 5}],
+      "hierarchy": [{"id": 1, "kind": "group", "name": "Chair"},
+        {"id": 2, "kind": "object", "name": "Seat", "parent": 1, "material": 4},
+        {"id": 3, "kind": "light"}]})"),
+              "");
+    EXPECT_EQ(renderer.dump(), R"(unit scale 0.01
+active colorway 1
+color 2 "Red" 1 0.100000001 -0 0.5 original "Rouge"
+color 3 "" 0 0 0 1 flags 4
+color 7 "Multi\n" 0 0 0 1 flags 1 subs 2 5 2 none active 5
+colorway 1 "Day" flags 2 pairs 7:2 8:missing
+material 4 "Cloth" places 2."diffuse"->7 1."x"->none cmf "Finish"="Matt" "Vendor"="Ås" metadata "{\"a\":1}" items 3 1
+material 5 ""
+group 1 "Chair"
+object 2 "Seat" in 1 material 4
+light 3 ""
+)");
+    std::string const before = renderer.dump();
+    Renderer again;
+    ASSERT_EQ(again.loadSceneText(renderer.saveSceneText()), "");
+    EXPECT_EQ(again.dump(), before);
+    EXPECT_EQ(again.addColor("New", {}), nyx::ColorId(90)) << "as the file says";
+    ASSERT_TRUE(renderer.removeColor(renderer.addColor("Blue", {1, 0, 0, 1})));
+    EXPECT_EQ(renderer.dump(), before) << "no undo takes back the next id and the revisions";
 }
 
 TEST(SceneFile, NothingThatASceneMayHoldIsLost) {
     constexpr float infinity = std::numeric_limits<float>::infinity();
     Renderer made;
     // 7.038531e-26 is the float whose shortest digits come back as its neighbour through double.
-    nyx::ColorId const odd = made.addColor("\"Grün\"\n\\ \t", {7.038531e-26f, -0.0f, 0.1f, 0.25f});
-    nyx::ColorId const gone = made.addColor("gone", {1, 1, 1, 1});
-    nyx::ColorId const bytes = made.addColor("bad \xFF\xC3 bytes", {infinity, -infinity, 3e38f, 1});
+    made.addColor("\"Grün\"\n\\ \t", {7.038531e-26f, -0.0f, 0.1f, 0.25f});
+    made.addColor("bad \xFF\xC3 bytes", {infinity, -infinity, 3e38f, 1});
     made.addColor("", {std::numeric_limits<float>::max(), std::numeric_limits<float>::denorm_min(),
                        16777216.0f, std::numeric_limits<float>::quiet_NaN()});
-    nyx::ColorId const multi = made.addMultiColor("Multi", {{odd, gone, odd, bytes}}, gone);
-    std::vector<ColorwayPair> const pairs{{multi, gone}, {gone, nyx::ColorId()}};
-    made.addColorway("Way", pairs);
-    nyx::MaterialId const material = made.addMaterial("");
-    made.bindColor(material, 0xFFFFFFFFu, "", gone);
-    nyx::GroupItemId const group = made.addGroup("Group");
-    made.addObject("Object", group, nyx::MaterialId(77));
-    made.addLight("Light", group);
-    made.addColor("last", {});
-    ASSERT_TRUE(made.removeColor(gone));
-    ASSERT_TRUE(made.removeColor(nyx::ColorId(6))); // the last one: its id must not come back
+    made.bindColor(made.addMaterial(""), 0xFFFFFFFFu, "", nyx::ColorId(77));
+    ASSERT_TRUE(made.removeColor(made.addColor("last", {}))); // its id must not come back
     made.setUnitScale(0.0254);
 
     Renderer loaded;
     ASSERT_EQ(loaded.loadSceneText(made.saveSceneText()), "");
     EXPECT_EQ(loaded.saveSceneText(), made.saveSceneText());
     EXPECT_EQ(loaded.dump(), made.dump());
-    EXPECT_EQ(loaded.addColor("new", {}), nyx::ColorId(7));
+    EXPECT_EQ(loaded.addColor("new", {}), nyx::ColorId(5));
     EXPECT_EQ(nyx_scene_unit_scale(*loaded.scene()), 0.0254);
     for (double const bad : {std::nan(""), -1.0, HUGE_VAL}) {
         loaded.setUnitScale(bad);
@@ -87,14 +107,9 @@ TEST(SceneFile, NothingThatASceneMayHoldIsLost) {
     EXPECT_THAT(loaded.saveSceneText(), testing::HasSubstr(text));
 }
 
-struct Broken {
-    std::string json;
-    std::string message;
-};
-
 TEST(SceneFile, AWrongFileIsNamedByPlaceAndExpectationAndChangesNothing) {
     std::string const red = R"({"id":1,"value":[1,0,0,1]})";
-    Broken const rows[] = {
+    std::pair<std::string, std::string> const rows[] = {
         {"", "line 1, column 1: syntax error while parsing value - unexpected end of input; "
              "expected '[', '{', or a literal"},
         {"{\"format\":\n  junk}", "line 2, column 3: syntax error while parsing value - invalid "
@@ -106,19 +121,14 @@ TEST(SceneFile, AWrongFileIsNamedByPlaceAndExpectationAndChangesNothing) {
          "/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0/0: nested deeper "
          "than 32"},
         {"[]", "the file: expected an object, found an array"},
-        {"{}", "the file: the key \"format\" is missing"},
         {R"({"format":"other","version":1})", "/format: expected \"zsg-scene\", found \"other\""},
         {R"({"format":"zsg-scene","version":2,"x":0})", "/version: expected 1, found 2"},
         {scene("\"colors\":{}"), "/colors: expected an array, found an object"},
         {scene("\"a/b~c\":0"), "/a~1b~0c: unknown key"},
         {colors(R"({"id":1,"id":2})"), "/colors/0/id: the key appears twice"},
         {colors(red + "," + red), "/colors/1/id: ids ascend: expected 2 or more, found 1"},
-        {colors(R"({"id":0,"value":[1,0,0,1]})"),
-         "/colors/0/id: expected a whole number from 1 to 4294967294, found 0"},
-        {colors(R"({"id":4294967295,"value":[1,0,0,1]})"),
+        {colors(R"({"id":4294967295})"),
          "/colors/0/id: expected a whole number from 1 to 4294967294, found 4294967295"},
-        {colors(R"({"id":"1"})"),
-         "/colors/0/id: expected a whole number from 1 to 4294967294, found a string"},
         {colors(R"({"id":1})"), "/colors/0: the key \"value\" is missing"},
         {colors(red + R"(,{"id":2,"value":[1,0,"0",1]})"),
          "/colors/1/value/2: expected a number, found a string"},
@@ -147,9 +157,9 @@ TEST(SceneFile, AWrongFileIsNamedByPlaceAndExpectationAndChangesNothing) {
     Renderer renderer;
     ASSERT_EQ(renderer.loadScene(showroom), "");
     std::string const before = renderer.saveSceneText();
-    for (Broken const& row : rows) {
-        EXPECT_EQ(renderer.loadSceneText(row.json), row.message) << row.json.substr(0, 200);
-        EXPECT_EQ(renderer.saveSceneText(), before) << row.json.substr(0, 200);
+    for (auto const& [json, message] : rows) {
+        EXPECT_EQ(renderer.loadSceneText(json), message);
+        EXPECT_EQ(renderer.saveSceneText(), before) << message;
     }
     // What is quoted from a file in a message stays readable, however long it is.
     std::string const longKey(1000000, 'x');
@@ -165,13 +175,13 @@ TEST(SceneFile, FilesThatCannotBeReadOrWrittenLoseNothing) {
     Renderer renderer;
     EXPECT_EQ(renderer.loadScene(path), path + ": No such file or directory");
     EXPECT_EQ(renderer.loadScene(folderPath), folderPath + ": is a folder");
-    EXPECT_NE(renderer.saveScene(folderPath), "");
     EXPECT_NE(renderer.saveScene(folderPath + "/none/x.json"), "");
 
     renderer.addColor("Red", {1, 0, 0, 1});
     ASSERT_EQ(renderer.saveScene(path), "");
     EXPECT_EQ(readFile(path), renderer.saveSceneText());
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{"Scène.json"});
+    // Such a file is what people keep under version control, so the text is pinned to the byte.
     ASSERT_EQ(renderer.loadScene(showroom), "");
     ASSERT_EQ(renderer.saveScene(path), "");
     EXPECT_EQ(readFile(path), readFile(showroom));

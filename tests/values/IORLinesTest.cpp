@@ -115,7 +115,11 @@ TEST(IORLines, PlainNumbersWinOverTheDotThatMatchesABlank) {
     EXPECT_EQ(numbersOf(readIORColumns("500 1.5 0")), Numbers()); // the separators are required
     EXPECT_EQ(numbersOf(readIORColumns("500,1.5,0.1\r")), Numbers());
     EXPECT_EQ(numbersOf(readIORColumns("500;1.5;-0.1")), (Numbers{500, 1.5, -0.1}));
-    EXPECT_EQ(numbersOf(readIORColumns("wavelength,n,k")), Numbers());
+    EXPECT_EQ(numbersOf(readIORColumns(" 500\t-1.5 , 2 \r")), (Numbers{500, -1.5, 2}));
+    for (char const* refused : {"500 1.5 -0.1", "500;;1.5;-0.1", ";500;1.5;-0.1", "500;1.5;-0.1;",
+                                "500;1.5;--0.1", "-500.5,1,2", "wavelength,n,k"}) {
+        EXPECT_EQ(numbersOf(readIORColumns(refused)), Numbers()) << refused;
+    }
 }
 
 TEST(IORLines, HostileLinesAreReadInLinearTime) {

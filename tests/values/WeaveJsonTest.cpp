@@ -99,7 +99,10 @@ TEST(WeaveJson, ReadsWhatItCan) {
         {document({{"pattern_warps", "65536"}, {"pattern_wefts", "65536"}, {"pattern_mask", "[]"}}),
          false, false, false},
         {document({{"pattern_warps", "1e300"}}), false, false, false},
+        {document({{"pattern_warps", "4294967298"}}), false, false, false}, // 2 if it wrapped
+        {document({{"pattern_wefts", "-2147483649"}}), false, false, false},
         {document({{"pattern_mask", "[0,1,-1e300,0]"}}), false, false, false},
+        {document({{"pattern_mask", "[0,18446744073709551615,1,0]"}}), false, false, false},
         {document({{"kind", "[1,2147483648.0]"}}), false, false, false},
     };
     WeavePattern wanted;

@@ -9,6 +9,7 @@
 #include <iostream>
 #include <sstream>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -141,6 +142,8 @@ TEST(WeavePattern, EveryChangeLeavesSharersAlone) {
         WeavePattern same = original;
         same.setKind(Weft, Round);
         EXPECT_EQ(same.nyxWeavePattern(), original.nyxWeavePattern());
+        same.setWidth(Weft, original.width(Weft));
+        EXPECT_NE(same.nyxWeavePattern(), original.nyxWeavePattern());
         same.setFromNyxPattern(record);
         EXPECT_EQ(draft(same), "111");
         EXPECT_EQ(yarns(same), yarns(original));
@@ -149,6 +152,41 @@ TEST(WeavePattern, EveryChangeLeavesSharersAlone) {
         same.setFromNyxPattern(*same.nyxWeavePattern());
         EXPECT_EQ(draft(same), "111");
         EXPECT_EQ(original.hash(), hash);
+    }
+}
+
+TEST(WeavePattern, HandlesOfOneGridWorkOnSeveralThreads) {
+    constexpr std::size_t count = 4;
+    std::vector<WeavePattern> handles[count];
+    for (int round = 0; round < 3000; ++round) {
+        WeavePattern const original = round % 2 == 0 ? WeavePattern::makePlain() : WeavePattern();
+        for (auto& list : handles) {
+            list.push_back(original);
+        }
+    } // the originals are gone: whoever is last changes the shared grid itself
+    auto const change = [](WeavePattern& pattern, std::size_t i) {
+        pattern.set(2, static_cast<int>(i), Weft);
+        pattern.setWidth(Warp, static_cast<float>(i));
+    };
+    std::thread threads[count];
+    for (std::size_t i = 0; i < count; ++i) {
+        threads[i] = std::thread([&change, &list = handles[i], i] {
+            for (WeavePattern& handle : list) {
+                { WeavePattern const copy = handle; }
+                change(handle, i);
+            }
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    for (std::size_t i = 0; i < count; ++i) {
+        WeavePattern wanted[] = {WeavePattern::makePlain(), WeavePattern()};
+        change(wanted[0], i);
+        change(wanted[1], i);
+        for (std::size_t round = 0; round < handles[i].size(); ++round) {
+            ASSERT_TRUE(handles[i][round].equals(wanted[round % 2])) << round;
+        }
     }
 }
 

@@ -99,12 +99,17 @@ TEST_F(LoadIORFile, TablesSkipWhatDoesNotFit) {
 TEST_F(LoadIORFile, NothingToReadLeavesTheResultAlone) {
     std::string const table = "500,1.5,0\n";
     EXPECT_TRUE(QDir(folder_.path()).mkdir("folder.csv"));
+    load("csv", table);
+    QString const before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(folder_.path()));
+    Result const dotless = load(std::string("csv"));
+    QDir::setCurrent(before);
     struct {
         Result result;
         char const* messages;
     } const rows[] = {
         {load("a.txt", table), ""},
-        {load("nk", table), ""},
+        {dotless, ""},
         {load("a.csv", ""), ""},
         {load("a.nk", ""), "Did not find a first line in file?\n"},
         {load("a.nk", "1 2\n3 4\n"), "Did not find a first line in file?\n"},

@@ -145,7 +145,8 @@ void lint(Host& host, Arguments& arguments) {
     if (!in || text.str().empty()) {
         throw CommandError(path + ": is empty or cannot be read");
     }
-    std::string extension = path.substr(path.find_last_of('.') + 1);
+    std::size_t const dot = path.find_last_of('.');
+    std::string extension = dot == std::string::npos ? "" : path.substr(dot + 1);
     std::ranges::transform(extension, extension.begin(),
                            [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
     if (extension != "nk" && extension != "ior" && extension != "csv") {

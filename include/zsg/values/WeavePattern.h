@@ -82,9 +82,9 @@ public:
     /// becomes null, which setFromJson() does not read.
     [[nodiscard]] QString toJson() const;
     /// Reads what toJson() wrote; unknown members are ignored. False, and nothing changes, when the
-    /// text is empty, the mask does not hold one value per crossing, or a number with a fraction
-    /// or exponent is beyond the range of an int where one is wanted. The yarns change only when
-    /// all four of their arrays have two elements, otherwise just the grid does.
+    /// text is empty, the mask does not hold one value per crossing, the size is one that setSize()
+    /// ignores, or a number is beyond the range of an int where one is wanted. The yarns change
+    /// only when all four of their arrays have two elements, otherwise just the grid does.
     /// Throws nlohmann::json::exception for text that is not JSON, for a document that is not an
     /// object and for values of a wrong type; the pattern is then unchanged.
     bool setFromJson(QString const& text);
