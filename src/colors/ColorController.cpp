@@ -148,14 +148,20 @@ nyx::ColorId ColorController::addOrSwitchSubColor(nyx::ColorId multi, nyx::Color
         return {};
     }
     ZColorExt const source = colorDB_->colorFromId(sub);
-    ZColorExt const target = colorDB_->colorFromId(multi);
-    if (!target.getId().isValid() || !target.isMultiColor() || !source.getId().isValid()) {
+    ZColorExtEdit const* const target = multiColorEdit(multi);
+    if (!target) {
+        return {};
+    }
+    // A listed sub-colour is used as it is, even when its record is gone; nothing else can be made
+    // of one that has no record.
+    bool const listed = target->hasSubColor(sub);
+    if (!source.getId().isValid() && !(link && listed)) {
         return {};
     }
     nyx::ColorId used = sub;
     if (!link) {
         used = addSubColor(multi, ZColor(source), -1);
-    } else if (!target.hasSubColor(sub)) {
+    } else if (!listed) {
         addSubColors(multi, nyx::Span<nyx::ColorId>(&sub, 1), -1, sub);
     }
     if (used.isValid()) {

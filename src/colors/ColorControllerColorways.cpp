@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <unordered_map>
 #include <utility>
 
@@ -81,9 +82,15 @@ nyx::ColorwayId ColorController::createColorway(std::string const& name,
     if (ZColorwayEdit* const edit = id.isValid() ? colorDB_->getColorwayParameters(id) : nullptr) {
         edit->setDisplayName(name);
         edit->setPairs(lists.multiColors, lists.activeSubs);
-        push(std::make_unique<ZCreateColorwayCommand>(
+        bool const pushed = push(std::make_unique<ZCreateColorwayCommand>(
             QCoreApplication::translate("ZCreateColorwayCommand", "Create Colorway"), colorDB_,
             id));
+        // A push that was refused must not leave changes behind for a later commit to write.
+        ZColorwayEdit* const again = pushed ? nullptr : colorDB_->getColorwayParameters(id);
+        if (again) {
+            again->setDisplayName({});
+            again->setPairs({}, {});
+        }
     }
     return id;
 }
@@ -112,9 +119,14 @@ void ColorController::addColors(nyx::ColorwayId id, nyx::Span<MultiColorPair> pa
         ColorwayPairs lists{{multiColors.begin(), multiColors.begin() + count},
                             {activeSubs.begin(), activeSubs.begin() + count}};
         addPairs(lists, pairs, index, replace);
-        pushEdit(static_cast<int>(ColorwayEditKind::Colors), *edit, [&](ZColorwayEdit& after) {
-            after.setPairs(lists.multiColors, lists.activeSubs);
-        });
+        auto before = edit->copy();
+        auto after = edit->copy();
+        after->setPairs(lists.multiColors, lists.activeSubs);
+        auto command =
+            std::make_unique<ZEditColorWayCommand>(static_cast<int>(ColorwayEditKind::Colors),
+                                                   colorDB_, std::move(before), std::move(after));
+        ScopedMacro const macro(undoStack_, command->text());
+        push(std::move(command));
     }
 }
 

@@ -12,17 +12,20 @@ namespace zsg {
 
 namespace {
 
-/// Keeps an edit of a material open while it lives.
-class ScopedMaterialEdit {
-public:
-    explicit ScopedMaterialEdit(IMaterialEdit& edit) : edit_(edit) { edit_.beginEdit(); }
-    ~ScopedMaterialEdit() { edit_.endEdit(); }
-    ScopedMaterialEdit(ScopedMaterialEdit const&) = delete;
-    ScopedMaterialEdit& operator=(ScopedMaterialEdit const&) = delete;
-
-private:
-    IMaterialEdit& edit_;
-};
+/// Binds all places in one open edit. The edit is closed whatever happens; closing it pushes a
+/// command, which may throw, so that a destructor could not do it.
+void rebind(IMaterialEdit& edit, std::vector<MaterialColorPlace> const& places, nyx::ColorId to) {
+    edit.beginEdit();
+    try {
+        for (MaterialColorPlace const& place : places) {
+            edit.bindColor(place, to);
+        }
+    } catch (...) {
+        edit.endEdit();
+        throw;
+    }
+    edit.endEdit();
+}
 
 constexpr unsigned boundDirectly = 1;
 constexpr unsigned boundAnyhow = 3;
@@ -40,12 +43,8 @@ void ColorController::linkMaterialColors(nyx::ColorId from, nyx::ColorId to) {
             edit = materialManager_->createMaterialEdit(material);
         }
         auto const places = edit ? edit->colorPlaces(from) : std::vector<MaterialColorPlace>();
-        if (places.empty()) {
-            continue;
-        }
-        ScopedMaterialEdit const open(*edit);
-        for (MaterialColorPlace const& place : places) {
-            edit->bindColor(place, to);
+        if (!places.empty()) {
+            rebind(*edit, places, to);
         }
     }
 }

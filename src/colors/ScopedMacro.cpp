@@ -1,8 +1,12 @@
 #include "zsg/colors/ScopedMacro.h"
 
+#include "colors/logging.h"
+
 #include "zcore/ZUndoStack.h"
 
 #include <QString>
+
+#include <exception>
 
 namespace zsg {
 
@@ -12,9 +16,17 @@ ScopedMacro::ScopedMacro(ZUndoStack* undoStack, QString const& text) : undoStack
     }
 }
 
+// What listens to the stack may throw; the macro is closed by then.
 ScopedMacro::~ScopedMacro() {
-    if (undoStack_) {
+    if (!undoStack_) {
+        return;
+    }
+    try {
         undoStack_->endMacro(QString());
+    } catch (std::exception const& error) {
+        qCWarning(zsgColors, "an exception at the end of a macro was dropped: %s", error.what());
+    } catch (...) {
+        qCWarning(zsgColors, "an exception at the end of a macro was dropped");
     }
 }
 

@@ -4,9 +4,34 @@
 #include "zsg/colors/IColorDB.h"
 #include "zsg/colors/IColorLinkHandler.h"
 
-#include <vector>
+#include <algorithm>
+#include <utility>
 
 namespace zsg {
+
+namespace {
+
+// Two elements may have been linked to one colour; it becomes a sub-colour once. Returns where the
+// element at `active` stands then.
+int dropRepeated(std::vector<ZColorExt::ZColorWithId>& elements, int active) {
+    std::vector<ZColorExt::ZColorWithId> kept;
+    int newActive = active;
+    for (std::size_t i = 0; i < elements.size(); ++i) {
+        auto const same = std::ranges::find_if(kept, [&](auto const& element) {
+            return element.id.isValid() && element.id == elements[i].id;
+        });
+        if (static_cast<int>(i) == active) {
+            newActive = static_cast<int>(same - kept.begin());
+        }
+        if (same == kept.end()) {
+            kept.push_back(elements[i]);
+        }
+    }
+    elements = std::move(kept);
+    return newActive;
+}
+
+} // namespace
 
 ZColorLinker::ZColorLinker(IColorController* controller, IColorLinkHandler* handler)
     : controller_(controller), colorDB_(controller->colorDB()), handler_(handler) {}
@@ -16,8 +41,21 @@ std::string ZColorLinker::uniqueColorName(std::string const& name) {
         .value_or(std::string());
 }
 
+// The other elements are not in the scene yet, so the renderer does not know their names.
+std::string ZColorLinker::unusedName(std::string const& name, Elements const& elements) {
+    auto const taken = [&](std::string const& candidate) {
+        return std::ranges::any_of(
+            elements, [&](auto const& element) { return element.name() == candidate; });
+    };
+    std::string candidate = uniqueColorName(name);
+    for (int n = 1; !candidate.empty() && taken(candidate); ++n) {
+        candidate = uniqueColorName(name + ' ' + std::to_string(n));
+    }
+    return candidate;
+}
+
 nyx::ColorId ZColorLinker::importColor(ZColorExt& color) {
-    std::vector<ZColorExt::ZColorWithId> elements;
+    Elements elements;
     for (int i = 0; i < color.nColors(); ++i) {
         elements.emplace_back(color.getColor(i), color.getSubColorId(i));
     }
@@ -28,7 +66,14 @@ nyx::ColorId ZColorLinker::importColor(ZColorExt& color) {
             handler_ ? handler_->resolveConflict(color, conflict.index, conflict.existing)
                      : IColorLinkHandler::Resolution::Rename;
         if (resolution == IColorLinkHandler::Resolution::Rename) {
-            element.setName(uniqueColorName(conflict.name));
+            element.setName(unusedName(conflict.name, elements));
+            // With the id of the colour in use it would be that colour that is renamed.
+            if (element.id == conflict.existing) {
+                element.id = {};
+            }
+            if (color.getId() == conflict.existing) {
+                color.setId({});
+            }
             continue;
         }
         // The existing colour keeps its value, or linking would overwrite it.
@@ -40,7 +85,9 @@ nyx::ColorId ZColorLinker::importColor(ZColorExt& color) {
         element = ZColorExt::ZColorWithId(ZColor(existing), conflict.existing);
     }
     if (!conflicts.empty()) {
+        int const active = dropRepeated(elements, color.activeIndex());
         color.setColors(elements);
+        color.setActiveIndex(active);
         if (!color.isMultiColor()) {
             color.setColorName(elements.front().name());
         }

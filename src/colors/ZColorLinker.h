@@ -2,6 +2,9 @@
 
 #include "zsg/colors/IColorLinker.h"
 
+#include <string>
+#include <vector>
+
 namespace zsg {
 
 class IColorLinkHandler;
@@ -19,6 +22,10 @@ public:
     [[nodiscard]] IColorDB* colorDB() const override;
 
 private:
+    using Elements = std::vector<ZColorExt::ZColorWithId>;
+
+    std::string unusedName(std::string const& name, Elements const& elements);
+
     IColorController* controller_;
     IColorDB* colorDB_;
     IColorLinkHandler* handler_;

@@ -172,7 +172,9 @@ TEST(WeavePattern, HandlesOfOneGridWorkOnSeveralThreads) {
     for (std::size_t i = 0; i < count; ++i) {
         threads[i] = std::thread([&change, &list = handles[i], i] {
             for (WeavePattern& handle : list) {
-                { WeavePattern const copy = handle; }
+                if (i % 2 == 0) { // not all, as this also orders what the threads do
+                    WeavePattern const copy = handle;
+                }
                 change(handle, i);
             }
         });

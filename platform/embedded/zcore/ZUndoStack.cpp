@@ -257,7 +257,15 @@ void ZUndoStack::beginMacro(QString const& text) {
         return;
     }
     impl_->open.push_back(std::make_unique<Macro>(text));
-    impl_->notify();
+    try {
+        impl_->notify();
+    } catch (...) {
+        // The caller does not know that it would have a macro to end.
+        if (!impl_->open.empty()) {
+            impl_->open.pop_back();
+        }
+        throw;
+    }
 }
 
 void ZUndoStack::endMacro(QString const& text) {
