@@ -4,20 +4,11 @@
 
 #include "zsg/values/ValueVariant.h"
 
-#include <array>
-
 namespace console {
 
 namespace {
 
 using zsg::Type;
-
-constexpr std::array writable = {
-    Type::Boolean,    Type::Integer,       Type::IntegerList,    Type::Float,
-    Type::Float2,     Type::Float3,        Type::Double,         Type::Double3,
-    Type::String,     Type::StringList,    Type::FilePath,       Type::Matrix,
-    Type::Color,      Type::ColorAlpha,    Type::FloatArray,     Type::AxaltaColor,
-    Type::Enumerable, Type::ColorGradient, Type::AnimationCurve, Type::WeavePattern};
 
 float takeFloat(Arguments& arguments) { return static_cast<float>(arguments.real("a number")); }
 
@@ -129,11 +120,12 @@ void withValue(Type type, Arguments& arguments, std::function<void(void const*)>
 
 Type takeType(Arguments& arguments) {
     std::string const name = arguments.word("a type");
-    for (Type const type : writable) {
-        if (name == zsg::typeName(type)) {
-            return type;
-        }
+#define CONSOLE_TYPE(member, number, T)                                                            \
+    if (name == #member) {                                                                         \
+        return Type::member;                                                                       \
     }
+    ZSG_VALUE_TYPES(CONSOLE_TYPE)
+#undef CONSOLE_TYPE
     throw CommandError("\"" + name + "\" is no type of a value");
 }
 

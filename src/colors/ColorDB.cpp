@@ -178,7 +178,7 @@ nyx::Span<nyx::ColorwayId> ColorDB::colorways() {
 }
 
 bool ColorDB::anyMultiColorsInScene() {
-    for (nyx::ColorId const id : multiColors()) {
+    for (nyx::ColorId const id : copied(multiColors())) {
         if (totalSceneReferenceCount(id) != 0) {
             return true;
         }
@@ -216,7 +216,7 @@ ZColorwayEdit* ColorDB::cachedColorway(nyx::ColorwayId id) const {
 
 std::unique_ptr<IColorLinker> ColorDB::getColorLinker(IColorController* controller,
                                                       IColorLinkHandler* handler) {
-    return std::make_unique<ZColorLinker>(controller, handler);
+    return controller ? std::make_unique<ZColorLinker>(controller, handler) : nullptr;
 }
 
 } // namespace zsg

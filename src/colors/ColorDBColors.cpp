@@ -50,6 +50,10 @@ void ColorDB::pushColorImpl(ZColorExt& color) {
         if (!edit) {
             return;
         }
+        // Once more: a listener of the new sub-colours may have replaced the edit.
+        edit->setColor(color.rgba());
+        edit->setDisplayName(color.getColorName());
+        edit->setFlag(ColorFlags::MultiColor);
         edit->setSubColors(subs);
         edit->setActiveSub(color.getSubColorId(color.activeIndex()));
         for (int i = 0; i < color.nColors(); ++i) {
@@ -175,6 +179,9 @@ void ColorDB::setColorEdit(ZColorExtEdit const* edit) {
         return;
     }
     auto copy = edit->copyFor(id);
+    if (copy->id() != id) {
+        return; // the renderer could not copy the block
+    }
     auto& cached = colorEdits_[id];
     cached = std::move(copy);
     cached->commit(true);

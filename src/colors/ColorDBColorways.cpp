@@ -63,10 +63,7 @@ void ColorDB::applyColorway(nyx::ColorwayId id) {
             continue;
         }
         otherEdit->setActive(false);
-        // Most of many colorways have nothing to push.
-        if (otherEdit->isModified()) {
-            pushColorway(other);
-        }
+        pushColorway(other);
     }
     edit = getColorwayParameters(id);
     if (edit) {
@@ -137,6 +134,9 @@ void ColorDB::setColorwayEdit(ZColorwayEdit const* edit) {
         return;
     }
     auto copy = edit->copy();
+    if (copy->id() != id) {
+        return; // the renderer could not copy the block
+    }
     auto& cached = colorwayEdits_[id];
     cached = std::move(copy);
     cached->commit(true);

@@ -96,7 +96,9 @@ Parameter::Parameter(Builder const& builder) : d_(new ParameterData) {
     d.hint = builder.hint;
     d.type = builder.type;
     d.flags = builder.flags;
-    d.flags.setFlag(Enabled, builder.enabled || d.flags.testFlag(Enabled));
+    if (builder.enabled) {
+        d.flags |= Enabled;
+    }
     d.quantity = builder.quantity;
     d.hasLimits = builder.hasLimits;
     d.minimum = builder.minimum;

@@ -7,8 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <memory>
-#include <vector>
 
 namespace zsg {
 namespace {
@@ -56,13 +54,7 @@ TEST(HashVariant, ValuesAreFixed) {
     EXPECT_EQ(hashOf(Enumerable()), 0x9e377eaau);
 
     // A multi-colour is hashed by all its colours, whichever is active.
-    std::vector<ZColorExt::ZColorWithId> const colors{{ZColor(1, 0, 0), nyx::ColorId(1)},
-                                                      {ZColor(0, 1, 0), nyx::ColorId(2)}};
-    ZColorExt multi;
-    multi.setMultiColor(true);
-    multi.setColors(colors);
-    multi.setActiveIndex(1);
-    EXPECT_EQ(hashOf(multi), 0x5b9b8060a61c4805u);
+    EXPECT_EQ(hashOf(test::multiColor()), 0x5b9b8060a61c4805u);
 }
 
 TEST(HashVariant, TextsUseTheHashOfQt) {

@@ -55,8 +55,6 @@ void expectRows() {
     }
 }
 
-TEST(Hint, PiecesAreFoundAnywhereAndReadInFull) { expectRows(); }
-
 /// Sets a locale with a decimal comma; compiles one into `folder` when the machine has none.
 bool setCommaLocale(QTemporaryDir const& folder) {
     constexpr char name[] = "de_DE.UTF-8";
@@ -69,13 +67,15 @@ bool setCommaLocale(QTemporaryDir const& folder) {
     return *std::localeconv()->decimal_point == ',';
 }
 
-TEST(Hint, NumbersHaveAPointWhateverTheLocale) {
+TEST(Hint, PiecesAreReadWithAPointWhateverTheLocale) {
     std::string const before = std::setlocale(LC_ALL, nullptr);
     QTemporaryDir const folder;
+    // First, as the reading of a hint must not have touched the thread's locale before.
     bool const comma = setCommaLocale(folder);
     expectRows();
     EXPECT_EQ(*std::localeconv()->decimal_point == ',', comma) << "the application's is kept";
     std::setlocale(LC_ALL, before.c_str());
+    expectRows();
     if (!comma) {
         GTEST_SKIP() << "no locale with a decimal comma can be had";
     }

@@ -92,6 +92,9 @@ TEST(Parameter, ConstructionCompletesTheFlags) {
         EXPECT_EQ(parameter.flags().toInt(), row.flags) << row.text;
         EXPECT_EQ(parameter.isValid(), (row.flags & 0x4000) == 0) << row.text;
         EXPECT_EQ(parameter.isPure(), (row.flags & 0x400) != 0) << row.text;
+        EXPECT_EQ(parameter.value<int>().has_value(),
+                  row.type == Type::Integer && !parameter.isPure())
+            << row.text;
         EXPECT_EQ(text(parameter), row.text);
     }
 }
@@ -194,7 +197,8 @@ TEST(Parameter, ColorsAreReadAndWrittenInEitherType) {
     EXPECT_EQ(*alpha.value<ZColorExtAlpha>(), ZColorExtAlpha(nyxColor{0.25f, 0.5f, 0.75f}))
         << "alpha is dropped";
     EXPECT_FALSE(alpha.setColor(color)) << "the same colour";
-    EXPECT_EQ(alpha.getColor().rgba().g, 0.5f);
+    EXPECT_TRUE(alpha.setColor(test::multiColor()));
+    EXPECT_EQ(alpha.getColor(), ZColorExt(0, 1, 0)) << "the active one alone";
 
     Parameter number(builder(Type::Float));
     EXPECT_FALSE(number.isColorType());

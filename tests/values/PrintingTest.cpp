@@ -63,13 +63,7 @@ TEST(Printing, ListsEndsAndStreamFlags) {
     os << std::boolalpha << ValueVariant<bool>(false) << ' ' << ValueVariant<double>(3.14159);
     EXPECT_EQ(os.str(), "false 3.14");
 
-    std::vector<ZColorExt::ZColorWithId> const colors{{ZColor(1, 0, 0), nyx::ColorId(1)},
-                                                      {ZColor(0, 1, 0), nyx::ColorId(2)}};
-    ZColorExt multi;
-    multi.setMultiColor(true);
-    multi.setColors(colors);
-    multi.setActiveIndex(1);
-    EXPECT_EQ(textOf(multi), "RGB(0, 1, 0)") << "the active one";
+    EXPECT_EQ(textOf(test::multiColor()), "RGB(0, 1, 0)") << "the active one";
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "zsg/values/ValueVariant.h"
 
+#include <vector>
+
 /// One value of each value type that differs from the type's default.
 namespace zsg::test {
 
@@ -41,6 +43,17 @@ inline ColorGradient sample<ColorGradient>() {
     gradient.addColorStop({1, 0, 0, 1}, 0, 1, 2);
     gradient.addColorStop({0, 0, 1, 0.5f}, 1, -1, 0.5f);
     return gradient;
+}
+
+/// Red and green, green being the active one.
+inline ZColorExt multiColor() {
+    std::vector<ZColorExt::ZColorWithId> const colors{{ZColor(1, 0, 0), nyx::ColorId(1)},
+                                                      {ZColor(0, 1, 0), nyx::ColorId(2)}};
+    ZColorExt multi;
+    multi.setMultiColor(true);
+    multi.setColors(colors);
+    multi.setActiveIndex(1);
+    return multi;
 }
 
 } // namespace zsg::test

@@ -43,6 +43,9 @@ struct Panel {
             builder("tint", "Tint").setType(Type::ColorAlpha),
             builder("name", "Name").setType(Type::String).setToolTip("What it is called"),
             builder("weave", "Weave").setType(Type::WeavePattern),
+            builder("linked", "Linked")
+                .setType(Type::Integer)
+                .setFlags(Parameter::Bit9 | Parameter::Bit12),
             builder("surface", "Surface").setType(Type::ShaderSurface),
             builder("shader", "Shader").setType(Type::ShaderBase),
         };

@@ -5,7 +5,6 @@
 #include "zsg/values/ValueVariant.h"
 #include "zsg/values/hash_variant.h"
 
-#include <array>
 #include <memory>
 #include <ostream>
 

@@ -119,7 +119,8 @@ public:
     [[nodiscard]] virtual std::string activeColorwayName() = 0;
     [[nodiscard]] virtual std::string colorwayName(nyx::ColorwayId id) = 0;
 
-    /// A linker over a controller and its database; both arguments are borrowed by it.
+    /// A linker over a controller and its database; both arguments are borrowed by it. Null without
+    /// a controller.
     [[nodiscard]] virtual std::unique_ptr<IColorLinker>
     getColorLinker(IColorController* controller, IColorLinkHandler* handler) = 0;
 

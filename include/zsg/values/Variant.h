@@ -54,8 +54,9 @@ template <ValueType T>
 }
 
 /// The value for logs: numbers in the stream's format, texts in double quotes as UTF-8, vectors as
-/// <x, y>, up to eight integers of a list (else "9 elements"), colours as RGB(r, g, b) of the
-/// active colour or RGBA(r, g, b, a), every other type as its name followed by "()".
+/// <x, y>, up to eight integers of a list (else "9 elements"), lists of texts always by their
+/// count, colours as RGB(r, g, b) of the active colour or RGBA(r, g, b, a), every other type as its
+/// name followed by "()".
 ZSG_EXPORT std::ostream& operator<<(std::ostream& os, Variant const& variant);
 
 } // namespace zsg

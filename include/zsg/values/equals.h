@@ -11,9 +11,9 @@ namespace zsg {
 /// exact. It exists for the types of ZSG_VALUE_TYPES, nyxColor, nyxColor_rgba and nyxShader*
 /// (identity), compiled into the library.
 ///
-/// A NaN makes every type unequal to itself, except that FloatArrays sharing storage are equal at
-/// once, and that in matrices a NaN is equal to anything at its place. Enumerables are compared
-/// without the selection, AxaltaColors without the changed mark.
+/// A NaN makes every type unequal to itself, except that FloatArrays, colours and weave patterns
+/// that share their data are equal at once, and that in matrices a NaN is equal to anything at its
+/// place. Enumerables are compared without the selection, AxaltaColors without the changed mark.
 template <class T>
 [[nodiscard]] bool equals(T const& a, T const& b);
 

@@ -117,7 +117,8 @@ nyx::ColorId ZColorExt::getActiveSubColorId() const { return getSubColorId(activ
 
 void ZColorExt::setColor(ZColor const& color, NameOp op) {
     // The colour may be an element of this value, or its name this value's.
-    ZColor const copy = color;
+    nyxColor_rgba const rgba = color.rgba();
+    std::string name = color.name();
     ZColorExtData& data = write(d_);
     if (data.elements.empty()) {
         data.elements.emplace_back();
@@ -126,11 +127,11 @@ void ZColorExt::setColor(ZColor const& color, NameOp op) {
         return;
     }
     Element& active = data.elements[static_cast<std::size_t>(data.activeIndex)];
-    active.setRgba(copy.rgba());
+    active.setRgba(rgba);
     if (op == NameOp::Replace) {
-        active.setName(copy.name());
+        active.setName(name);
         if (!data.multi) {
-            data.name = copy.name();
+            data.name = std::move(name);
         }
     }
 }
