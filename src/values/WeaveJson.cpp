@@ -222,7 +222,8 @@ QString weaveToJson(WeaveGrid const& grid, WeaveYarns const& yarns) {
     tail += "]}";
 
     QString text;
-    text.reserve(static_cast<qsizetype>(head.size() + 2 * grid.count() + tail.size()));
+    std::size_t const length = head.size() + 2 * grid.count() + tail.size();
+    text.reserve(static_cast<qsizetype>(length));
     append(text, head);
     appendMask(text, grid);
     append(text, tail);
