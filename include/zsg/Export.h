@@ -1,8 +1,8 @@
 #pragma once
 
-/// ZSG_EXPORT marks exported classes and functions. The other two mark the explicit instantiations of
-/// exported templates: GCC and Clang want the attribute on the `extern template` line, MSVC wants
-/// dllexport on the definition.
+/// ZSG_EXPORT marks exported classes and functions. The other two mark the explicit instantiations
+/// of exported templates: GCC and Clang want the attribute on the `extern template` line, MSVC
+/// wants dllexport on the definition.
 #if defined(_WIN32)
     #if defined(ZSG_BUILDING_LIBRARY)
         #define ZSG_EXPORT __declspec(dllexport)
