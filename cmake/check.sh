@@ -85,11 +85,6 @@ gate_docs() {
     mkdir -p build/docs && doxygen docs/Doxyfile
 }
 
-gate_examples() {
-    cmake --preset dev >/dev/null && cmake --build --preset dev -j "$jobs" &&
-        ctest --preset dev -L 'examples|package'
-}
-
 all=(format layering dev clang headers tidy asan tsan fuzz docs)
 wanted=("$@")
 ((${#wanted[@]})) || wanted=("${all[@]}")
