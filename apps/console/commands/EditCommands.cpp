@@ -98,16 +98,31 @@ void subUse(Host& host, Arguments& arguments) {
     printId(host, controller(host).addOrSwitchSubColor(multi, sub, link));
 }
 
+/// MULTI INDEX [active SUB] COLOR...
+struct ListEdit {
+    nyx::ColorId multi;
+    int index = 0;
+    nyx::ColorId active;
+    std::vector<nyx::ColorId> colors;
+
+    ListEdit(Host& host, Arguments& arguments)
+        : multi(takeColor(host, arguments, "a multi-colour")),
+          index(arguments.integer("a position")) {
+        if (arguments.flag("active")) {
+            active = takeColor(host, arguments);
+        }
+        colors = takeColors(host, arguments);
+    }
+};
+
 void subAdd(Host& host, Arguments& arguments) {
-    nyx::ColorId const multi = takeColor(host, arguments, "a multi-colour");
-    int const index = arguments.integer("a position");
-    controller(host).addSubColors(multi, takeColors(host, arguments), index, nyx::ColorId());
+    ListEdit const edit(host, arguments);
+    controller(host).addSubColors(edit.multi, edit.colors, edit.index, edit.active);
 }
 
 void subMove(Host& host, Arguments& arguments) {
-    nyx::ColorId const multi = takeColor(host, arguments, "a multi-colour");
-    int const index = arguments.integer("a position");
-    controller(host).moveSubColors(multi, takeColors(host, arguments), index, nyx::ColorId());
+    ListEdit const edit(host, arguments);
+    controller(host).moveSubColors(edit.multi, edit.colors, edit.index, edit.active);
 }
 
 void subSet(Host& host, Arguments& arguments) {
@@ -242,8 +257,7 @@ private:
 };
 
 // NAME R G B [A], or NAME = ELEMENT R G B, ELEMENT R G B ... for a multi-colour.
-void linkerImport(Host& host, Arguments& arguments) {
-    bool const linkThem = arguments.oneOf({"link", "rename"}) == "link";
+ZColorExt takeForeign(Arguments& arguments) {
     std::string const text = arguments.word("a name");
     ZColorExt value;
     value.setColorName(text);
@@ -259,6 +273,21 @@ void linkerImport(Host& host, Arguments& arguments) {
     }
     arguments.done();
     value.setColors(elements);
+    return value;
+}
+
+void conflicts(Host& host, Arguments& arguments) {
+    auto const found = controller(host).checkForConflict(takeForeign(arguments));
+    for (zsg::IColorController::ColorConflict const& conflict : found) {
+        host.out() << "  \"" << conflict.name << "\" is " << colorLine(host, conflict.existing)
+                   << '\n';
+    }
+    host.out() << (found.empty() ? "  no conflict\n" : "");
+}
+
+void linkerImport(Host& host, Arguments& arguments) {
+    bool const linkThem = arguments.oneOf({"link", "rename"}) == "link";
+    ZColorExt value = takeForeign(arguments);
     Answer answer(host, linkThem ? zsg::IColorLinkHandler::Resolution::Link
                                  : zsg::IColorLinkHandler::Resolution::Rename);
     auto const linker = host.root().colorDB()->getColorLinker(&controller(host), &answer);
@@ -285,8 +314,8 @@ constexpr Command table[] = {
     {"sub new", "MULTI NAME R G B [A] [at INDEX]", "add a new sub-colour", subNew},
     {"sub copy", "MULTI COLOR...", "add new sub-colours of these values", subCopies},
     {"sub use", "MULTI COLOR link|copy", "add a colour, or a copy, and make it active", subUse},
-    {"sub add", "MULTI INDEX COLOR...", "add colours at a position", subAdd},
-    {"sub move", "MULTI INDEX SUB...", "move sub-colours to a position", subMove},
+    {"sub add", "MULTI INDEX [active COLOR] COLOR...", "add colours at a position", subAdd},
+    {"sub move", "MULTI INDEX [active SUB] SUB...", "move sub-colours to a position", subMove},
     {"sub set", "MULTI COLOR...", "replace all sub-colours", subSet},
     {"sub remove", "MULTI SUB...", "take sub-colours out", subRemove},
     {"sub switch", "MULTI SUB", "make a sub-colour the active one", subSwitch},
@@ -300,6 +329,8 @@ constexpr Command table[] = {
     {"way remove", "COLORWAY MULTI...", "take multi-colours out of a colorway", colorwayRemove},
     {"way delete", "COLORWAY", "mark a colorway as deleted", colorwayDelete},
     {"way restore", "COLORWAY", "bring a deleted colorway back", colorwayRestore},
+    {"edit conflicts", "NAME R G B [A] | NAME = NAME R G B...",
+     "list the colours in use that a foreign colour would overwrite", conflicts},
     {"linker import", "link|rename NAME R G B [A] | NAME = NAME R G B...",
      "bring a foreign colour or multi-colour in, settling conflicts", linkerImport},
     {"linker merge", "TO FROM", "add the sub-colours that TO lacks", linkerMerge},

@@ -86,6 +86,43 @@ void reflectance(Host& host, Arguments& arguments) {
                << std::setprecision(6) << '\n';
 }
 
+// A picture for a terminal: columns of equal width in wavelength, n and k to one scale and R to its
+// own.
+void plot(Host& host, Arguments& arguments) {
+    std::vector<Sample> const list = samples(take(host, arguments));
+    arguments.done();
+    constexpr int columns = 72;
+    constexpr int rows = 18;
+    double const from = list.front().wavelength;
+    double const to = list.back().wavelength;
+    double top = 1;
+    for (Sample const& s : list) {
+        top = std::max({top, s.n, s.k});
+    }
+    if (!(to > from) || !std::isfinite(to) || !std::isfinite(top)) {
+        throw CommandError("there is nothing to draw");
+    }
+    std::vector<std::string> picture(rows, std::string(columns, ' '));
+    auto const mark = [&](Sample const& s, double part, char letter) {
+        if (part >= 0 && part <= 1) {
+            auto const x =
+                static_cast<std::size_t>((s.wavelength - from) / (to - from) * (columns - 1));
+            auto const y = static_cast<std::size_t>((1 - part) * (rows - 1));
+            picture[y][x] = letter;
+        }
+    };
+    for (Sample const& s : list) {
+        mark(s, s.n / top, 'n');
+        mark(s, s.k / top, 'k');
+        mark(s, s.reflectance(), 'R');
+    }
+    for (std::string const& line : picture) {
+        host.out() << "  |" << line.substr(0, line.find_last_not_of(' ') + 1) << '\n';
+    }
+    host.out() << "  +" << std::string(columns, '-') << "\n   " << from << " to " << to
+               << " nm; n and k from 0 to " << top << ", R from 0 to 1\n";
+}
+
 void save(Host& host, Arguments& arguments) {
     std::vector<Sample> const list = samples(take(host, arguments));
     std::string const path = arguments.word("a path");
@@ -163,6 +200,7 @@ constexpr Command table[] = {
     {"ior load", "NAME PATH", "load a measured index of refraction (.nk, .ior, .csv)", load},
     {"ior show", "NAME", "list n, k and the reflectance", show},
     {"ior reflectance", "NAME NM", "the reflectance at a wavelength", reflectance},
+    {"ior plot", "NAME", "draw n, k and the reflectance R as text", plot},
     {"ior save", "NAME PATH", "plot n, k and the reflectance (.svg, .png)", save},
     {"ior lint", "PATH", "say what is suspicious about a file", lint},
 };
