@@ -1,8 +1,6 @@
 #include "colors/ColorScene.h"
 
 using namespace zsg;
-using nyx::ColorId;
-using nyx::ColorwayId;
 
 namespace {
 
@@ -36,14 +34,12 @@ TEST_F(ColorDBColorwaysTest, ApplyingMovesTheActiveFlagAndSwitchesWhatStillBelon
               "commit_color_params 3, > ColorUpdated 3, > ColorUpdated 1, > ColorUpdated 2");
     EXPECT_EQ(db->getColorParameters(shoe)->activeSub(), blue);
     EXPECT_EQ(db->getColorParameters(sole)->activeSub(), red);
-    EXPECT_EQ(db->activeColorwayName(), "Winter");
     EXPECT_EQ(calls([&] { renderer.processEvents(); }),
               "> ColorwaySynced 1, > ColorwaySynced 1, > ColorwaySynced 2");
-
     for (ColorwayId const id : {empty, ColorwayId(), ColorwayId(77)}) {
         EXPECT_EQ(calls([&] { db->applyColorway(id); }).find("commit"), std::string::npos);
     }
-    EXPECT_EQ(db->activeColorwayId(), winter);
+    EXPECT_EQ(db->activeColorwayName(), "Winter");
 }
 
 TEST_F(ColorDBColorwaysTest, TheFirstReadingDropsUnusedMultiColorsUncommitted) {
@@ -64,7 +60,6 @@ TEST_F(ColorDBColorwaysTest, PushingFollowsTheActiveFlagInTheSettings) {
     ZColorwayEdit* const edit = db->getColorwayParameters(summer);
     edit->setActive(true);
     db->pushColorway(summer);
-    EXPECT_EQ(db->activeColorwayId(), summer);
     EXPECT_EQ(calls([&] { db->pushColorway(summer); }), "");
     db->getColorwayParameters(empty)->setDisplayName("Void");
     db->pushColorway(empty);
@@ -73,9 +68,7 @@ TEST_F(ColorDBColorwaysTest, PushingFollowsTheActiveFlagInTheSettings) {
     EXPECT_EQ(calls([&] { db->pushColorway(summer); }),
               "commit_colorway_params 1, commit_color_settings_params, "
               "> ColorWayUpdated 1, call_after_sync");
-    EXPECT_EQ(db->activeColorwayId(), ColorwayId());
     EXPECT_EQ(db->activeColorwayName() + db->colorwayName(ColorwayId()), "");
-
     auto const saved = edit->copy();
     edit->setDeleted(true);
     EXPECT_EQ(calls([&] { db->setColorwayEdit(saved.get()); }),
@@ -89,32 +82,27 @@ TEST_F(ColorDBColorwaysTest, ASwitchOfTheRendererRereadsTheColorwayAndItsMultiCo
     use(sole);
     EXPECT_EQ(calls([&] { db->handleColorwayActivated(winter); }), ""); // nothing was read yet
     db->getColorwayParameters(winter);
-    ZColorExtEdit* const edit = db->getColorParameters(shoe);
-    edit->setColor({0.5f, 0, 0, 1});
+    db->getColorParameters(shoe)->setColor({0.5f, 0, 0, 1});
     EXPECT_FALSE(db->activeColorwayId().isValid());
     renderer.activateColorway(winter);
-    EXPECT_EQ(db->getColorParameters(shoe)->activeSub(), red);
     EXPECT_EQ(calls([&] { db->handleColorwayActivated(winter); }),
               "release_color_params 3, color_params 3, > ColorUpdated 3, color_params 4, "
               "> ColorUpdated 4, release_colorway_params 2, colorway_params 2, "
               "nyx_color_reference_count 3, nyx_color_reference_count 4, "
               "> ColorWayUpdated 2, call_after_sync");
     EXPECT_EQ(db->getColorParameters(shoe)->activeSub(), blue);
-    EXPECT_FALSE(db->getColorParameters(shoe)->isModified());
     EXPECT_TRUE(db->getColorwayParameters(winter)->isActive());
     EXPECT_FALSE(db->activeColorwayId().isValid()); // the settings stay as they were read
 }
 
 TEST_F(ColorDBColorwaysTest, SettingsThatAreMissingAreAskedForAgain) {
     renderer.faults().noSettings = true;
-    EXPECT_EQ(db->getColorSettingsParameters(), nullptr);
-    EXPECT_FALSE(db->activeColorwayId().isValid());
     use(shoe);
     db->applyColorway(summer);
+    EXPECT_FALSE(db->activeColorwayId().isValid());
     EXPECT_TRUE(db->getColorwayParameters(summer)->isActive());
     renderer.faults().noSettings = false;
     EXPECT_NE(db->getColorSettingsParameters(), nullptr);
-    EXPECT_FALSE(db->activeColorwayId().isValid());
 }
 
 TEST_F(ColorDBColorwaysTest, NewColorwaysAreToldOfAtOnceAndWhenTheRendererHasThem) {

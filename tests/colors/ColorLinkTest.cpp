@@ -3,7 +3,6 @@
 #include "zsg/colors/IColorLinker.h"
 
 using namespace zsg;
-using nyx::ColorId;
 
 namespace {
 
@@ -54,8 +53,8 @@ TEST_F(ColorLinkTest, AnImportAsksOncePerConflictAndOverwritesNothing) {
     ZColorExt color = palette({{0, 0, 0, 1, "Red"}, {0, 0, 0, 1, "Sand"}, {1, 1, 1, 1, "Green"}});
     EXPECT_EQ(linker->importColor(color), ColorId(5));
     EXPECT_EQ(asked, "Red:1 Green:2 ");
-    EXPECT_EQ(since(before), "color 5 'Palette' 1 0 0 1 flags 1 subs 1 6 7 active 1; color 6 "
-                             "'Sand' 0 0 0 1; color 7 'Green 1' 1 1 1 1");
+    EXPECT_EQ(since(before), "5 'Palette' 1 0 0 1 flags 1 subs 1 6 7 active 1; 6 "
+                             "'Sand' 0 0 0 1; 7 'Green 1' 1 1 1 1");
     EXPECT_EQ(color.getSubColorId(2), ColorId(7));
 
     ZColorExt plain{ZColor(0, 0, 0, 1, "Red")};
@@ -65,6 +64,22 @@ TEST_F(ColorLinkTest, AnImportAsksOncePerConflictAndOverwritesNothing) {
     db->getColorLinker(&edit, nullptr)->importColor(other);
     EXPECT_EQ(other.getColorName(), "Red 1");
     EXPECT_EQ(renderer.color(other.getId())->name, "Red 1");
+    std::string const made = renderer.dump();
+    ZColorExt same =
+        palette({{1, 1, 1, 1, "Green"}, {1, 1, 1, 1, "Green"}, {1, 1, 1, 1, "Green 2"}});
+    linker->importColor(same);
+    EXPECT_EQ(since(made), "9 'Palette 1' 1 1 1 1 flags 1 subs 10 11 12 active 10; 10 "
+                           "'Green 3' 1 1 1 1; 11 'Green 4' 1 1 1 1; 12 'Green 2' 1 1 "
+                           "1 1");
+    ZColorExt returning = db->colorFromId(green); // of the very record, but changed
+    returning.setColor(ZColor(1, 1, 1, 1, "Green"), ZColorExt::NameOp::Keep);
+    EXPECT_NE(linker->importColor(returning), green);
+    EXPECT_EQ(renderer.color(green)->value.r, 0);
+    ZColorExt twice = palette({{0, 0, 0, 1, "Red"}, {0, 0, 0, 1, "Red"}, {0, 0, 0, 1, "Clay"}});
+    twice.setActiveIndex(1);
+    linker->importColor(twice);
+    EXPECT_TRUE(twice.nColors() == 2 && twice.getActiveSubColorId() == red);
+
     EXPECT_EQ(history(), ""); // the import itself cannot be undone
     renderer.faults().noUniqueNames = true;
     EXPECT_EQ(linker->uniqueColorName("Red"), "");
@@ -76,8 +91,8 @@ TEST_F(ColorLinkTest, MergingAddsWhatIsMissing) {
     linker->mergeSubColors(trim, cover);
     linker->mergeSubColors(trim, cover); // nothing is missing any more
     linker->mergeSubColors(trim, red);
-    EXPECT_EQ(since(before), "color 5 'Trim' 0 0 0 1 flags 1 subs 3 2 1 active 3");
-    EXPECT_EQ(history(), "177 Add Sub Color (Trim)");
+    EXPECT_EQ(since(before), "5 'Trim' 0 0 0 1 flags 1 subs 3 2 1 active 3");
+    EXPECT_EQ(history(), "Add Sub Color (Trim)");
     EXPECT_EQ(linker->controller(), &edit);
     EXPECT_EQ(linker->colorDB(), db.get());
 }

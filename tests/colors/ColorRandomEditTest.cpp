@@ -3,8 +3,6 @@
 #include <random>
 
 using namespace zsg;
-using nyx::ColorId;
-using nyx::ColorwayId;
 
 namespace {
 
@@ -30,9 +28,8 @@ protected:
         return below(10) == 0 ? any() : multis[below(below(2) ? 2 : multis.size())];
     }
     std::vector<ColorId> some() {
-        std::vector<ColorId> list(below(4));
-        std::ranges::generate(list, [&] { return any(); });
-        return list;
+        std::vector<ColorId> const list = ids(any(), any(), any());
+        return {list.begin(), list.begin() + below(4)};
     }
     std::vector<MultiColorPair> pairs() { return {{multi(), any()}, {multi(), any()}}; }
     int index() { return static_cast<int>(below(7)) - 1; }
@@ -50,9 +47,8 @@ protected:
             [&] { edit.linkColor(s, any()); },
             [&] { edit.toggleMultiColor(below(2) ? m : s); },
             [&] { edit.setColor(s, value(), AllowForwardUndoMerge::No); },
-            [&] {
-                edit.setFlags(red, 8, below(2)); // keeps the next one from merging
-                edit.changeSubColor(m, s, any());
+            [&] { // a change of flags in between keeps it from merging
+                edit.setFlags(red, 8, below(2)), edit.changeSubColor(m, s, any());
                 edit.setFlags(red, 8, below(2));
             },
             [&] { edit.setDisplayName(w, name()); },
@@ -65,11 +61,7 @@ protected:
             [&] { edit.setFlags(s, static_cast<int>(8 * below(4)), below(2)); },
             [&] { edit.unlinkSubColor(m, below(4)); },
             [&] { edit.createColorway(name(), pairs()); },
-            [&] {
-                if (w != db->activeColorwayId()) {
-                    edit.applyColorway(w);
-                }
-            },
+            [&] { edit.applyColorway(w == db->activeColorwayId() ? noColorway : w); },
             [&] { edit.setColors(w, pairs()); },
             [&] { edit.addColors(w, pairs(), index(), below(2)); },
             [&] { edit.removeMultiColors(w, some()); },

@@ -7,19 +7,12 @@
 #include "zsg/materials/ISceneMaterialManager.h"
 
 #include <algorithm>
-#include <concepts>
-#include <sstream>
+#include <regex>
 
-/// A controller over a small scene whose active colorway is "Summer".
-class ControllerScene : public ColorScene {
+/// A controller over the small scene with the colorway "Summer" active.
+class ControllerScene : public ColorScene, protected SmallScene {
 protected:
-    ControllerScene() {
-        renderer.bindColor(fabric, 1, "color", cover);
-        renderer.bindColor(fabric, 2, "seam", red);
-        renderer.bindColor(frame, 1, "color", blue);
-        renderer.addObject("Chair", {}, fabric);
-        renderer.activateColorway(summer);
-    }
+    ControllerScene() : SmallScene(addSmallScene()) { renderer.activateColorway(summer); }
 
     void TearDown() override {
         stack.clear();
@@ -29,31 +22,33 @@ protected:
     /// The lines of the scene's dump that `before` does not have, with "; " between them, ' in
     /// place of ", and what is frequent shortened.
     [[nodiscard]] std::string since(std::string const& before) const {
-        std::string changed = select(renderer.dump(), [&](std::string const& line) {
+        std::string changed = select(renderer.dump(), "; ", [&](std::string const& line) {
             return ('\n' + before).find('\n' + line + '\n') == std::string::npos;
         });
-        std::ranges::replace(changed, '"', '\'');
-        shorten(changed, "color 4 'Cover' 0 0 0 1 flags 1", "Cover");
-        shorten(changed, "active colorway none; ", "");
-        shorten(changed, "colorway 1 'Summer' pairs 4:1", "Summer off");
+        for (auto const& [what, brief] : {std::pair("\"", "'"),
+                                          {"\\bcolor (?=\\d)", ""},
+                                          {"4 'Cover' 0 0 0 1 flags 1", "Cover"},
+                                          {"active colorway none; ", ""},
+                                          {"colorway 1 'Summer' pairs 4:1", "Summer off"}}) {
+            changed = std::regex_replace(changed, std::regex(what), brief);
+        }
         return changed;
     }
 
     /// The commits, bindings and events of an action.
-    template <class Action>
-    std::string story(Action&& action) {
-        return select(trace(action), [](std::string const& line) {
+    std::string story(std::function<void()> const& action) {
+        return select(trace(action), "; ", [](std::string const& line) {
             return line.starts_with('>') || line.starts_with("commit") ||
                    line.starts_with("material_bind");
         });
     }
 
-    /// What can be undone: ids and texts.
+    /// The texts of what can be undone, a plus sign before those of macros.
     [[nodiscard]] std::string history() const {
         std::string text;
         for (int i = 0; i < stack.index(); ++i) {
-            auto const id = static_cast<int>(stack.command(i)->id());
-            text += (i ? "; " : "") + std::to_string(id) + ' ' + stack.text(i).toStdString();
+            bool const macro = stack.command(i)->id() == ZCommandId::Macro;
+            text += std::string(i ? "; " : "") + (macro ? "+" : "") + stack.text(i).toStdString();
         }
         return text;
     }
@@ -81,39 +76,11 @@ protected:
         }
     }
 
-    nyx::ColorId const red = renderer.addColor("Red", {1, 0, 0, 1});
-    nyx::ColorId const green = renderer.addColor("Green", {0, 1, 0, 1});
-    nyx::ColorId const blue = renderer.addColor("Blue", {0, 0, 1, 1});
-    nyx::ColorId const cover = multiColor("Cover", {red, green});
-    nyx::ColorwayId const summer = renderer.addColorway("Summer", {{cover, red}});
-    nyx::ColorwayId const winter = renderer.addColorway("Winter", {{cover, green}});
-    nyx::MaterialId const fabric = renderer.addMaterial("Fabric");
-    nyx::MaterialId const frame = renderer.addMaterial("Frame");
     ZUndoStack stack;
     std::unique_ptr<zsg::ISceneMaterialManager> const materials = renderer.materialManager(&stack);
     zsg::ColorController edit{db.get(), materials.get(), &stack};
 
-    static std::vector<nyx::ColorId> ids(std::same_as<nyx::ColorId> auto... id) { return {id...}; }
-
     std::vector<zsg::MultiColorPair> const coverRed{{cover, red}};
     nyx::ColorId const noColor{77}; ///< valid, but there is no record
     nyx::ColorwayId const noColorway{77};
-
-private:
-    template <class Wanted>
-    static std::string select(std::string const& text, Wanted wanted) {
-        std::istringstream stream(text);
-        std::string selected;
-        for (std::string line; std::getline(stream, line);) {
-            if (wanted(line)) {
-                selected += (selected.empty() ? "" : "; ") + line;
-            }
-        }
-        return selected;
-    }
-    static void shorten(std::string& text, std::string const& what, char const* brief) {
-        if (auto const at = text.find(what); at != std::string::npos) {
-            text.replace(at, what.size(), brief);
-        }
-    }
 };

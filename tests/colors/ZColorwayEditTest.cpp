@@ -1,48 +1,41 @@
 #include "colors/ColorScene.h"
 
-#include "nyxrender/nyxParameter_edit.h"
-
 using namespace zsg;
 using nyx::ColorId;
 
 namespace {
 
-using Ids = std::vector<ColorId>;
-
 constexpr ColorId c3(3), c4(4), c5(5), s30(30), s31(31), s40(40), s50(50);
 
 class ZColorwayEditTest : public ColorScene {
 protected:
-    nyxRT_api& api = *renderer.api();
     nyx::ColorwayId const colorway =
         renderer.addColorway("Autumn", {{c5, s50}, {c3, s30}, {c4, s40}});
 };
-
-Ids list(nyx::Span<ColorId> ids) { return {ids.begin(), ids.end()}; }
 
 } // namespace
 
 TEST_F(ZColorwayEditTest, RepairsItsListsAtConstructionAndMarksItselfChanged) {
     // The lists are the third and the fourth entry.
-    nyxParameter_edit* const repeated = api.colorway_params(colorway);
+    nyxParameter_edit* const repeated = api()->colorway_params(colorway);
     repeated->entries[2].value.list.ids[2] = c5;
-    ZColorwayEdit const edit(&api, repeated);
-    EXPECT_EQ(list(edit.multiColors()), (Ids{c3, c5}));
-    EXPECT_EQ(list(edit.activeSubIndices()), (Ids{s30, s50}));
+    ZColorwayEdit const edit(api(), repeated);
+    EXPECT_EQ(list(edit.multiColors()), ids(c3, c5));
+    EXPECT_EQ(list(edit.activeSubIndices()), ids(s30, s50));
     EXPECT_TRUE(edit.isModified());
 
-    nyxParameter_edit* const lacking = api.colorway_params(colorway);
+    nyxParameter_edit* const lacking = api()->colorway_params(colorway);
     lacking->entries[3].name[0] = 'x';
-    ZColorwayEdit half(&api, lacking);
+    ZColorwayEdit half(api(), lacking);
     half.removeMultiColors({c5});
     half.setPairs({}, {});
-    EXPECT_EQ(list(half.multiColors()), (Ids{c5, c3, c4}));
+    EXPECT_EQ(list(half.multiColors()), ids(c5, c3, c4));
     EXPECT_EQ(half.activeSubOf(c5), ColorId());
     EXPECT_FALSE(half.isModified());
 }
 
 TEST_F(ZColorwayEditTest, SettersMarkTheEditWhenTheyAlterSomething) {
-    ZColorwayEdit edit(&api, api.colorway_params(colorway));
+    ZColorwayEdit edit(api(), api()->colorway_params(colorway));
     EXPECT_EQ(edit.activeSubOf(c3), s30);
     EXPECT_EQ(edit.activeSubOf(s30), ColorId());
     EXPECT_TRUE(edit.containsMultiColor(c4) && !edit.containsMultiColor(s40));
@@ -52,27 +45,20 @@ TEST_F(ZColorwayEditTest, SettersMarkTheEditWhenTheyAlterSomething) {
         char const* what;
         std::function<void()> set;
         bool changed;
-        Ids multis;
+        std::vector<ColorId> multis;
     } const rows[] = {
-        {"same name", [&] { edit.setDisplayName("Autumn"); }, false, {c5, c3, c4}},
-        {"name", [&] { edit.setDisplayName("Winter"); }, true, {c5, c3, c4}},
-        {"inactive already", [&] { edit.setActive(false); }, false, {c5, c3, c4}},
-        {"active", [&] { edit.setActive(true); }, true, {c5, c3, c4}},
-        {"deleted", [&] { edit.setDeleted(true); }, true, {c5, c3, c4}},
-        {"remove",
-         [&] {
-             edit.removeMultiColors({c4, c5});
-         },
-         true,
-         {c3}},
-        {"remove what is not listed", [&] { edit.removeMultiColors({c5}); }, true, {c3}},
-        {"same pairs", [&] { edit.setPairs({c3}, {s30}); }, false, {c3}},
-        {"other sub", [&] { edit.setPairs({c3}, {s31}); }, true, {c3}},
-        {"exchanged",
-         [&] { edit.setPairs(edit.activeSubIndices(), edit.multiColors()); },
-         true,
-         {s31}},
-        {"longer subs", [&] { edit.setPairs({}, {s30}); }, true, {}},
+        {"same name", [&] { edit.setDisplayName("Autumn"); }, false, ids(c5, c3, c4)},
+        {"name", [&] { edit.setDisplayName("Winter"); }, true, ids(c5, c3, c4)},
+        {"inactive already", [&] { edit.setActive(false); }, false, ids(c5, c3, c4)},
+        {"active", [&] { edit.setActive(true); }, true, ids(c5, c3, c4)},
+        {"deleted", [&] { edit.setDeleted(true); }, true, ids(c5, c3, c4)},
+        {"remove", [&] { edit.removeMultiColors(ids(c4, c5)); }, true, ids(c3)},
+        {"remove what is not listed", [&] { edit.removeMultiColors({c5}); }, true, ids(c3)},
+        {"same pairs", [&] { edit.setPairs(ids(c3), ids(s30)); }, false, ids(c3)},
+        {"other sub", [&] { edit.setPairs(ids(c3), ids(s31)); }, true, ids(c3)},
+        {"exchanged", [&] { edit.setPairs(edit.activeSubIndices(), edit.multiColors()); }, true,
+         ids(s31)},
+        {"longer subs", [&] { edit.setPairs({}, ids(s30)); }, true, {}},
         {"remove from none", [&] { edit.removeMultiColors({}); }, true, {}},
     };
     for (auto const& row : rows) {

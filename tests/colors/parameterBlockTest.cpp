@@ -7,7 +7,7 @@
 
 using namespace zsg;
 
-TEST(ParameterBlock, FindsEntriesByExactNameAndTheLastOfAName) {
+TEST(ParameterBlock, FindsEntriesByExactNameAndTakesBrokenBlocksForEmpty) {
     std::string const full(40, 'f'); // leaves no room for a terminator
     std::string_view const present[] = {"flags", "Flags", "", "flag", "id", "flags", "x", full};
     std::vector<nyxParameter_entry> entries(std::size(present));
@@ -28,16 +28,14 @@ TEST(ParameterBlock, FindsEntriesByExactNameAndTheLastOfAName) {
     EXPECT_EQ(found(), (std::vector{&entries[4], &entries[5], &entries[7], none}));
     block.count = -1;
     EXPECT_EQ(found(), std::vector(4, none));
+    block = {};
     block.count = 3;
-    block.entries = nullptr;
     EXPECT_EQ(found(), std::vector(4, none));
-}
 
-TEST(ParameterBlock, ReadsBrokenListsAsEmpty) {
-    nyxParameter_entry entry;
+    nyxParameter_entry broken;
+    broken.value.list = {nullptr, 3};
+    EXPECT_TRUE(parameterBlock::ids(&broken).empty());
     nyx::ColorId id(1);
-    entry.value.list = {nullptr, 3};
-    EXPECT_TRUE(parameterBlock::ids(&entry).empty());
-    entry.value.list = {&id, -1};
-    EXPECT_TRUE(parameterBlock::ids(&entry).empty());
+    broken.value.list = {&id, -1};
+    EXPECT_TRUE(parameterBlock::ids(&broken).empty());
 }

@@ -23,48 +23,15 @@ std::string text(Id id) {
     return id.isValid() ? ' ' + std::to_string(id.toUint()) : std::string(" invalid");
 }
 
-template <class E>
-E const& as(Event const& event) {
-    return static_cast<E const&>(event);
+std::string text(ViewportToolStartedEvent::ToolType tool) {
+    return ' ' + std::to_string(static_cast<std::uint32_t>(tool));
 }
 
-std::string payload(Event const& event) {
-    switch (event.type()) {
-    case EventType::MaterialUpdated:
-        return text(as<MaterialUpdatedEvent>(event).materialId());
-    case EventType::MaterialDescriptionChanged:
-        return text(as<MaterialDescriptionChangedEvent>(event).materialId());
-    case EventType::ShaderNodeChanged: {
-        auto const& changed = as<ShaderNodeChangedEvent>(event);
-        return text(changed.materialId()) + text(changed.shaderNodeId());
-    }
-    case EventType::PaintLayersUpdated:
-        return text(as<PaintLayersUpdatedEvent>(event).surfaceId());
-    case EventType::ViewportToolStarted: {
-        auto const tool = as<ViewportToolStartedEvent>(event).toolType();
-        return ' ' + std::to_string(static_cast<std::uint32_t>(tool));
-    }
-    case EventType::ColorCreated:
-        return text(as<ColorEvent>(event).colorId());
-    case EventType::ColorIdChange: {
-        auto const& change = as<ColorIdChangeEvent>(event);
-        return text(change.oldId()) + text(change.newId());
-    }
-    case EventType::ColorUpdated:
-        return text(as<ColorUpdatedEvent>(event).colorId());
-    case EventType::ColorSynced:
-        return text(as<ColorSyncedEvent>(event).colorId());
-    case EventType::ColorwaySynced:
-        return text(as<ColorwaySyncedEvent>(event).colorwayId());
-    case EventType::ColorwayUpdated:
-        return text(as<ColorwayUpdatedEvent>(event).colorwayId());
-    case EventType::LightLayerUpdated:
-        return text(as<LightLayerUpdatedEvent>(event).lightLayerId());
-    case EventType::CMFSchemaChanged:
-    case EventType::LightLayerSynced:
-        break;
-    }
-    return {};
+/// What an event of class E carries; empty for others.
+template <class E, class Value>
+std::string of(Event const& event, Value (E::*get)() const noexcept) {
+    auto const* const given = dynamic_cast<E const*>(&event);
+    return given ? text((given->*get)()) : std::string();
 }
 
 std::string name(EventType type) {
@@ -94,4 +61,16 @@ void EventTrace::onEvent(Event const* event) {
 
 std::string EventTrace::take() { return std::exchange(lines_, {}); }
 
-std::string EventTrace::line(Event const& event) { return name(event.type()) + payload(event); }
+std::string EventTrace::line(Event const& event) {
+    return name(event.type()) + of(event, &MaterialUpdatedEvent::materialId) +
+           of(event, &MaterialDescriptionChangedEvent::materialId) +
+           of(event, &ShaderNodeChangedEvent::materialId) +
+           of(event, &ShaderNodeChangedEvent::shaderNodeId) +
+           of(event, &PaintLayersUpdatedEvent::surfaceId) +
+           of(event, &ViewportToolStartedEvent::toolType) + of(event, &ColorEvent::colorId) +
+           of(event, &ColorIdChangeEvent::oldId) + of(event, &ColorIdChangeEvent::newId) +
+           of(event, &ColorUpdatedEvent::colorId) + of(event, &ColorSyncedEvent::colorId) +
+           of(event, &ColorwaySyncedEvent::colorwayId) +
+           of(event, &ColorwayUpdatedEvent::colorwayId) +
+           of(event, &LightLayerUpdatedEvent::lightLayerId);
+}

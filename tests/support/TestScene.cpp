@@ -23,7 +23,7 @@ std::string TestScene::takeJournal() {
     return text;
 }
 
-TestScene::SmallScene TestScene::addSmallScene() {
+SmallScene TestScene::addSmallScene() {
     SmallScene made;
     made.red = renderer.addColor("Red", {1, 0, 0, 1});
     made.green = renderer.addColor("Green", {0, 1, 0, 1});

@@ -9,6 +9,16 @@
 #include <functional>
 #include <string>
 
+/// Three plain colours, a multi-colour over two of them, two colorways over that, and two
+/// materials; one object uses the first. Ids ascend from 1 in the order of the members.
+struct SmallScene {
+    nyx::ColorId red, green, blue;
+    nyx::ColorId cover;             ///< multi-colour of red (active) and green
+    nyx::ColorwayId summer, winter; ///< cover shows red, cover shows green
+    nyx::MaterialId fabric, frame;  ///< 1 "color" cover, 2 "seam" red; 1 "color" blue
+    nyx::ObjectId chair;            ///< of fabric
+};
+
 /// A fixture with an embedded renderer. When everything of the test is gone, members of derived
 /// fixtures included, it checks that all that the renderer lent came back: blocks, arrays, aligned
 /// memory, texts, locks.
@@ -23,16 +33,6 @@ protected:
     /// What was called since the last time, one line each, and from now on it is recorded.
     std::string takeJournal();
 
-    /// Three plain colours, a multi-colour over two of them, two colorways over that, and two
-    /// materials; one object uses the first. Ids ascend from 1 in the order of the members.
-    struct SmallScene {
-        nyx::ColorId red, green, blue;
-        nyx::ColorId cover;             ///< multi-colour of red (active) and green
-        nyx::ColorwayId summer, winter; ///< cover shows red, cover shows green
-        nyx::MaterialId fabric,
-            frame;           ///< fabric: 1 "color" cover, 2 "seam" red; frame: 1 "color" blue
-        nyx::ObjectId chair; ///< of fabric
-    };
     SmallScene addSmallScene();
 
     /// Lends a colour's block to `change`, commits and releases it.
