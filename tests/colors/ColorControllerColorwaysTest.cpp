@@ -19,8 +19,6 @@ TEST_F(ColorControllerColorwaysTest, EveryColorwayEditIsOneStepThatUndoTakesBack
     check({
         {[&] { edit.setDisplayName(winter, "Ice"); }, "Set Colorway name (Ice)",
          "colorway 2 'Ice' pairs 4:2"},
-        {[&] { edit.setDisplayName(winter, ""); }, "Clear Colorway name",
-         "colorway 2 '' pairs 4:2"},
         {[&] { edit.setColors(summer, of(trimBlue, coverGreen)); }, "Edit Colorway (Summer)",
          "colorway 1 'Summer' flags 2 pairs 5:3 4:2"},
         {[&] { edit.setColors(summer, of(trimBlue, coverGreen, trimRed)); },

@@ -44,8 +44,6 @@ TEST_F(ColorControllerTest, EveryColorEditIsOneStepThatUndoTakesBack) {
          "colorway 1 'Summer' flags 2; colorway 2 'Winter'; material 1 'Fabric' places "
          "1.'color'->1 2.'seam'->1"},
         {[&] { edit.setDisplayName(red, "Ruby"); }, "Set Color name (Ruby)", "1 'Ruby' 1 0 0 1"},
-        {[&] { edit.setDisplayName(cover, ""); }, "Clear Color name",
-         "4 '' 0 0 0 1 flags 1 subs 1 2 active 1"},
         {[&] {
              edit.setColor(red, ZColor(1, 1, 1), AllowForwardUndoMerge::Yes);
              edit.setColor(red, ZColor(0.5f, 0, 0, 0.25f), mergeNot);

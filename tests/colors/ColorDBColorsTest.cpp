@@ -1,5 +1,7 @@
 #include "colors/ColorScene.h"
 
+#include "zsg/core/Event.h"
+
 #include <gmock/gmock.h>
 
 #include <utility>
@@ -52,9 +54,11 @@ TEST_F(ColorDBColorsTest, PushingANewMultiColorMakesItsRecordsAndTellsOfThem) {
 
     value.setMultiColor(false);
     value.setActiveIndex(0);
+    value.setColorName("Renamed");
     EXPECT_EQ(calls([&] { db->pushColor(value); }), "commit_color_params 4, > ColorUpdated 4");
     EXPECT_EQ(db->colorFromId(value.getId()).rgba().r, 0.5f);
     EXPECT_TRUE(db->getColorParameters(value.getId())->subColors().empty());
+    EXPECT_EQ(db->getColorParameters(value.getId())->displayName(), "Renamed");
 
     ColorId const id = db->idFromColor(ZColorExt(ZColor(1, 1, 1, 1, "Blue")));
     EXPECT_EQ(db->colorFromId(id).getColorName(), "Blue 1");
@@ -85,6 +89,12 @@ TEST_F(ColorDBColorsTest, CopiesAreMadeUnderTheLockAndToldOfAfterIt) {
     EXPECT_EQ(value.activeIndex(), 1);
     EXPECT_FALSE(value.hasSubColor(red) || value.hasSubColor(blue));
     EXPECT_EQ(db->colorFromId(db->cloneRecursively(red)).nColors(), 1);
+
+    ColorId made;
+    EXPECT_EQ(
+        calls([&] { made = db->createColor("Fresh", nyxColor_extended::MultiColor); }).find('>'),
+        std::string::npos);
+    EXPECT_TRUE(db->getColorParameters(made)->hasFlag(ColorFlags::MultiColor));
 }
 
 TEST_F(ColorDBColorsTest, TheTemporaryColorIsOneHiddenRecord) {
@@ -171,6 +181,19 @@ TEST_F(ColorDBColorsTest, ListenersMayReplaceAndDropEdits) {
     db->applyColorway(other), db->applyColorway(colorway);
     db->handleColorwayActivated(colorway);
     EXPECT_EQ(db->activeColorwayId(), colorway);
+
+    // What is being written wins over a state that a listener puts back meanwhile.
+    ColorId const plain = color("Plain");
+    ZColorExt grown = newMultiColor(ColorId());
+    grown.setId(plain);
+    reaction = [&](Event const& event) {
+        if (event.type() == EventType::ColorCreated) {
+            ZColorExtEdit const saved(api(), renderer.api()->color_params(plain));
+            db->setColorEdit(&saved);
+        }
+    };
+    db->pushColor(grown);
+    EXPECT_TRUE(db->getColorParameters(plain)->hasSubColor(grown.getSubColorId(0)));
     reaction = nullptr;
 }
 

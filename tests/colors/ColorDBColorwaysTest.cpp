@@ -93,6 +93,13 @@ TEST_F(ColorDBColorwaysTest, ASwitchOfTheRendererRereadsTheColorwayAndItsMultiCo
     EXPECT_EQ(db->getColorParameters(shoe)->activeSub(), blue);
     EXPECT_TRUE(db->getColorwayParameters(winter)->isActive());
     EXPECT_FALSE(db->activeColorwayId().isValid()); // the settings stay as they were read
+
+    // Reading it afresh drops what nothing uses, and that is committed.
+    ColorwayId const late =
+        renderer.addColorway("Late", {{shoe, red}, {multiColor("Lone", {red}), red}});
+    db->getColorwayParameters(late);
+    EXPECT_NE(calls([&] { db->handleColorwayActivated(late); }).find("commit_colorway_params"),
+              std::string::npos);
 }
 
 TEST_F(ColorDBColorwaysTest, SettingsThatAreMissingAreAskedForAgain) {
