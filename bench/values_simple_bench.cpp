@@ -206,13 +206,44 @@ void registerInsertion() {
     bench::target({"7c", workload, "vector insert + solve", 1.2});
 }
 
+// A curve of many keys, from nothing: each key splits the segment that it falls into.
+void registerCurveFromNothing() {
+    constexpr std::size_t count = 10'000;
+    std::string const workload = "10,000 insertKey calls in random order";
+    bench::contestant("7c", workload, bench::ours, [](State& state) {
+        auto const places = numbers<float>(count, 0, 1);
+        for (auto _ : state) {
+            zsg::AnimationCurve curve;
+            for (float const place : places) {
+                curve.insertKey(place);
+            }
+            DoNotOptimize(curve);
+        }
+    });
+    bench::contestant("7c", workload, "floor: sorted vector insert", [](State& state) {
+        auto const places = numbers<float>(count, 0, 1);
+        for (auto _ : state) {
+            std::vector<nyx::AnimationKey> keys;
+            for (float const place : places) {
+                auto const at = std::upper_bound(
+                    keys.begin(), keys.end(), place,
+                    [](float x, nyx::AnimationKey const& key) { return x < key.pos.x; });
+                keys.insert(at, {{place, 0}, {place, 0}, {place, 0}, nyx::KeyType::U});
+            }
+            DoNotOptimize(keys);
+        }
+    });
+}
+
 bool const registered = [] {
     registerHashes();
     registerGradients(16, 1.0);
     registerGradients(256, 0.7);
     registerGradients(4096, 0.7);
+    registerGradients(10'000, 0.7);
     registerSolver();
     registerInsertion();
+    registerCurveFromNothing();
     return true;
 }();
 

@@ -318,6 +318,18 @@ bool const registered = [] {
                    [n = side](benchmark::State& state) { copyRows(state, n); });
         target({"8f", doubling, "row copies", 1.3});
     }
+    // A diagonal band: every cell is cleared, three of each row are set.
+    contestant("8g", "makeTwill(2048, 3)", ours, [](benchmark::State& state) {
+        for (auto _ : state) {
+            benchmark::DoNotOptimize(WeavePattern::makeTwill(2048, 3));
+        }
+    });
+    contestant("8g", "makeTwill(2048, 3)", "floor: cells of zero", [](benchmark::State& state) {
+        for (auto _ : state) {
+            std::vector<int> cells(std::size_t{2048} * 2048);
+            benchmark::DoNotOptimize(cells.data());
+        }
+    });
     return true;
 }();
 
