@@ -199,6 +199,27 @@ void flatRows() {
     growth("getColorParameters, warm", 1.25, true, [](Palette& palette, ColorId id) {
         benchmark::DoNotOptimize(palette.db.getColorParameters(id));
     });
+    // The first reading of each colour, which fetches its block.
+    for (std::size_t const size : sizes) {
+        bench::contestant(
+            "growth", "getColorParameters, cold, " + sizeText(size), bench::ours,
+            [size](benchmark::State& state) {
+                Palette& palette = Palette::of(size);
+                auto db = std::make_unique<ColorDB>(nullptr, palette.renderer.api());
+                std::size_t next = 0;
+                for (auto _ : state) {
+                    benchmark::DoNotOptimize(db->getColorParameters(palette.ids[next]));
+                    if (++next == size) {
+                        state.PauseTiming();
+                        db = std::make_unique<ColorDB>(nullptr, palette.renderer.api());
+                        next = 0;
+                        state.ResumeTiming();
+                    }
+                }
+            });
+    }
+    bench::target({"growth", "getColorParameters, cold, 1 M", bench::ours, 3,
+                   "getColorParameters, cold, 1 k"});
     growth("colorFromId, warm", 1.25, true, [](Palette& palette, ColorId id) {
         benchmark::DoNotOptimize(palette.db.colorFromId(id));
     });
@@ -242,7 +263,11 @@ void listRows() {
 
 /// Used multi-colours of two sub-colours, and colorways that alternate between them.
 struct Wardrobe {
-    Wardrobe(std::size_t pairs, std::size_t colorways) : db(&queue, renderer.api()) {
+    Wardrobe(std::size_t pairs, std::size_t colorways, std::size_t others)
+        : db(&queue, renderer.api()) {
+        for (std::size_t i = 0; i < others; ++i) {
+            renderer.addColor("", {0, 0, 0, 1});
+        }
         nyx::MaterialId const material = renderer.addMaterial("Material");
         std::vector<nyx::embedded::ColorwayPair> first, second;
         for (std::size_t i = 0; i < pairs; ++i) {
@@ -267,22 +292,26 @@ struct Wardrobe {
 
 void applyRows() {
     struct {
-        std::size_t pairs, colorways;
-    } const rows[] = {{10, 10}, {1000, 10}, {10, 1000}, {10, 100'000}};
-    for (auto const [pairs, colorways] : rows) {
-        std::string const workload = "applyColorway, " + std::to_string(pairs) + " pairs, " +
-                                     std::to_string(colorways) + " colorways";
-        bench::contestant("growth", workload, bench::ours,
-                          [pairs = pairs, colorways = colorways](benchmark::State& state) {
-                              Wardrobe wardrobe(pairs, colorways);
-                              std::size_t next = 0;
-                              wardrobe.db.applyColorway(wardrobe.switching[1]);
-                              for (auto _ : state) {
-                                  wardrobe.db.applyColorway(wardrobe.switching[next]);
-                                  next = 1 - next;
-                                  wardrobe.renderer.processEvents();
-                              }
-                          });
+        std::size_t pairs, colorways, others;
+    } const rows[] = {{10, 10, 0},          {10, 1000, 0},      {10, 100'000, 0},
+                      {1000, 10, 1'000},    {1000, 10, 10'000}, {1000, 10, 100'000},
+                      {1000, 10, 1'000'000}};
+    for (auto const [pairs, colorways, others] : rows) {
+        std::string const workload =
+            "applyColorway, " + std::to_string(pairs) + " pairs, " + std::to_string(colorways) +
+            " colorways" + (others == 0 ? "" : ", " + sizeText(others) + " other colours");
+        bench::contestant(
+            "growth", workload, bench::ours,
+            [pairs = pairs, colorways = colorways, others = others](benchmark::State& state) {
+                Wardrobe wardrobe(pairs, colorways, others);
+                std::size_t next = 0;
+                wardrobe.db.applyColorway(wardrobe.switching[1]);
+                for (auto _ : state) {
+                    wardrobe.db.applyColorway(wardrobe.switching[next]);
+                    next = 1 - next;
+                    wardrobe.renderer.processEvents();
+                }
+            });
     }
 }
 
