@@ -1,7 +1,7 @@
 #include "zsg/colors/ZColorExtEdit.h"
 
 #include "colors/parameterBlock.h"
-#include "colors/subColorList.h"
+#include "colors/subColorEdits.h"
 
 #include "nyxrender/nyxRT_api.h"
 

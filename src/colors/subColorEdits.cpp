@@ -88,4 +88,15 @@ SubColorRemoval withoutSubColors(nyx::Span<nyx::ColorId> subs, nyx::Span<nyx::Co
     return result;
 }
 
+std::optional<ColorIdList> replacedSubColor(nyx::Span<nyx::ColorId> subs, nyx::ColorId oldSub,
+                                            nyx::ColorId newSub) {
+    auto const* const found = std::ranges::find(subs, oldSub);
+    if (found == subs.end() || !newSub.isValid() || std::ranges::find(subs, newSub) != subs.end()) {
+        return std::nullopt;
+    }
+    ColorIdList list(subs.begin(), subs.end());
+    list[static_cast<std::size_t>(found - subs.begin())] = newSub;
+    return list;
+}
+
 } // namespace zsg

@@ -3,6 +3,7 @@
 #include "nyxrender/Ids.h"
 #include "nyxrender/Span.h"
 
+#include <optional>
 #include <vector>
 
 namespace zsg {
@@ -34,5 +35,10 @@ struct SubColorRemoval {
 [[nodiscard]] SubColorRemoval withoutSubColors(nyx::Span<nyx::ColorId> subs,
                                                nyx::Span<nyx::ColorId> unwanted,
                                                nyx::ColorId active);
+
+/// The list with `newSub` where `oldSub` first stands. Nothing unless `oldSub` is listed and
+/// `newSub` is a valid id that is not.
+[[nodiscard]] std::optional<ColorIdList> replacedSubColor(nyx::Span<nyx::ColorId> subs,
+                                                          nyx::ColorId oldSub, nyx::ColorId newSub);
 
 } // namespace zsg

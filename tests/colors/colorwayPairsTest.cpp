@@ -1,5 +1,4 @@
 #include "colors/colorwayPairs.h"
-#include "colors/subColorList.h"
 
 #include <gtest/gtest.h>
 
@@ -35,12 +34,4 @@ TEST(ColorwayPairs, RepairCutsAndKeepsTheFirstPairOfEachMultiColor) {
             EXPECT_FALSE(repairedPairs(pairs->multiColors, pairs->activeSubs));
         }
     }
-}
-
-TEST(SubColorList, ReplacesTheFirstOfAListedIdByAnUnlistedOne) {
-    auto const list = ids({7, 8, 7});
-    EXPECT_EQ(replacedSubColor(list, nyx::ColorId(7), nyx::ColorId(9)), ids({9, 8, 7}));
-    EXPECT_FALSE(replacedSubColor(list, nyx::ColorId(7), nyx::ColorId(8)));
-    EXPECT_FALSE(replacedSubColor(list, nyx::ColorId(6), nyx::ColorId(9)));
-    EXPECT_FALSE(replacedSubColor(list, nyx::ColorId(7), nyx::ColorId()));
 }

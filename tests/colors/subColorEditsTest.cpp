@@ -54,3 +54,12 @@ TEST(SubColorEdits, RemovingHandsTheActivePlaceOn) {
         EXPECT_EQ(result.active, ids(row.newActive)[0]);
     }
 }
+
+TEST(SubColorEdits, ReplaceTheFirstOfAListedIdByAnUnlistedOne) {
+    ColorIdList const list = ids("aba");
+    auto const id = [](char const* letter) { return ids(letter)[0]; };
+    EXPECT_EQ(replacedSubColor(list, id("a"), id("c")), ids("cba"));
+    EXPECT_FALSE(replacedSubColor(list, id("a"), id("b")));
+    EXPECT_FALSE(replacedSubColor(list, id("d"), id("c")));
+    EXPECT_FALSE(replacedSubColor(list, id("a"), nyx::ColorId()));
+}
