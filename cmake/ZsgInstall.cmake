@@ -25,8 +25,8 @@ if(ZSG_PLATFORM STREQUAL "embedded")
             RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
         install(EXPORT ${name}Targets NAMESPACE ${name}:: DESTINATION ${package_dir})
     endforeach()
-    install(DIRECTORY platform/embedded/nyxembedded DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
-        FILES_MATCHING PATTERN "*.h" PATTERN "SceneFile.h" EXCLUDE PATTERN "SceneDump.h" EXCLUDE)
+    install(DIRECTORY platform/embedded/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+        FILES_MATCHING PATTERN "*.h")
 endif()
 
 install(EXPORT zscenegraphTargets NAMESPACE zsg:: DESTINATION ${package_dir})

@@ -1,0 +1,161 @@
+#include "api/RtApi.h"
+
+#include "api/ParameterBlocks.h"
+#include "nyxrender/nyx_warning.h"
+#include "store/Scene.h"
+
+namespace nyx::embedded {
+
+namespace {
+
+bool isBlock(nyxParameter_edit const* block, std::int32_t kind) {
+    return block != nullptr && block->kind == kind;
+}
+
+/// How the journal names a block: by the record that a commit would write to.
+nyx::ColorId recordOf(nyxParameter_edit const* block) {
+    return block == nullptr ? nyx::ColorId() : nyx::ColorId(block->record_id);
+}
+
+} // namespace
+
+nyxScene* RtApi::scene() { return scene_.faults().noScene ? nullptr : &scene_; }
+
+void RtApi::lock() {
+    mutex_.lock();
+    owner_ = std::this_thread::get_id();
+    ++lockDepth_;
+    scene_.journal().write("lock");
+}
+
+void RtApi::unlock() {
+    scene_.journal().write("unlock");
+    if (owner_.load() != std::this_thread::get_id()) {
+        nyx_warning("nyxrender: unlock() without lock()\n");
+        return;
+    }
+    if (--lockDepth_ == 0) {
+        owner_ = std::thread::id();
+    }
+    mutex_.unlock();
+}
+
+void RtApi::set_modified(bool modified) {
+    scene_.journal().write("set_modified", modified);
+    modified_ = modified;
+}
+
+void RtApi::refresh(int reason) {
+    scene_.journal().write("refresh", reason);
+    ++refreshes_;
+}
+
+nyxParameter_edit* RtApi::lend(nyxParameter_edit* block) {
+    ++blocks_;
+    return block;
+}
+
+nyxParameter_edit* RtApi::color_params(nyx::ColorId id) {
+    scene_.journal().write("color_params", id);
+    ColorRecord const* const record = scene_.color(id);
+    return record == nullptr ? nullptr : lend(makeColorBlock(*record, scene_.strings()));
+}
+
+nyxParameter_edit* RtApi::colorway_params(nyx::ColorwayId id) {
+    scene_.journal().write("colorway_params", id);
+    ColorwayRecord const* const record = scene_.colorway(id);
+    return record == nullptr ? nullptr : lend(makeColorwayBlock(*record, scene_.strings()));
+}
+
+nyxParameter_edit* RtApi::color_settings_params() {
+    scene_.journal().write("color_settings_params");
+    return scene_.faults().noSettings ? nullptr : lend(makeSettingsBlock(scene_.activeColorway()));
+}
+
+void RtApi::commit_color_params(nyxParameter_edit* block) {
+    scene_.journal().write("commit_color_params", recordOf(block));
+    if (!isBlock(block, nyxParameter_edit::ColorKind)) {
+        return;
+    }
+    ColorRecord const* const record = scene_.color(nyx::ColorId(block->record_id));
+    if (record == nullptr) {
+        return;
+    }
+    ColorRecord values = *record;
+    readBlock(*block, values);
+    if (scene_.updateColor(values)) {
+        notifications_.colorChanged(values.head.id);
+    }
+}
+
+void RtApi::commit_colorway_params(nyxParameter_edit* block) {
+    scene_.journal().write("commit_colorway_params", recordOf(block));
+    if (!isBlock(block, nyxParameter_edit::ColorwayKind)) {
+        return;
+    }
+    ColorwayRecord const* const record = scene_.colorway(nyx::ColorwayId(block->record_id));
+    if (record == nullptr) {
+        return;
+    }
+    ColorwayRecord values = *record;
+    readBlock(*block, values);
+    scene_.updateColorway(values);
+}
+
+void RtApi::commit_color_settings_params(nyxParameter_edit* block) {
+    scene_.journal().write("commit_color_settings_params");
+    if (isBlock(block, nyxParameter_edit::ColorSettingsKind)) {
+        nyx::ColorwayId active = scene_.activeColorway();
+        readBlock(*block, active);
+        scene_.setActiveColorway(active);
+    }
+}
+
+void RtApi::release(char const* call, nyxParameter_edit* block) {
+    scene_.journal().write(call, recordOf(block));
+    if (block != nullptr) {
+        releaseBlock(block);
+        --blocks_;
+    }
+}
+
+void RtApi::release_color_params(nyxParameter_edit* block) {
+    release("release_color_params", block);
+}
+
+void RtApi::release_colorway_params(nyxParameter_edit* block) {
+    release("release_colorway_params", block);
+}
+
+void RtApi::release_color_settings_params(nyxParameter_edit* block) {
+    release("release_color_settings_params", block);
+}
+
+nyxParameter_edit* RtApi::clone_color_params(nyxParameter_edit const* block, bool copy_values) {
+    scene_.journal().write("clone_color_params", recordOf(block));
+    return block == nullptr ? nullptr : lend(cloneBlock(*block, copy_values));
+}
+
+void RtApi::change_layer_lights(nyx::LightLayerId layer, nyx::Span<nyx::ObjectId> lights,
+                                int operation) {
+    scene_.journal().write("change_layer_lights", layer, lights, operation);
+}
+
+void RtApi::assign_layer_lights(nyx::LightLayerId layer, nyx::Span<nyx::ObjectId> lights) {
+    scene_.journal().write("assign_layer_lights", layer, lights);
+}
+
+void RtApi::set_layer_flags(nyx::LightLayerId layer, nyx::Flags<layerFlags> flags) {
+    scene_.journal().write("set_layer_flags", layer, flags.bits());
+}
+
+void RtApi::update_brush_node(nyx::painter::nyxBrush_node*) {
+    scene_.journal().write("update_brush_node");
+}
+
+void RtApi::call_after_sync(std::function<void()> function) {
+    scene_.journal().write("call_after_sync");
+    notifications_.callAfterSync(std::move(function));
+}
+
+} // namespace nyx::embedded

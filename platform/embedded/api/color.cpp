@@ -1,0 +1,154 @@
+#include "nyxrender/nyx_color.h"
+
+#include "store/Accounts.h"
+#include "store/Scene.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <new>
+#include <vector>
+
+using namespace nyx::embedded;
+
+namespace {
+
+template <class List>
+nyx::Unique_array<typename List::value_type> toArray(List const& ids) {
+    return {ids.data(), ids.size()};
+}
+
+nyx::Unique_array<nyx::ColorId> colorsOfName(nyxScene& scene, char const* name, bool multi) {
+    std::vector<nyx::ColorId> ids;
+    for (nyx::ColorId const id : scene.colorsNamed(name == nullptr ? "" : name)) {
+        if (scene.color(id)->isMulti() == multi) {
+            ids.push_back(id);
+        }
+    }
+    return toArray(ids);
+}
+
+} // namespace
+
+void nyx_get_colordb_revision(nyxScene* scene, unsigned& color_revision,
+                              unsigned& colorway_revision) {
+    if (scene != nullptr) {
+        scene->journal().write("nyx_get_colordb_revision");
+        color_revision = scene->colorRevision();
+        colorway_revision = scene->colorwayRevision();
+    }
+}
+
+nyx::Unique_array<nyx::ColorId> nyx_get_colors(nyxScene* scene, nyxColor_extended::ColorType type) {
+    if (scene == nullptr) {
+        return {};
+    }
+    scene->journal().write("nyx_get_colors", static_cast<std::uint32_t>(type));
+    switch (type) {
+    case nyxColor_extended::PlainColor:
+        return toArray(scene->plainColors());
+    case nyxColor_extended::MultiColor:
+        return toArray(scene->multiColors());
+    }
+    return {};
+}
+
+nyx::Unique_array<nyx::ColorId> nyx_get_colors_named(nyxScene* scene) {
+    if (scene == nullptr) {
+        return {};
+    }
+    scene->journal().write("nyx_get_colors_named");
+    return toArray(scene->namedColors());
+}
+
+nyx::Unique_array<nyx::ColorwayId> nyx_get_colorways(nyxScene* scene) {
+    if (scene == nullptr) {
+        return {};
+    }
+    scene->journal().write("nyx_get_colorways");
+    std::vector<nyx::ColorwayId> ids;
+    scene->forEachColorway([&](ColorwayRecord const& colorway) { ids.push_back(colorway.id); });
+    return toArray(ids);
+}
+
+nyx::Unique_array<nyx::ColorId> nyx_color_from_name(nyxScene* scene, char const* name) {
+    if (scene == nullptr) {
+        return {};
+    }
+    scene->journal().write("nyx_color_from_name", name);
+    return colorsOfName(*scene, name, false);
+}
+
+nyx::Unique_array<nyx::ColorId> nyx_multi_color_from_name(nyxScene* scene, char const* name) {
+    if (scene == nullptr) {
+        return {};
+    }
+    scene->journal().write("nyx_multi_color_from_name", name);
+    return colorsOfName(*scene, name, true);
+}
+
+nyx::Unique_array<nyx::ColorwayId> nyx_colorway_from_name(nyxScene* scene, char const* name) {
+    if (scene == nullptr || name == nullptr) {
+        return {};
+    }
+    scene->journal().write("nyx_colorway_from_name", name);
+    std::vector<nyx::ColorwayId> ids;
+    scene->forEachColorway([&](ColorwayRecord const& colorway) {
+        if (!colorway.name.empty() && colorway.name == name) {
+            ids.push_back(colorway.id);
+        }
+    });
+    return toArray(ids);
+}
+
+unsigned nyx_color_reference_count(nyxScene* scene, nyx::ColorId id) {
+    if (scene == nullptr) {
+        return 0;
+    }
+    scene->journal().write("nyx_color_reference_count", id);
+    return scene->referenceCount(id);
+}
+
+void nyx_color_set_unique_name(nyxScene* scene, nyx::ColorId id) {
+    if (scene == nullptr) {
+        return;
+    }
+    scene->journal().write("nyx_color_set_unique_name", id);
+    if (ColorRecord const* const color = scene->color(id)) {
+        std::string const name = scene->uniqueColorName(color->name, {id});
+        if (name != color->name) {
+            ColorRecord renamed = *color;
+            renamed.name = name;
+            scene->updateColor(renamed);
+        }
+    }
+}
+
+char* nyx_color_find_unique_name(nyxScene* scene, char const* name, nyx::Span<nyx::ColorId> ignored,
+                                 nyxColor_extended::ColorType type) {
+    if (scene == nullptr || name == nullptr) {
+        return nullptr;
+    }
+    scene->journal().write("nyx_color_find_unique_name", name, ignored,
+                           static_cast<std::uint32_t>(type));
+    if (scene->faults().noUniqueNames) {
+        return nullptr;
+    }
+    // Names are unique among plain and multi-colours together, so the type makes no difference.
+    std::string const unique = scene->uniqueColorName(name, ignored);
+    auto* const text = static_cast<char*>(std::malloc(unique.size() + 1));
+    if (text == nullptr) {
+        throw std::bad_alloc();
+    }
+    std::memcpy(text, unique.c_str(), unique.size() + 1);
+    ++accounts().texts;
+    return text;
+}
+
+nyx::Unique_array<nyx::MaterialId> nyx_get_materials_using_color(nyxScene* scene, nyx::ColorId id,
+                                                                 unsigned how, bool unassigned) {
+    if (scene == nullptr) {
+        return {};
+    }
+    scene->journal().write("nyx_get_materials_using_color", id, how, unassigned);
+    return toArray(scene->materialsUsing(id, (how & 1u) != 0, (how & 2u) != 0, unassigned));
+}

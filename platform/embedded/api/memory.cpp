@@ -1,0 +1,65 @@
+#include "nyxrender/nyx_memory.h"
+
+#include "nyxrender/Unique_array.h"
+#include "store/Accounts.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace nyx::embedded {
+
+Accounts& accounts() {
+    static Accounts instance;
+    return instance;
+}
+
+} // namespace nyx::embedded
+
+using nyx::embedded::accounts;
+
+void* nyx::Unique_array_helper::allocate(std::size_t bytes) {
+    if (bytes == 0) {
+        return nullptr;
+    }
+    void* const memory = std::malloc(bytes);
+    if (memory == nullptr) {
+        throw std::bad_alloc();
+    }
+    ++accounts().arrays;
+    return memory;
+}
+
+void nyx::Unique_array_helper::free(void* memory) noexcept {
+    if (memory != nullptr) {
+        --accounts().arrays;
+        std::free(memory);
+    }
+}
+
+void* nyx_malloc_aligned(std::size_t bytes, std::size_t alignment) {
+    if (bytes == 0) {
+        return nullptr;
+    }
+    // aligned_alloc wants a multiple of the alignment.
+    std::size_t const rounded = (bytes + alignment - 1) / alignment * alignment;
+    void* const memory = rounded < bytes ? nullptr : std::aligned_alloc(alignment, rounded);
+    if (memory == nullptr) {
+        throw std::bad_alloc();
+    }
+    ++accounts().alignedBlocks;
+    return memory;
+}
+
+void nyx_free_aligned(void* memory) noexcept {
+    if (memory != nullptr) {
+        --accounts().alignedBlocks;
+        std::free(memory);
+    }
+}
+
+void nyx_free(void* memory) noexcept {
+    if (memory != nullptr) {
+        --accounts().texts;
+        std::free(memory);
+    }
+}

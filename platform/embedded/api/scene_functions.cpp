@@ -1,0 +1,18 @@
+// Free functions over the scene as a whole.
+
+#include "nyxrender/nyxScene.h"
+#include "nyxrender/nyx_memory.h"
+#include "store/Scene.h"
+
+nyxScene_api* nyx_get_scene_api(nyxScene* scene) {
+    return scene == nullptr ? nullptr : scene->api();
+}
+
+double nyx_scene_unit_scale(nyxScene const& scene) {
+    scene.journal().write("nyx_scene_unit_scale");
+    return scene.unitScale();
+}
+
+char* nyx_string_dup(nyxScene& scene, char const* text) {
+    return text == nullptr ? nullptr : scene.strings().duplicate(text);
+}

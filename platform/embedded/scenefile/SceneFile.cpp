@@ -1,0 +1,67 @@
+#include "scenefile/SceneFile.h"
+
+#include "scenefile/SceneReader.h"
+#include "scenefile/SceneWriter.h"
+#include "scenefile/StrictJson.h"
+#include "store/Scene.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QString>
+
+namespace nyx::embedded {
+namespace {
+
+std::string problem(std::string const& path, QString const& reason) {
+    return path + ": " + reason.toStdString();
+}
+
+} // namespace
+
+std::string loadSceneText(nyxScene& scene, std::string const& json) {
+    nyxScene fresh;
+    try {
+        readScene(parseStrictly(json), fresh);
+    } catch (SceneFileError const& error) {
+        return error.what();
+    }
+    scene.takeContents(fresh);
+    return {};
+}
+
+std::string loadSceneFile(nyxScene& scene, std::string const& path) {
+    QString const name = QString::fromStdString(path);
+    if (QFileInfo(name).isDir()) {
+        return problem(path, QStringLiteral("is a folder"));
+    }
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return problem(path, file.errorString());
+    }
+    std::string const text = file.readAll().toStdString();
+    if (file.error() != QFileDevice::NoError) {
+        return problem(path, file.errorString());
+    }
+    std::string const message = loadSceneText(scene, text);
+    return message.empty() ? message : path + ": " + message;
+}
+
+std::string saveSceneText(nyxScene const& scene) { return writeScene(scene); }
+
+std::string saveSceneFile(nyxScene const& scene, std::string const& path) {
+    std::string const text = writeScene(scene);
+    QSaveFile file(QString::fromStdString(path));
+    // A failed write is remembered by the file and makes commit() refuse.
+    if (!file.open(QIODevice::WriteOnly)) {
+        return problem(path, file.errorString());
+    }
+    file.write(text.data(), static_cast<qint64>(text.size()));
+    if (!file.commit()) {
+        return problem(path, file.errorString());
+    }
+    return {};
+}
+
+} // namespace nyx::embedded

@@ -1,0 +1,234 @@
+#include "scenefile/SceneReader.h"
+
+#include "scenefile/JsonNode.h"
+#include "store/Scene.h"
+
+#include <cstdint>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace nyx::embedded {
+namespace {
+
+constexpr std::uint32_t lastId = 0xFFFFFFFEu;
+
+/// The id of a record, which lies above those of the records before it.
+template <class IdType>
+IdType readId(JsonNode const& record, IdType next) {
+    JsonNode const node = record.member("id");
+    std::uint32_t const id = node.word(1, lastId);
+    if (id < next.toUint()) {
+        node.fail("ids ascend: expected " + std::to_string(next.toUint()) + " or more, found " +
+                  std::to_string(id));
+    }
+    return IdType(id);
+}
+
+/// A reference may name a record that is gone, and may be the invalid id, which an absent key means
+/// too.
+template <class IdType>
+IdType readReference(JsonNode const& record, std::string_view key) {
+    auto const node = record.find(key);
+    return node ? IdType(node->word()) : IdType();
+}
+
+std::vector<nyx::ColorId> readReferences(JsonNode const& record, std::string_view key) {
+    std::vector<nyx::ColorId> ids;
+    if (auto const list = record.find(key)) {
+        ids.reserve(list->arraySize());
+        list->forEachElement([&ids](JsonNode const& id) { ids.emplace_back(id.word()); });
+    }
+    return ids;
+}
+
+std::string readText(JsonNode const& record, std::string_view key) {
+    auto const node = record.find(key);
+    return node ? node->text() : std::string();
+}
+
+std::uint32_t readWord(JsonNode const& record, std::string_view key) {
+    auto const node = record.find(key);
+    return node ? node->word() : 0;
+}
+
+nyxColor_rgba readColorValue(JsonNode const& node) {
+    if (node.arraySize() != 4) {
+        node.fail("expected 4 numbers (red, green, blue, alpha), found " +
+                  std::to_string(node.arraySize()));
+    }
+    return {node.element(0).component(), node.element(1).component(), node.element(2).component(),
+            node.element(3).component()};
+}
+
+void readColor(JsonNode const& node, nyxScene& scene) {
+    node.checkObject({"id", "name", "originalName", "value", "flags", "subColors", "activeSub"});
+    ColorRecord record;
+    record.head.id = readId(node, scene.nextColorId());
+    record.head.flags = readWord(node, "flags");
+    record.name = readText(node, "name");
+    record.originalName = readText(node, "originalName");
+    record.value = readColorValue(node.member("value"));
+    record.subColors = readReferences(node, "subColors");
+    record.activeSub = readReference<nyx::ColorId>(node, "activeSub");
+    static_cast<void>(scene.addColor(std::move(record)));
+}
+
+void readColorway(JsonNode const& node, nyxScene& scene) {
+    node.checkObject({"id", "name", "flags", "multiColors", "activeSubs"});
+    ColorwayRecord record;
+    record.id = readId(node, scene.nextColorwayId());
+    record.flags = readWord(node, "flags");
+    record.name = readText(node, "name");
+    record.multiColors = readReferences(node, "multiColors");
+    record.activeSubs = readReferences(node, "activeSubs");
+    static_cast<void>(scene.addColorway(std::move(record)));
+}
+
+std::vector<MaterialPlace> readPlaces(JsonNode const& list) {
+    std::vector<MaterialPlace> places;
+    std::set<std::pair<std::uint32_t, std::string>> seen;
+    list.forEachElement([&](JsonNode const& node) {
+        node.checkObject({"node", "parameter", "color"});
+        MaterialPlace place;
+        place.node = node.member("node").word();
+        place.parameter = node.member("parameter").text();
+        place.color = readReference<nyx::ColorId>(node, "color");
+        if (!seen.emplace(place.node, place.parameter).second) {
+            node.fail("the material has this place already");
+        }
+        places.push_back(std::move(place));
+    });
+    return places;
+}
+
+void readCmfValue(JsonNode const& pair, nyxMaterial& material) {
+    if (pair.arraySize() != 2) {
+        pair.fail("expected a key and a value, found " + std::to_string(pair.arraySize()) +
+                  " elements");
+    }
+    if (!material.cmfValues.emplace(pair.element(0).text(), pair.element(1).text()).second) {
+        pair.fail("the material has this key already");
+    }
+}
+
+void readMaterial(JsonNode const& node, nyxScene& scene) {
+    node.checkObject({"id", "name", "places", "cmf", "metadata", "items"});
+    nyxMaterial record;
+    record.id = readId(node, scene.nextMaterialId());
+    record.name = readText(node, "name");
+    if (auto const places = node.find("places")) {
+        record.places = readPlaces(*places);
+    }
+    if (auto const values = node.find("cmf")) {
+        values->forEachElement([&](JsonNode const& pair) { readCmfValue(pair, record); });
+    }
+    record.metadata = readText(node, "metadata");
+    if (auto const items = node.find("items")) {
+        items->forEachElement([&](JsonNode const& item) { record.items.push_back(item.word()); });
+    }
+    static_cast<void>(scene.addMaterial(std::move(record)));
+}
+
+ItemKind readKind(JsonNode const& node) {
+    std::string const& kind = node.string();
+    if (kind == "group") {
+        return ItemKind::Group;
+    }
+    if (kind == "object") {
+        return ItemKind::Object;
+    }
+    if (kind == "light") {
+        return ItemKind::Light;
+    }
+    node.failExpected("\"group\", \"object\" or \"light\"");
+}
+
+void readItem(JsonNode const& node, nyxScene& scene) {
+    node.checkObject({"id", "kind", "name", "parent", "material"});
+    ItemRecord record;
+    record.id = readId(node, scene.nextItemId());
+    record.kind = readKind(node.member("kind"));
+    record.name = readText(node, "name");
+    if (auto const parent = node.find("parent")) {
+        record.parent = nyx::GroupItemId(parent->word());
+        // Parents before their children, so that no item can be its own ancestor.
+        if (scene.item(record.parent) == nullptr) {
+            parent->failExpected("the id of an item further up");
+        }
+    }
+    if (auto const material = node.find("material")) {
+        if (record.kind != ItemKind::Object) {
+            material->fail("only objects have a material");
+        }
+        record.material = nyx::MaterialId(material->word());
+    }
+    static_cast<void>(scene.addItem(std::move(record)));
+}
+
+/// The ids of records that are gone are not given out again, so the next ones are written down.
+template <class IdType>
+IdType readNextId(JsonNode const& nextIds, std::string_view key, IdType least) {
+    auto const node = nextIds.find(key);
+    if (!node) {
+        return least;
+    }
+    return IdType(node->word(least.toUint(), 0xFFFFFFFFu));
+}
+
+void readHeader(JsonNode const& file) {
+    JsonNode const format = file.member("format");
+    if (format.string() != "zsg-scene") {
+        format.failExpected("\"zsg-scene\"");
+    }
+    JsonNode const version = file.member("version");
+    if (version.number() != 1) {
+        version.failExpected("1");
+    }
+}
+
+void readSection(JsonNode const& file, std::string_view key, nyxScene& scene,
+                 void (*readRecord)(JsonNode const&, nyxScene&)) {
+    if (auto const section = file.find(key)) {
+        section->forEachElement([&](JsonNode const& record) { readRecord(record, scene); });
+    }
+}
+
+} // namespace
+
+void readScene(nlohmann::json const& document, nyxScene& scene) {
+    JsonNode const file(document);
+    if (!document.is_object()) {
+        file.failExpected("an object");
+    }
+    // Before the keys, because another version has other keys.
+    readHeader(file);
+    file.checkObject({"format", "version", "unitScale", "nextIds", "colors", "colorways",
+                      "settings", "materials", "hierarchy"});
+
+    if (auto const scale = file.find("unitScale")) {
+        if (scale->number() < 0) {
+            scale->failExpected("a number not below 0");
+        }
+        scene.setUnitScale(scale->number());
+    }
+    readSection(file, "colors", scene, readColor);
+    readSection(file, "colorways", scene, readColorway);
+    readSection(file, "materials", scene, readMaterial);
+    readSection(file, "hierarchy", scene, readItem);
+    if (auto const settings = file.find("settings")) {
+        settings->checkObject({"activeColorway"});
+        scene.setActiveColorway(readReference<nyx::ColorwayId>(*settings, "activeColorway"));
+    }
+    if (auto const next = file.find("nextIds")) {
+        next->checkObject({"color", "colorway", "material", "item"});
+        scene.skipIdsBelow(readNextId(*next, "color", scene.nextColorId()),
+                           readNextId(*next, "colorway", scene.nextColorwayId()),
+                           readNextId(*next, "material", scene.nextMaterialId()),
+                           readNextId(*next, "item", scene.nextItemId()));
+    }
+}
+
+} // namespace nyx::embedded
