@@ -1,0 +1,9 @@
+#include "zsg/painting/IPainterBrush.h"
+
+namespace zsg {
+
+IPainterBrush::IPainterBrush() = default;
+
+IPainterBrush::~IPainterBrush() = default;
+
+} // namespace zsg

@@ -1,0 +1,3 @@
+#include "painting/logging.h"
+
+Q_LOGGING_CATEGORY(zsgPainting, "zsg.painting")
