@@ -17,8 +17,8 @@ function(zsg_add_area area)
     target_include_directories(${target} PUBLIC
         ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/src)
     target_link_libraries(${target}
-        PUBLIC zsg_platform Qt6::Core ${arg_LIBRARIES}
-        PRIVATE zsg_warnings nlohmann_json::nlohmann_json)
+        PUBLIC zsg_platform Qt6::Core nlohmann_json::nlohmann_json ${arg_LIBRARIES}
+        PRIVATE zsg_warnings)
     set_property(GLOBAL APPEND PROPERTY ZSG_AREA_OBJECTS $<TARGET_OBJECTS:${target}>)
 endfunction()
 

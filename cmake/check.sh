@@ -29,7 +29,10 @@ gate_layering() {
         $(grep -rLE 'materials/ISceneMaterialManager.h' include/zsg/colors src/colors)
     forbid "areas post events; they never include the root" \
         'core/ZSceneGraph|zsg/core/ISceneGraph' include/zsg/values include/zsg/colors \
-        include/zsg/materials src/values src/colors src/materials
+        include/zsg/materials src/values src/colors
+    forbid "materials reach the event queue through the root's interface, and know no sibling" \
+        'core/ZSceneGraph|(zsg/)?(colors|lightlayers|painting)/' \
+        include/zsg/materials src/materials
     forbid "platform declarations know nobody" 'zsg/' platform/include
     return $bad
 }

@@ -1,0 +1,7 @@
+#include "zsg/materials/IMaterialGraph.h"
+
+namespace zsg {
+
+IMaterialGraph::~IMaterialGraph() = default;
+
+} // namespace zsg

@@ -1,0 +1,7 @@
+#include "zsg/materials/IShaderEdge.h"
+
+namespace zsg {
+
+IShaderEdge::~IShaderEdge() = default;
+
+} // namespace zsg

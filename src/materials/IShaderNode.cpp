@@ -1,0 +1,7 @@
+#include "zsg/materials/IShaderNode.h"
+
+namespace zsg {
+
+IShaderNode::~IShaderNode() = default;
+
+} // namespace zsg

@@ -1,0 +1,7 @@
+#include "zsg/materials/IShaderNodeType.h"
+
+namespace zsg {
+
+IShaderNodeType::~IShaderNodeType() = default;
+
+} // namespace zsg
