@@ -3,10 +3,10 @@
 #include "core/ZEventQueue.h"
 #include "support/EventTrace.h"
 #include "support/TestScene.h"
+#include "support/lines.h"
 #include "zsg/colors/ColorDB.h"
 
 #include <memory>
-#include <sstream>
 #include <vector>
 
 /// A colour database over an embedded renderer. trace() returns the calls to the renderer and,
@@ -44,20 +44,7 @@ protected:
 
     /// The same in one line, ", " between the calls.
     std::string calls(std::function<void()> const& action) {
-        return select(trace(action), ", ", [](std::string const&) { return true; });
-    }
-
-    /// The wanted ones of the lines of a text that are not empty.
-    static std::string select(std::string const& text, char const* separator,
-                              std::function<bool(std::string const&)> const& wanted) {
-        std::istringstream stream(text);
-        std::string selected;
-        for (std::string line; std::getline(stream, line);) {
-            if (!line.empty() && wanted(line)) {
-                selected += (selected.empty() ? "" : separator) + line;
-            }
-        }
-        return selected;
+        return selectLines(trace(action), ", ", [](std::string const&) { return true; });
     }
 
     ColorId color(std::string const& name, float red = 0) {
