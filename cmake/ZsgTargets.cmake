@@ -13,7 +13,9 @@ function(zsg_add_area area)
     endif()
     set(target zsg_${area}_objects)
     add_library(${target} OBJECT ${arg_SOURCES})
-    target_compile_definitions(${target} PRIVATE ZSG_BUILDING_LIBRARY)
+    # Who links the objects must not look for imports, as who links the shared library does.
+    target_compile_definitions(${target}
+        PRIVATE ZSG_BUILDING_LIBRARY INTERFACE $<$<PLATFORM_ID:Windows>:ZSG_STATIC>)
     target_include_directories(${target} PUBLIC
         ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/src)
     target_link_libraries(${target}
@@ -29,7 +31,6 @@ function(zsg_add_test name)
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE
         ${arg_LIBRARIES} zsg_test_support zsg_warnings GTest::gmock GTest::gtest)
-    target_compile_definitions(${name} PRIVATE ZSG_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
         PROPERTIES TIMEOUT 300 LABELS "${arg_LABELS}")
 endfunction()

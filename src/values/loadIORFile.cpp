@@ -1,5 +1,7 @@
 #include "zsg/values/loadIORFile.h"
 
+#include "zsg/values/pathFromUtf8.h"
+
 #include "values/IORLayouts.h"
 
 #include <algorithm>
@@ -25,7 +27,7 @@ std::string extensionOf(std::string const& path) {
 
 /// The bytes of a file; nothing when it cannot be opened or read, as with a folder.
 std::optional<std::string> contentsOf(std::string const& path) {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(pathFromUtf8(path), std::ios::binary);
     std::string contents;
     std::string block(std::size_t{1} << 16, '\0');
     while (file.read(block.data(), static_cast<std::streamsize>(block.size())) ||

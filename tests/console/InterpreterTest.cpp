@@ -3,6 +3,7 @@
 #include "IORLint.h"
 #include "JsonSession.h"
 #include "LineReader.h"
+#include "support/sourceDir.h"
 
 #include <gmock/gmock.h>
 
@@ -18,7 +19,7 @@ using testing::Not;
 class InterpreterTest : public testing::Test {
 protected:
     InterpreterTest() : host(out), interpreter(host) {
-        EXPECT_EQ(host.load(ZSG_SOURCE_DIR "/examples/scenes/showroom.json"), "");
+        EXPECT_EQ(host.load(sourceDir() + "/examples/scenes/showroom.json"), "");
     }
 
     int script(std::string const& text, bool keepGoing = false) {

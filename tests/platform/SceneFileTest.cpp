@@ -1,5 +1,6 @@
 #include "nyxembedded/Renderer.h"
 #include "nyxrender/nyxScene.h"
+#include "support/sourceDir.h"
 
 #include <gmock/gmock.h>
 
@@ -19,7 +20,7 @@ namespace {
 
 using nyx::embedded::Renderer;
 
-std::string const showroom = ZSG_SOURCE_DIR "/examples/scenes/showroom.json";
+std::string const showroom = sourceDir() + "/examples/scenes/showroom.json";
 
 std::string readFile(std::string const& path) {
     QFile file(QString::fromStdString(path));

@@ -1,5 +1,7 @@
 #include "zsg/values/loadIORFile.h"
 
+#include "support/sourceDir.h"
+
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -39,7 +41,7 @@ protected:
     }
 
     Result load(char const* name, std::string const& text) const {
-        QString const path = folder_.filePath(name);
+        QString const path = folder_.filePath(QString::fromUtf8(name));
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(text.data(), static_cast<qint64>(text.size()));
@@ -79,6 +81,11 @@ TEST_F(LoadIORFile, PairsGetEquallySpacedWavelengths) {
     Result const unknown = load("b.nk", "12 3 4 1\n1 2\n1 2\n");
     EXPECT_EQ(unknown.messages, "Unknown unit\n");
     EXPECT_EQ(unknown.wavelengths(), (std::vector<float>{3, 4}));
+}
+
+TEST_F(LoadIORFile, PathsAreUtf8) {
+    ASSERT_TRUE(QDir(folder_.path()).mkdir(QStringLiteral("Füße 漆")));
+    EXPECT_TRUE(load("Füße 漆/grüß_漆.nk", "4 400 700 0\n1 2\n").loaded);
 }
 
 TEST_F(LoadIORFile, TablesSkipWhatDoesNotFit) {
@@ -126,7 +133,7 @@ TEST_F(LoadIORFile, NothingToReadLeavesTheResultAlone) {
 }
 
 TEST_F(LoadIORFile, MeasuredMetals) {
-    std::string const data = ZSG_SOURCE_DIR "/examples/data/";
+    std::string const data = sourceDir() + "/examples/data/";
     for (std::string const metal : {"gold", "silver", "copper"}) {
         Result const table = load(data + metal + ".csv");
         Result const pairs = load(data + metal + ".nk");

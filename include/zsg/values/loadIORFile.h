@@ -9,9 +9,9 @@ namespace zsg {
 
 /// Reads a measured complex index of refraction, sampled over wavelength, from a text file.
 ///
-/// The extension of `path` (in any letter case) selects the layout: "nk" and "ior" are a header
-/// line (unit, start, end, intervals) followed by one "n k" pair per line, "csv" is "wavelength, n,
-/// k" with the wavelength in nanometres. Lines that do not fit are skipped.
+/// The extension of `path` (UTF-8; in any letter case) selects the layout: "nk" and "ior" are a
+/// header line (unit, start, end, intervals) followed by one "n k" pair per line, "csv" is
+/// "wavelength, n, k" with the wavelength in nanometres. Lines that do not fit are skipped.
 ///
 /// True, and `out` holds (wavelength in nm, n, k) of each sample in file order, when there is at
 /// least one sample. False, and `out` unchanged, when there is none: also for another extension and

@@ -1,0 +1,3 @@
+#include "support/sourceDir.h"
+
+std::string sourceDir() { return ZSG_SOURCE_DIR; }
