@@ -1,7 +1,8 @@
 #include "Terminal.h"
 
-#include "Host.h"
-#include "Interpreter.h"
+#include "host/CommandTable.h"
+#include "host/Host.h"
+#include "host/Interpreter.h"
 
 #include <cstdlib>
 #include <cstring>
@@ -11,12 +12,11 @@
 #include <editline/readline.h>
 #include <unistd.h>
 
-namespace console {
+namespace app {
 
 namespace {
 
 // The completion callbacks of the line editor have no argument of their own.
-Interpreter const* completing = nullptr;
 std::size_t wordStart = 0;
 
 char* nextCompletion(char const* text, int state) {
@@ -25,8 +25,8 @@ char* nextCompletion(char const* text, int state) {
         next = 0;
     }
     std::string const line = std::string(rl_line_buffer, wordStart) + text;
-    while (next < completing->commands().size()) {
-        std::string const name(completing->commands()[next++]->name);
+    while (next < allCommands().size()) {
+        std::string const name(allCommands()[next++]->name);
         if (name.starts_with(line)) {
             return strdup(name.c_str() + wordStart);
         }
@@ -45,11 +45,10 @@ char** complete(char const* text, int start, int) {
 bool isTerminal() { return isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0; }
 
 int runTerminalSession(Interpreter& interpreter, Host& host) {
-    completing = &interpreter;
     rl_attempted_completion_function = complete;
     using_history();
     host.out() << "\"help\" lists the commands, \"quit\" ends.\n";
-    while (!interpreter.quitRequested()) {
+    while (!host.endRequested()) {
         host.out().flush();
         std::unique_ptr<char, decltype(&std::free)> const line(readline("zsg> "), &std::free);
         if (line == nullptr) {
@@ -66,8 +65,7 @@ int runTerminalSession(Interpreter& interpreter, Host& host) {
             std::cerr << error.what() << std::endl;
         }
     }
-    completing = nullptr;
     return 0;
 }
 
-} // namespace console
+} // namespace app

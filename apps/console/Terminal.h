@@ -1,6 +1,6 @@
 #pragma once
 
-namespace console {
+namespace app {
 
 class Host;
 class Interpreter;
@@ -12,4 +12,4 @@ class Interpreter;
 /// or quit. A failing command is reported and the session goes on. Returns the exit code.
 int runTerminalSession(Interpreter& interpreter, Host& host);
 
-} // namespace console
+} // namespace app

@@ -1,7 +1,7 @@
-#include "Host.h"
-#include "Interpreter.h"
-#include "JsonSession.h"
 #include "Terminal.h"
+#include "host/Host.h"
+#include "host/Interpreter.h"
+#include "host/JsonSession.h"
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
@@ -13,7 +13,7 @@
 namespace {
 
 // Standard input that is no terminal is a script without a name.
-int runScript(console::Interpreter& interpreter, std::string const& path, bool keepGoing) {
+int runScript(app::Interpreter& interpreter, std::string const& path, bool keepGoing) {
     if (path == "-") {
         return interpreter.runScript(std::cin, "standard input", keepGoing, std::cerr) == 0 ? 0 : 1;
     }
@@ -55,17 +55,17 @@ int main(int argc, char** argv) {
         return options.exit(error) == 0 ? 0 : 1;
     }
 
-    console::Host host(std::cout);
+    app::Host host(std::cout);
     if (std::string const message = host.load(scene); !message.empty()) {
         std::cerr << message << '\n';
         return 1;
     }
-    console::Interpreter interpreter(host);
+    app::Interpreter interpreter(host);
     int code = 0;
     if (jsonLines) {
-        code = console::runJsonSession(interpreter, host, std::cin, std::cout);
-    } else if (scriptOption->count() == 0 && console::isTerminal()) {
-        code = console::runTerminalSession(interpreter, host);
+        code = app::runJsonSession(interpreter, host, std::cin, std::cout);
+    } else if (scriptOption->count() == 0 && app::isTerminal()) {
+        code = app::runTerminalSession(interpreter, host);
     } else {
         code = runScript(interpreter, scriptOption->count() == 0 ? "-" : script, keepGoing);
     }

@@ -1,13 +1,13 @@
-#include "Arguments.h"
+#include "host/Arguments.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using console::Arguments;
-using console::CommandError;
-using console::invalidUtf8At;
-using console::splitWords;
+using app::Arguments;
+using app::CommandError;
+using app::invalidUtf8At;
+using app::splitWords;
 using Words = std::vector<std::string>;
 
 TEST(Arguments, LinesSplitIntoWords) {

@@ -1,9 +1,18 @@
+<<<<<<< ours
 #include "Interpreter.h"
 #include "Host.h"
 #include "IORLint.h"
 #include "JsonSession.h"
 #include "LineReader.h"
 #include "support/sourceDir.h"
+=======
+#include "host/Interpreter.h"
+#include "host/Arguments.h"
+#include "host/Host.h"
+#include "host/IORLint.h"
+#include "host/JsonSession.h"
+#include "host/LineReader.h"
+>>>>>>> theirs
 
 #include <gmock/gmock.h>
 
@@ -29,8 +38,8 @@ protected:
 
     std::ostringstream out;
     std::ostringstream errors;
-    console::Host host;
-    console::Interpreter interpreter;
+    app::Host host;
+    app::Interpreter interpreter;
 };
 
 TEST_F(InterpreterTest, FailuresNameTheLineAndEndTheScriptUnlessItKeepsGoing) {
@@ -38,7 +47,7 @@ TEST_F(InterpreterTest, FailuresNameTheLineAndEndTheScriptUnlessItKeepsGoing) {
     EXPECT_EQ(errors.str(), "test.zsg:2: unknown command \"foo bar\"; \"help\" lists them\n");
     errors.str("");
 
-    std::string const tooLong(console::longestLine + 5, 'x');
+    std::string const tooLong(app::longestLine + 5, 'x');
     EXPECT_EQ(
         script("undo\nedit name Ivory\nedit name Nobody X\nhelp \x80\ncolor list plain all\n" +
                    tooLong + "\ngoto 99\nexpect undo 0\n",
@@ -111,7 +120,7 @@ TEST_F(InterpreterTest, AWordTooManyStopsACommandBeforeItActs) {
         try {
             interpreter.run(line + " surplus");
             ADD_FAILURE() << line;
-        } catch (console::CommandError const& error) {
+        } catch (app::CommandError const& error) {
             EXPECT_THAT(error.what(), HasSubstr("unexpected \"surplus\"")) << line;
         }
     }
@@ -140,7 +149,7 @@ TEST_F(InterpreterTest, JsonLinesAnswerEveryRequest) {
                           deep + "{\"id\": \"x\", \"command\": \"undo undo\"}\n");
     std::ostringstream answers;
     host.pump();
-    EXPECT_EQ(console::runJsonSession(interpreter, host, in, answers), 1);
+    EXPECT_EQ(app::runJsonSession(interpreter, host, in, answers), 1);
     std::vector<std::string> lines;
     std::istringstream split(answers.str());
     for (std::string line; std::getline(split, line);) {
@@ -158,14 +167,14 @@ TEST_F(InterpreterTest, JsonLinesAnswerEveryRequest) {
 }
 
 TEST(IORLint, EachKindOfTroubleIsNamedAtItsFirstPlace) {
-    EXPECT_THAT(console::lintIOR("1972 a year\n\n4 400 700 3\n\n1.5e-1 0\n1 0;\n\n", "nk"),
+    EXPECT_THAT(app::lintIOR("1972 a year\n\n4 400 700 3\n\n1.5e-1 0\n1 0;\n\n", "nk"),
                 ElementsAre(HasSubstr("line 4: is blank"), HasSubstr("line 5: has a number in sci"),
                             HasSubstr("line 6: ends in a semicolon")));
-    EXPECT_THAT(console::lintIOR("wavelength,n,k\r\n0.4,1.5,0\r\n" + std::string(120, '1'), "csv"),
+    EXPECT_THAT(app::lintIOR("wavelength,n,k\r\n0.4,1.5,0\r\n" + std::string(120, '1'), "csv"),
                 ElementsAre(HasSubstr("line 1: ends in CR LF"), HasSubstr("100 characters")));
-    EXPECT_THAT(console::lintIOR("0.4,1.5,0\n0.7,1.5,0\n", "csv"),
+    EXPECT_THAT(app::lintIOR("0.4,1.5,0\n0.7,1.5,0\n", "csv"),
                 ElementsAre(HasSubstr("micrometres")));
-    EXPECT_THAT(console::lintIOR("400,1.5,0\n", "csv"), ElementsAre());
+    EXPECT_THAT(app::lintIOR("400,1.5,0\n", "csv"), ElementsAre());
 }
 
 } // namespace

@@ -1,0 +1,141 @@
+#include "host/Arguments.h"
+
+#include <charconv>
+#include <cmath>
+
+namespace app {
+
+namespace {
+
+template <class T>
+T parse(std::string const& word, char const* expected) {
+    T value{};
+    auto const [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
+    if (error != std::errc() || end != word.data() + word.size()) {
+        throw CommandError("expected " + std::string(expected) + ", found \"" + word + "\"");
+    }
+    return value;
+}
+
+} // namespace
+
+std::vector<std::string> splitWords(std::string_view line) {
+    std::vector<std::string> words;
+    std::size_t i = 0;
+    auto const isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r'; };
+    while (true) {
+        while (i < line.size() && isBlank(line[i])) {
+            ++i;
+        }
+        if (i == line.size() || line[i] == '#') {
+            return words;
+        }
+        std::string word;
+        while (i < line.size() && !isBlank(line[i])) {
+            if (line[i] != '"') {
+                word += line[i++];
+                continue;
+            }
+            ++i;
+            while (i < line.size() && line[i] != '"') {
+                if (line[i] == '\\' && i + 1 < line.size()) {
+                    ++i;
+                    word += line[i] == 'n' ? '\n' : line[i];
+                } else {
+                    word += line[i];
+                }
+                ++i;
+            }
+            if (i == line.size()) {
+                throw CommandError("a double quote is not closed");
+            }
+            ++i;
+        }
+        words.push_back(std::move(word));
+    }
+}
+
+std::size_t invalidUtf8At(std::string_view text) {
+    for (std::size_t i = 0; i < text.size();) {
+        auto const byte = [&](std::size_t at) -> unsigned {
+            return at < text.size() ? static_cast<unsigned char>(text[at]) : 0u;
+        };
+        unsigned const first = byte(i);
+        std::size_t length = 1;
+        unsigned lowest = 0x80;
+        unsigned highest = 0xBF;
+        if (first >= 0x80) {
+            if (first < 0xC2 || first > 0xF4) {
+                return i;
+            }
+            length = first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
+            // Overlong forms, surrogates and code points past the last one.
+            lowest = first == 0xE0 ? 0xA0 : first == 0xF0 ? 0x90 : 0x80;
+            highest = first == 0xED ? 0x9F : first == 0xF4 ? 0x8F : 0xBF;
+        }
+        for (std::size_t k = 1; k < length; ++k) {
+            if (byte(i + k) < lowest || byte(i + k) > highest) {
+                return i;
+            }
+            lowest = 0x80;
+            highest = 0xBF;
+        }
+        i += length;
+    }
+    return std::string_view::npos;
+}
+
+std::string Arguments::word(char const* expected) {
+    if (empty()) {
+        throw CommandError("expected " + std::string(expected));
+    }
+    return words_[next_++];
+}
+
+std::string Arguments::oneOf(std::initializer_list<char const*> choices) {
+    std::string list;
+    for (char const* choice : choices) {
+        list += (list.empty() ? "" : ", ") + std::string(choice);
+    }
+    std::string const expected = "one of " + list;
+    std::string found = word(expected.c_str());
+    for (char const* choice : choices) {
+        if (found == choice) {
+            return found;
+        }
+    }
+    throw CommandError("expected " + expected + ", found \"" + found + "\"");
+}
+
+int Arguments::integer(char const* expected) { return parse<int>(word(expected), expected); }
+
+std::uint32_t Arguments::number(char const* expected) {
+    return parse<std::uint32_t>(word(expected), expected);
+}
+
+double Arguments::real(char const* expected) { return parse<double>(word(expected), expected); }
+
+bool Arguments::onOff() { return oneOf({"on", "off"}) == "on"; }
+
+bool Arguments::flag(std::string_view flag) {
+    if (empty() || peek() != flag) {
+        return false;
+    }
+    ++next_;
+    return true;
+}
+
+std::vector<std::string> Arguments::rest() {
+    std::vector<std::string> words(words_.begin() + static_cast<std::ptrdiff_t>(next_),
+                                   words_.end());
+    next_ = words_.size();
+    return words;
+}
+
+void Arguments::done() const {
+    if (!empty()) {
+        throw CommandError("unexpected \"" + peek() + "\"");
+    }
+}
+
+} // namespace app

@@ -1,0 +1,127 @@
+#include "host/ColorArguments.h"
+
+#include "host/Host.h"
+
+#include "zsg/colors/ColorDB.h"
+#include "zsg/core/ISceneGraph.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+
+#include <unistd.h>
+
+namespace app {
+
+namespace {
+
+template <class Id, class Find>
+Id idOf(std::string const& word, char const* expected, Find const& find) {
+    bool const asIs = word.starts_with('=');
+    std::uint32_t number = 0;
+    char const* const begin = word.data() + (asIs ? 1 : 0);
+    char const* const end = word.data() + word.size();
+    auto const [last, error] = std::from_chars(begin, end, number);
+    bool const isNumber = error == std::errc() && last == end;
+    if (asIs && isNumber) {
+        return Id(number);
+    }
+    Id const id = find(word, isNumber ? Id(number) : Id());
+    if (!id.isValid()) {
+        throw CommandError("the scene has no " + std::string(expected) + " \"" + word + "\"");
+    }
+    return id;
+}
+
+nyx::ColorId colorOf(Host& host, std::string const& word) {
+    return idOf<nyx::ColorId>(word, "colour", [&](std::string const& name, nyx::ColorId id) {
+        return id.isValid() && host.renderer().color(id) ? id : host.renderer().findColor(name);
+    });
+}
+
+int component(float value) {
+    // Through a comparison that a NaN fails.
+    float const clamped = value > 0 ? std::min(value, 1.0f) : 0.0f;
+    return static_cast<int>(std::lround(clamped * 255.0f));
+}
+
+} // namespace
+
+nyx::ColorId takeColor(Host& host, Arguments& arguments, char const* expected) {
+    return colorOf(host, arguments.word(expected));
+}
+
+nyx::ColorwayId takeColorway(Host& host, Arguments& arguments) {
+    return idOf<nyx::ColorwayId>(arguments.word("a colorway"), "colorway",
+                                 [&](std::string const& name, nyx::ColorwayId id) {
+                                     return id.isValid() && host.renderer().colorway(id)
+                                                ? id
+                                                : host.renderer().findColorway(name);
+                                 });
+}
+
+std::vector<nyx::ColorId> takeColors(Host& host, Arguments& arguments) {
+    std::vector<nyx::ColorId> ids;
+    for (std::string const& word : arguments.rest()) {
+        ids.push_back(colorOf(host, word));
+    }
+    return ids;
+}
+
+std::vector<zsg::MultiColorPair> takePairs(Host& host, Arguments& arguments) {
+    std::vector<zsg::MultiColorPair> pairs;
+    for (std::string const& word : arguments.rest()) {
+        std::size_t const colon = word.find(':');
+        if (colon == std::string::npos) {
+            throw CommandError("expected MULTI:SUB, found \"" + word + "\"");
+        }
+        pairs.push_back(
+            {colorOf(host, word.substr(0, colon)), colorOf(host, word.substr(colon + 1))});
+    }
+    return pairs;
+}
+
+nyxColor_rgba takeRgba(Arguments& arguments) {
+    nyxColor_rgba color{0, 0, 0, 1};
+    color.r = static_cast<float>(arguments.real("the red component"));
+    color.g = static_cast<float>(arguments.real("the green component"));
+    color.b = static_cast<float>(arguments.real("the blue component"));
+    if (!arguments.empty() &&
+        arguments.peek().find_first_not_of("0123456789.-+e") == std::string::npos) {
+        color.a = static_cast<float>(arguments.real("alpha"));
+    }
+    return color;
+}
+
+std::string swatch(nyxColor_rgba const& color) {
+    int const r = component(color.r);
+    int const g = component(color.g);
+    int const b = component(color.b);
+    char text[64];
+    static bool const isTerminal = isatty(STDOUT_FILENO) != 0;
+    if (isTerminal) {
+        std::snprintf(text, sizeof text, "\033[48;2;%d;%d;%dm   \033[0m #%02x%02x%02x", r, g, b, r,
+                      g, b);
+    } else {
+        std::snprintf(text, sizeof text, "#%02x%02x%02x", r, g, b);
+    }
+    return text;
+}
+
+std::string colorLine(Host& host, nyx::ColorId id) {
+    ZColorExt const color = host.root().colorDB()->colorFromId(id);
+    std::string line = std::to_string(id.toUint()) + ' ' + swatch(color.rgba()) + ' ' +
+                       (color.getColorName().empty() ? "(unnamed)" : color.getColorName());
+    if (color.isMultiColor()) {
+        line += " [";
+        for (int i = 0; i < color.nColors(); ++i) {
+            line += (i == 0 ? "" : " ") + std::string(i == color.activeIndex() ? "*" : "") +
+                    color.getName(i);
+        }
+        line += ']';
+    }
+    return line;
+}
+
+} // namespace app

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "host/Arguments.h"
+
+#include "nyxrender/Ids.h"
+#include "nyxrender/nyxColor.h"
+#include "zcore/ZColor.h"
+#include "zsg/colors/MultiColorPair.h"
+
+#include <string>
+#include <vector>
+
+namespace app {
+
+class Host;
+
+// Words that name colours and colorways: an id, or the name that a record of the scene has. They
+// throw CommandError when there is no such record; an id is taken as it is with '=' before it
+// ("=4711"), so that scripts can ask for what does not exist.
+
+nyx::ColorId takeColor(Host& host, Arguments& arguments, char const* expected = "a colour");
+nyx::ColorwayId takeColorway(Host& host, Arguments& arguments);
+/// All remaining words.
+std::vector<nyx::ColorId> takeColors(Host& host, Arguments& arguments);
+/// All remaining words, each MULTI:SUB.
+std::vector<zsg::MultiColorPair> takePairs(Host& host, Arguments& arguments);
+/// Three components, and alpha when a fourth number follows.
+nyxColor_rgba takeRgba(Arguments& arguments);
+
+/// A line about a colour: id, swatch, name.
+std::string colorLine(Host& host, nyx::ColorId id);
+/// "#rrggbb", clamped; with a coloured block before it when the output is a terminal.
+std::string swatch(nyxColor_rgba const& color);
+
+} // namespace app

@@ -1,0 +1,84 @@
+#include "host/CommandTable.h"
+
+#include "host/Host.h"
+#include "host/printable.h"
+
+#include <algorithm>
+
+namespace app {
+
+#define APP_FAMILY(word) Family word##Family();
+#include "families.inc"
+#undef APP_FAMILY
+
+namespace {
+
+constexpr std::size_t mostWords = 3;
+
+std::vector<Command const*> sorted() {
+    std::vector<Command const*> commands;
+    for (Family const& family : families()) {
+        for (Command const& command : family.commands) {
+            commands.push_back(&command);
+        }
+    }
+    std::ranges::sort(commands, {}, &Command::name);
+    return commands;
+}
+
+struct Found {
+    Command const* command = nullptr;
+    std::size_t words = 0;
+};
+
+Found find(std::vector<std::string> const& words) {
+    Found result;
+    std::string name;
+    for (std::size_t i = 0; i < std::min(words.size(), mostWords); ++i) {
+        name += (i == 0 ? "" : " ") + words[i];
+        auto const found = std::ranges::lower_bound(allCommands(), name, {}, &Command::name);
+        if (found != allCommands().end() && (*found)->name == name) {
+            result = {*found, i + 1};
+        }
+    }
+    return result;
+}
+
+} // namespace
+
+std::vector<Family> const& families() {
+    static std::vector<Family> const list = {
+#define APP_FAMILY(word) word##Family(),
+#include "families.inc"
+#undef APP_FAMILY
+    };
+    return list;
+}
+
+std::vector<Command const*> const& allCommands() {
+    static std::vector<Command const*> const commands = sorted();
+    return commands;
+}
+
+void carryOut(Host& host, std::vector<std::string> const& words) {
+    auto const [command, used] = find(words);
+    if (command == nullptr) {
+        std::string const start = words[0] + (words.size() > 1 ? ' ' + words[1] : std::string());
+        throw CommandError("unknown command \"" + printable(start, longestWord) +
+                           "\"; \"help\" lists them");
+    }
+    Arguments arguments({words.begin() + static_cast<std::ptrdiff_t>(used), words.end()});
+    try {
+        if (command->arguments.empty()) {
+            arguments.done();
+        }
+        command->run(host, arguments);
+        arguments.done();
+    } catch (std::exception const& error) {
+        host.pump();
+        throw CommandError(std::string(command->name) + ": " + error.what());
+    }
+    host.pump();
+}
+
+} // namespace app

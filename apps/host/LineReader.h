@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstddef>
+#include <iosfwd>
+#include <string>
+
+namespace app {
+
+/// The longest line that is taken; what is longer is no command but a wrong file.
+inline constexpr std::size_t longestLine = std::size_t{1} << 20;
+
+enum class ReadResult { Line, TooLong, End };
+
+/// Reads a line without its end. Of one that is too long nothing is kept, and reading goes on
+/// behind it.
+ReadResult readLine(std::istream& in, std::string& line);
+
+} // namespace app

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "host/Arguments.h"
+#include "host/Host.h"
+
+#include <map>
+#include <string>
+
+namespace app {
+
+/// The values of one type that commands have given a name.
+template <class T>
+struct NamedValues {
+    std::map<std::string, T> byName;
+};
+
+/// The value that the next word names; throws CommandError when there is none.
+template <class T>
+T& takeNamed(Host& host, Arguments& arguments, char const* what) {
+    std::string const name = arguments.word(what);
+    auto& values = host.state<NamedValues<T>>().byName;
+    auto const found = values.find(name);
+    if (found == values.end()) {
+        throw CommandError("there is no \"" + name + "\"");
+    }
+    return found->second;
+}
+
+/// Gives a value a name, in place of what had it.
+template <class T>
+void keepNamed(Host& host, std::string const& name, T value) {
+    host.state<NamedValues<T>>().byName.insert_or_assign(name, std::move(value));
+}
+
+} // namespace app

@@ -1,0 +1,142 @@
+#include "host/Picture.h"
+
+#include "host/Arguments.h"
+
+#include <QColor>
+#include <QImage>
+#include <QPainter>
+#include <QPolygonF>
+
+#include <algorithm>
+#include <fstream>
+#include <sstream>
+
+namespace app {
+
+namespace {
+
+QColor qtColor(nyxColor_rgba const& c) {
+    auto const unit = [](float v) { return v > 0 ? std::min(v, 1.0f) : 0.0f; };
+    return QColor::fromRgbF(unit(c.r), unit(c.g), unit(c.b), unit(c.a));
+}
+
+std::string paint(char const* attribute, nyxColor_rgba const& c) {
+    QColor const color = qtColor(c);
+    std::string text = std::string(attribute) + "=\"" + color.name().toStdString() + '"';
+    if (c.a < 1) {
+        text += ' ' + std::string(attribute) + "-opacity=\"" + std::to_string(color.alphaF()) + '"';
+    }
+    return text;
+}
+
+std::string escaped(std::string const& text) {
+    return QString::fromStdString(text).toHtmlEscaped().toStdString();
+}
+
+} // namespace
+
+void Picture::rectangle(Point corner, double width, double height, nyxColor_rgba const& fill) {
+    shapes_.push_back({Shape::Rectangle, {corner}, width, height, fill, {}});
+}
+
+void Picture::line(std::vector<Point> points, nyxColor_rgba const& stroke, double width) {
+    shapes_.push_back({Shape::Line, std::move(points), width, 0, stroke, {}});
+}
+
+void Picture::circle(Point center, double radius, nyxColor_rgba const& fill) {
+    shapes_.push_back({Shape::Circle, {center}, radius, 0, fill, {}});
+}
+
+void Picture::text(Point baseline, std::string text) {
+    shapes_.push_back({Shape::Text, {baseline}, 0, 0, ink::black, std::move(text)});
+}
+
+std::string Picture::svg() const {
+    std::ostringstream out;
+    out << R"(<svg xmlns="http://www.w3.org/2000/svg" width=")" << width_ << R"(" height=")"
+        << height_ << "\">\n"
+        << R"(<rect width="100%" height="100%" fill="#ffffff"/>)" << '\n';
+    for (Shape const& s : shapes_) {
+        Point const p = s.points.empty() ? Point{} : s.points.front();
+        switch (s.kind) {
+        case Shape::Rectangle:
+            out << "<rect x=\"" << p.x << "\" y=\"" << p.y << "\" width=\"" << s.width
+                << "\" height=\"" << s.height << "\" " << paint("fill", s.color) << "/>\n";
+            break;
+        case Shape::Line:
+            out << R"(<polyline fill="none" )" << paint("stroke", s.color) << " stroke-width=\""
+                << s.width << "\" points=\"";
+            for (Point const& point : s.points) {
+                out << point.x << ',' << point.y << ' ';
+            }
+            out << "\"/>\n";
+            break;
+        case Shape::Circle:
+            out << "<circle cx=\"" << p.x << "\" cy=\"" << p.y << "\" r=\"" << s.width << "\" "
+                << paint("fill", s.color) << "/>\n";
+            break;
+        case Shape::Text:
+            out << "<text x=\"" << p.x << "\" y=\"" << p.y
+                << R"(" font-family="sans-serif" font-size="12">)" << escaped(s.text)
+                << "</text>\n";
+            break;
+        }
+    }
+    out << "</svg>\n";
+    return out.str();
+}
+
+void Picture::save(std::string const& path) const {
+    if (path.ends_with(".png")) {
+        return savePng(path);
+    }
+    if (!path.ends_with(".svg")) {
+        throw CommandError("expected a path that ends in .svg or .png");
+    }
+    std::ofstream out(path, std::ios::binary);
+    out << svg();
+    out.close();
+    if (!out) {
+        throw CommandError(path + ": cannot be written");
+    }
+}
+
+void Picture::savePng(std::string const& path) const {
+    QImage image(static_cast<int>(width_), static_cast<int>(height_), QImage::Format_ARGB32);
+    if (image.isNull()) {
+        throw CommandError("the picture is too large");
+    }
+    image.fill(Qt::white);
+    {
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        for (Shape const& s : shapes_) {
+            QPolygonF points;
+            for (Point const& p : s.points) {
+                points << QPointF(p.x, p.y);
+            }
+            switch (s.kind) {
+            case Shape::Rectangle:
+                painter.fillRect(QRectF(points.first(), QSizeF(s.width, s.height)),
+                                 qtColor(s.color));
+                break;
+            case Shape::Line:
+                painter.setPen(QPen(qtColor(s.color), s.width));
+                painter.drawPolyline(points);
+                break;
+            case Shape::Circle:
+                painter.setPen(Qt::NoPen);
+                painter.setBrush(qtColor(s.color));
+                painter.drawEllipse(points.first(), s.width, s.width);
+                break;
+            case Shape::Text:
+                break;
+            }
+        }
+    }
+    if (!image.save(QString::fromStdString(path), "PNG")) {
+        throw CommandError(path + ": cannot be written");
+    }
+}
+
+} // namespace app

@@ -1,0 +1,132 @@
+#include "host/ValueText.h"
+
+#include "host/ColorArguments.h"
+
+#include "zsg/values/ValueVariant.h"
+
+namespace app {
+
+namespace {
+
+using zsg::Type;
+
+float takeFloat(Arguments& arguments) { return static_cast<float>(arguments.real("a number")); }
+
+nyxColor takeTriplet(Arguments& arguments) {
+    nyxColor color;
+    color.r = takeFloat(arguments);
+    color.g = takeFloat(arguments);
+    color.b = takeFloat(arguments);
+    return color;
+}
+
+// LABEL... [select N]; the ids count from 0.
+zsg::Enumerable takeEnumerable(Arguments& arguments) {
+    zsg::Enumerable options;
+    while (!arguments.empty()) {
+        if (arguments.flag("select")) {
+            options.setSelection(arguments.integer("a selection"));
+        } else {
+            options.append({static_cast<int>(options.size()),
+                            QString::fromStdString(arguments.word("a label"))});
+        }
+    }
+    return options;
+}
+
+} // namespace
+
+void withValue(Type type, Arguments& arguments, std::function<void(void const*)> const& use) {
+    auto const hand = [&](auto value) {
+        arguments.done();
+        use(&value);
+    };
+    switch (type) {
+    case Type::Boolean:
+        return hand(arguments.onOff());
+    case Type::Integer:
+        return hand(arguments.integer("a whole number"));
+    case Type::IntegerList: {
+        QList<int> list;
+        while (!arguments.empty()) {
+            list.append(arguments.integer("a whole number"));
+        }
+        return hand(list);
+    }
+    case Type::Float:
+        return hand(takeFloat(arguments));
+    case Type::Float2: {
+        float const x = takeFloat(arguments);
+        return hand(nyxVector2f{x, takeFloat(arguments)});
+    }
+    case Type::Float3: {
+        nyxColor const c = takeTriplet(arguments);
+        return hand(nyxVectorf{c.r, c.g, c.b});
+    }
+    case Type::Double:
+        return hand(arguments.real("a number"));
+    case Type::Double3: {
+        nyxVector v;
+        v.x = arguments.real("a number");
+        v.y = arguments.real("a number");
+        v.z = arguments.real("a number");
+        return hand(v);
+    }
+    case Type::String:
+        return hand(QString::fromStdString(arguments.word("a text")));
+    case Type::StringList: {
+        QList<QString> list;
+        for (std::string const& word : arguments.rest()) {
+            list.append(QString::fromStdString(word));
+        }
+        return hand(list);
+    }
+    case Type::FilePath:
+        return hand(zsg::FilePath(QString::fromStdString(arguments.word("a path"))));
+    case Type::Matrix: {
+        nyxMatrix matrix;
+        for (double& m : matrix.m) {
+            m = arguments.real("sixteen numbers");
+        }
+        return hand(matrix);
+    }
+    case Type::Color: {
+        nyxColor_rgba const c = takeRgba(arguments);
+        return hand(ZColorExt(c.r, c.g, c.b, c.a));
+    }
+    case Type::ColorAlpha: {
+        nyxColor_rgba const c = takeRgba(arguments);
+        return hand(ZColorExtAlpha(c.r, c.g, c.b, c.a));
+    }
+    case Type::FloatArray: {
+        zsg::FloatArray list;
+        while (!arguments.empty()) {
+            list.append(takeFloat(arguments));
+        }
+        return hand(list);
+    }
+    case Type::AxaltaColor: {
+        nyxColor const a = takeTriplet(arguments);
+        nyxColor const b = takeTriplet(arguments);
+        return hand(zsg::AxaltaColor(a, b, takeTriplet(arguments)));
+    }
+    case Type::Enumerable:
+        return hand(takeEnumerable(arguments));
+    default:
+        throw CommandError(std::string("a ") + zsg::typeName(type) +
+                           " is not written in words; use its own commands");
+    }
+}
+
+Type takeType(Arguments& arguments) {
+    std::string const name = arguments.word("a type");
+#define APP_TYPE(member, number, T)                                                                \
+    if (name == #member) {                                                                         \
+        return Type::member;                                                                       \
+    }
+    ZSG_VALUE_TYPES(APP_TYPE)
+#undef APP_TYPE
+    throw CommandError("\"" + name + "\" is no type of a value");
+}
+
+} // namespace app

@@ -1,0 +1,130 @@
+#include "host/Command.h"
+#include "host/Host.h"
+#include "host/ValueText.h"
+
+#include "zsg/values/Parameter.h"
+#include "zsg/values/ParameterData.h"
+#include "zsg/values/ValueVariant.h"
+
+#include <QCoreApplication>
+
+#include <ostream>
+
+namespace app {
+
+namespace {
+
+using zsg::Parameter;
+using zsg::Type;
+
+/// A panel of settings as an application shows it: every kind of flag, limit and hint once.
+struct Panel {
+    std::vector<Parameter> parameters;
+
+    Panel() {
+        auto const builder = [](char const* name, char const* label) {
+            return Parameter::Builder(QString::fromLatin1(name), QString::fromLatin1(label));
+        };
+        parameters = {
+            builder("size", "Size").setType(Type::Float).setHint("-spin,0,10,0.5-\n"),
+            builder("opacity", "Opacity").setType(Type::Float).setHint("-range,0,100-\n"),
+            builder("steps", "Steps").setType(Type::Integer).setHint("-limits,1,8-\n"),
+            builder("broken", "Broken").setType(Type::Float).setHint("-spin,0,10-\n-range,0,5-\n"),
+            builder("temperature", "Temperature").setType(Type::Float).setHint("-kelvin-"),
+            builder("angle", "Angle").setType(Type::Float).setQuantity(zsg::Quantity::Angle),
+            builder("percent", "Percent")
+                .setType(Type::Float)
+                .setHasLimits(true)
+                .setMinimum(0)
+                .setMaximum(100)
+                .setQuantity(zsg::Quantity::Percent),
+            builder("locked", "Locked").setType(Type::Boolean).setEnabled(false),
+            builder("color", "Color").setType(Type::Color),
+            builder("tint", "Tint").setType(Type::ColorAlpha),
+            builder("name", "Name").setType(Type::String).setToolTip("What it is called"),
+            builder("weave", "Weave").setType(Type::WeavePattern),
+            builder("linked", "Linked")
+                .setType(Type::Integer)
+                .setFlags(Parameter::Bit9 | Parameter::Bit12),
+            builder("surface", "Surface").setType(Type::ShaderSurface),
+            builder("shader", "Shader").setType(Type::ShaderBase),
+        };
+    }
+};
+
+Parameter take(Host& host, Arguments& arguments) {
+    QString const name = QString::fromStdString(arguments.word("a parameter"));
+    for (Parameter const& parameter : host.state<Panel>().parameters) {
+        if (parameter.name() == name) {
+            return parameter;
+        }
+    }
+    throw CommandError("there is no parameter \"" + name.toStdString() + "\"");
+}
+
+void list(Host& host, Arguments&) {
+    for (Parameter const& parameter : host.state<Panel>().parameters) {
+        host.out() << "  ";
+        if (parameter.isValid()) {
+            host.out() << parameter;
+        } else {
+            host.out() << parameter.name().toStdString() << " is invalid";
+        }
+        host.out() << '\n';
+    }
+}
+
+void show(Host& host, Arguments& arguments) {
+    Parameter const p = take(host, arguments);
+    arguments.done();
+    host.out() << "  " << p.displayName().toStdString() << ", " << zsg::typeName(p.type())
+               << ", flags 0x" << std::hex << p.flags().toInt() << std::dec << ", quantity "
+               << static_cast<int>(p.quantity()) << (p.isValid() ? "" : ", invalid")
+               << (p.isEnabled() ? "" : ", disabled") << (p.isPure() ? ", pure" : "")
+               << (p.useKelvin() ? ", in kelvin" : "") << '\n';
+    float low = 0;
+    float high = 0;
+    int lowest = 0;
+    int highest = 0;
+    if (p.limits(lowest, highest)) {
+        host.out() << "  limits " << lowest << " to " << highest << '\n';
+    } else if (p.limits(low, high)) {
+        host.out() << "  limits " << low << " to " << high << '\n';
+    }
+    if (p.sliderRange(low, high)) {
+        host.out() << "  slider " << low << " to " << high << '\n';
+    }
+}
+
+void set(Host& host, Arguments& arguments) {
+    Parameter parameter = take(host, arguments);
+    bool changed = false;
+    if (!parameter.isValid() || parameter.isPure()) {
+        throw CommandError("the parameter has no value");
+    }
+    withValue(parameter.type(), arguments, [&](void const* value) {
+        switch (parameter.type()) {
+#define APP_SET(member, number, T)                                                                 \
+    case Type::member:                                                                             \
+        changed = parameter.setValue(*static_cast<T const*>(value));                               \
+        break;
+            ZSG_VALUE_TYPES(APP_SET)
+#undef APP_SET
+        default:
+            break;
+        }
+    });
+    host.out() << (changed ? "  changed\n" : "  unchanged\n");
+}
+
+constexpr Command table[] = {
+    {"param list", "", "list the demonstration panel", list},
+    {"param show", "PARAM", "flags, limits and ranges of a parameter", show},
+    {"param set", "PARAM WORDS...", "set its value and say whether it changed", set},
+};
+
+} // namespace
+
+Family paramFamily() { return {"a demonstration panel of parameters", table}; }
+
+} // namespace app

@@ -1,0 +1,91 @@
+#include "host/Command.h"
+#include "host/NamedValues.h"
+#include "host/ValueText.h"
+
+#include "zsg/values/ValueVariant.h"
+#include "zsg/values/hash_variant.h"
+
+#include <memory>
+#include <ostream>
+
+namespace app {
+
+namespace {
+
+using Holder = std::shared_ptr<zsg::Variant>;
+
+Holder& take(Host& host, Arguments& arguments) {
+    return takeNamed<Holder>(host, arguments, "a value");
+}
+
+void print(Host& host, zsg::Variant const& value) {
+    host.out() << "  " << zsg::typeName(value.type()) << ' ' << value << '\n';
+}
+
+void make(Host& host, Arguments& arguments) {
+    std::string const name = arguments.word("a name");
+    Holder holder(zsg::makeVariant(takeType(arguments)));
+    if (!arguments.empty()) {
+        withValue(holder->type(), arguments, [&](void const* value) { holder->set(value); });
+    }
+    keepNamed(host, name, holder);
+    print(host, *holder);
+}
+
+void set(Host& host, Arguments& arguments) {
+    Holder const holder = take(host, arguments);
+    withValue(holder->type(), arguments, [&](void const* value) {
+        host.out() << (holder->set(value) ? "  changed\n" : "  unchanged\n");
+    });
+}
+
+void show(Host& host, Arguments& arguments) {
+    Holder const holder = take(host, arguments);
+    arguments.done();
+    print(host, *holder);
+}
+
+void hash(Host& host, Arguments& arguments) {
+    Holder const holder = take(host, arguments);
+    arguments.done();
+    host.out() << std::hex << zsg::hash_variant(holder.get()) << std::dec << '\n';
+}
+
+void clone(Host& host, Arguments& arguments) {
+    Holder const source = take(host, arguments);
+    std::string const name = arguments.word("a name");
+    arguments.done();
+    keepNamed(host, name, Holder(source->cloneValue()));
+}
+
+void copy(Host& host, Arguments& arguments) {
+    Holder const from = take(host, arguments);
+    Holder const to = take(host, arguments);
+    arguments.done();
+    if (from->type() != to->type()) {
+        throw CommandError("the two are of different types");
+    }
+    host.out() << (from->copyTo(*to) ? "  changed\n" : "  unchanged\n");
+}
+
+void types(Host& host, Arguments&) {
+    for (int type = 0; type <= static_cast<int>(zsg::Type::Enumerable); ++type) {
+        host.out() << "  " << type << ' ' << zsg::typeName(static_cast<zsg::Type>(type)) << '\n';
+    }
+}
+
+constexpr Command table[] = {
+    {"value make", "NAME TYPE [VALUE]", "make a holder with its default, or a value", make},
+    {"value set", "VALUE WORDS...", "set it and say whether it changed", set},
+    {"value print", "VALUE", "print it", show},
+    {"value hash", "VALUE", "print its hash", hash},
+    {"value clone", "VALUE NAME", "make a copy", clone},
+    {"value copy", "FROM TO", "copy one into another of the same type", copy},
+    {"value types", "", "list the types", types},
+};
+
+} // namespace
+
+Family valueFamily() { return {"holders of values", table}; }
+
+} // namespace app

@@ -1,0 +1,254 @@
+#include "host/Command.h"
+#include "host/NamedValues.h"
+#include "host/Picture.h"
+
+#include "nyxrender/WeavePattern.h"
+#include "zsg/values/WeavePattern.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iomanip>
+#include <iostream>
+#include <sstream>
+
+namespace app {
+
+namespace {
+
+using zsg::WeavePattern;
+
+constexpr int largestSide = 4096;
+constexpr int largestDrawnSide = 512;
+
+WeavePattern& take(Host& host, Arguments& arguments) {
+    return takeNamed<WeavePattern>(host, arguments, "a weave");
+}
+
+int side(Arguments& arguments, char const* expected) {
+    int const n = arguments.integer(expected);
+    if (n < 1 || n > largestSide) {
+        throw CommandError("expected " + std::string(expected) + " of 1 to " +
+                           std::to_string(largestSide));
+    }
+    return n;
+}
+
+WeavePattern::YarnType yarn(Arguments& arguments) {
+    return arguments.oneOf({"warp", "weft"}) == "warp" ? WeavePattern::Warp : WeavePattern::Weft;
+}
+
+WeavePattern takeWeave(Arguments& arguments) {
+    std::string const kind =
+        arguments.oneOf({"plain", "twill", "satin", "basket", "herringbone", "empty"});
+    if (kind == "plain") {
+        return WeavePattern::makePlain();
+    }
+    if (kind == "twill") {
+        int const n = side(arguments, "a repeat");
+        return WeavePattern::makeTwill(n, arguments.integer("a band width"));
+    }
+    if (kind == "satin") {
+        int const n = side(arguments, "a repeat");
+        return WeavePattern::makeSatin(n, arguments.integer("a step"));
+    }
+    if (kind == "basket") {
+        return WeavePattern::makeBasket(side(arguments, "a block size"));
+    }
+    if (kind == "herringbone") {
+        return WeavePattern::makeHerringbone();
+    }
+    WeavePattern weave;
+    int const columns = side(arguments, "a number of warps");
+    weave.setSize(columns, side(arguments, "a number of wefts"));
+    return weave;
+}
+
+void make(Host& host, Arguments& arguments) {
+    std::string const name = arguments.word("a name");
+    WeavePattern const weave = takeWeave(arguments);
+    arguments.done();
+    keepNamed(host, name, weave);
+}
+
+void show(Host& host, Arguments& arguments) {
+    WeavePattern const& weave = take(host, arguments);
+    arguments.done();
+    for (int y = 0; y < weave.numWeft(); ++y) {
+        host.out() << "  ";
+        for (int x = 0; x < weave.numWarp(); ++x) {
+            host.out() << (weave.get(x, y) == WeavePattern::Warp ? "##" : "..");
+        }
+        host.out() << '\n';
+    }
+    for (auto const type : {WeavePattern::Warp, WeavePattern::Weft}) {
+        host.out() << (type == WeavePattern::Warp ? "  warp" : "  weft") << " width "
+                   << weave.width(type) << ", tension " << weave.tension(type) << ", "
+                   << (weave.kind(type) == WeavePattern::Round ? "round" : "ribbon") << '\n';
+    }
+}
+
+void set(Host& host, Arguments& arguments) {
+    WeavePattern& weave = take(host, arguments);
+    int const x = arguments.integer("a column");
+    int const y = arguments.integer("a row");
+    auto const type = yarn(arguments);
+    arguments.done();
+    weave.set(x, y, type);
+}
+
+void flip(Host& host, Arguments& arguments) {
+    WeavePattern& weave = take(host, arguments);
+    int const x = arguments.integer("a column");
+    int const y = arguments.integer("a row");
+    arguments.done();
+    weave.flip(x, y);
+}
+
+void invert(Host& host, Arguments& arguments) {
+    WeavePattern& weave = take(host, arguments);
+    arguments.done();
+    weave.invert();
+}
+
+void size(Host& host, Arguments& arguments) {
+    WeavePattern& weave = take(host, arguments);
+    int const columns = side(arguments, "a number of warps");
+    int const rows = side(arguments, "a number of wefts");
+    arguments.done();
+    weave.setSize(columns, rows);
+}
+
+void setYarn(Host& host, Arguments& arguments) {
+    WeavePattern& weave = take(host, arguments);
+    auto const type = yarn(arguments);
+    std::string const what = arguments.oneOf({"width", "tension", "kind"});
+    if (what == "kind") {
+        bool const round = arguments.oneOf({"round", "ribbon"}) == "round";
+        arguments.done();
+        weave.setKind(type, round ? WeavePattern::Round : WeavePattern::Ribbon);
+        return;
+    }
+    auto const value = static_cast<float>(arguments.real("a number"));
+    arguments.done();
+    if (what == "width") {
+        weave.setWidth(type, value);
+    } else {
+        weave.setTension(type, value);
+    }
+}
+
+void json(Host& host, Arguments& arguments) {
+    WeavePattern const& weave = take(host, arguments);
+    arguments.done();
+    host.out() << weave.toJson().toStdString() << '\n';
+}
+
+void read(Host& host, Arguments& arguments) {
+    std::string const name = arguments.word("a name");
+    std::string const path = arguments.word("a path");
+    arguments.done();
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    if (!in) {
+        throw CommandError(path + ": cannot be read");
+    }
+    WeavePattern weave;
+    try {
+        if (!weave.setFromJson(QString::fromStdString(text.str()))) {
+            throw CommandError(path + ": is no weave pattern");
+        }
+    } catch (CommandError const&) {
+        throw;
+    } catch (std::exception const& error) {
+        throw CommandError(path + ": " + error.what());
+    }
+    keepNamed(host, name, weave);
+}
+
+/// The snippet goes to standard output, whatever ours is.
+void preset(Host& host, Arguments& arguments) {
+    WeavePattern const& weave = take(host, arguments);
+    arguments.done();
+    std::ostringstream text;
+    std::streamsize const precision = std::cout.precision();
+    std::streambuf* const before = std::cout.rdbuf(text.rdbuf());
+    weave.printPreset();
+    std::cout.rdbuf(before);
+    std::cout.precision(precision);
+    host.out() << text.str() << '\n';
+}
+
+void hash(Host& host, Arguments& arguments) {
+    WeavePattern const& weave = take(host, arguments);
+    arguments.done();
+    host.out() << std::hex << weave.hash() << std::dec << '\n';
+}
+
+void equal(Host& host, Arguments& arguments) {
+    WeavePattern const& a = take(host, arguments);
+    WeavePattern const& b = take(host, arguments);
+    arguments.done();
+    host.out() << (a.equals(b) ? "equal\n" : "different\n");
+}
+
+void save(Host& host, Arguments& arguments) {
+    WeavePattern const& weave = take(host, arguments);
+    std::string const path = arguments.word("a path");
+    arguments.done();
+    if (path.ends_with(".json")) {
+        std::ofstream out(path, std::ios::binary);
+        out << weave.toJson().toStdString();
+        out.close();
+        if (!out) {
+            throw CommandError(path + ": cannot be written");
+        }
+        return;
+    }
+    if (std::max(weave.numWarp(), weave.numWeft()) > largestDrawnSide) {
+        throw CommandError("the weave is too large to draw");
+    }
+    // A weaver's draft: black where the warp lies on top; at least two repeats to see the joints.
+    constexpr double cell = 12;
+    int const columns = weave.numWarp() > 64 ? weave.numWarp() : 2 * weave.numWarp();
+    int const rows = weave.numWeft() > 64 ? weave.numWeft() : 2 * weave.numWeft();
+    Picture picture(cell * columns, cell * rows);
+    for (int y = 0; y < rows; ++y) {
+        for (int x = 0; x < columns; ++x) {
+            picture.rectangle({cell * x + 0.5, cell * y + 0.5}, cell - 1, cell - 1,
+                              weave.get(x, y) == WeavePattern::Warp ? ink::black : ink::white);
+        }
+    }
+    for (int x = 0; x <= columns; ++x) {
+        picture.line({{cell * x, 0}, {cell * x, cell * rows}}, ink::grey,
+                     x % weave.numWarp() == 0 ? 2 : 0.5);
+    }
+    for (int y = 0; y <= rows; ++y) {
+        picture.line({{0, cell * y}, {cell * columns, cell * y}}, ink::grey,
+                     y % weave.numWeft() == 0 ? 2 : 0.5);
+    }
+    picture.save(path);
+}
+
+constexpr Command table[] = {
+    {"weave make", "NAME plain|twill N K|satin N STEP|basket N|herringbone|empty W H",
+     "make a weave", make},
+    {"weave show", "WEAVE", "draw it: ## warp on top, .. weft on top", show},
+    {"weave set", "WEAVE X Y warp|weft", "set a crossing", set},
+    {"weave flip", "WEAVE X Y", "turn a crossing over", flip},
+    {"weave invert", "WEAVE", "turn all crossings over", invert},
+    {"weave size", "WEAVE W H", "repeat or crop it", size},
+    {"weave yarn", "WEAVE warp|weft width|tension|kind VALUE", "change a yarn", setYarn},
+    {"weave json", "WEAVE", "print its JSON text", json},
+    {"weave read", "NAME PATH", "read a JSON text", read},
+    {"weave preset", "WEAVE", "print it as source text", preset},
+    {"weave hash", "WEAVE", "print its hash", hash},
+    {"weave equal", "WEAVE WEAVE", "compare two", equal},
+    {"weave save", "WEAVE PATH", "write a draft (.svg, .png) or its text (.json)", save},
+};
+
+} // namespace
+
+Family weaveFamily() { return {"weaves", table}; }
+
+} // namespace app
