@@ -1,18 +1,10 @@
-<<<<<<< ours
-#include "Interpreter.h"
-#include "Host.h"
-#include "IORLint.h"
-#include "JsonSession.h"
-#include "LineReader.h"
-#include "support/sourceDir.h"
-=======
 #include "host/Interpreter.h"
 #include "host/Arguments.h"
 #include "host/Host.h"
 #include "host/IORLint.h"
 #include "host/JsonSession.h"
 #include "host/LineReader.h"
->>>>>>> theirs
+#include "support/sourceDir.h"
 
 #include <gmock/gmock.h>
 
