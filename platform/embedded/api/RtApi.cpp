@@ -139,14 +139,21 @@ nyxParameter_edit* RtApi::clone_color_params(nyxParameter_edit const* block, boo
 void RtApi::change_layer_lights(nyx::LightLayerId layer, nyx::Span<nyx::ObjectId> lights,
                                 int operation) {
     scene_.journal().write("change_layer_lights", layer, lights, operation);
+    if (operation == 0) {
+        scene_.lights().put(lights, layer);
+    } else if (operation == 1) {
+        scene_.lights().take(lights, layer);
+    }
 }
 
 void RtApi::assign_layer_lights(nyx::LightLayerId layer, nyx::Span<nyx::ObjectId> lights) {
     scene_.journal().write("assign_layer_lights", layer, lights);
+    scene_.lights().put(lights, layer);
 }
 
 void RtApi::set_layer_flags(nyx::LightLayerId layer, nyx::Flags<layerFlags> flags) {
     scene_.journal().write("set_layer_flags", layer, flags.bits());
+    scene_.lightLayers().setFlags(layer, flags);
 }
 
 void RtApi::update_brush_node(nyx::painter::nyxBrush_node*) {

@@ -37,11 +37,11 @@ public:
     [[nodiscard]] nyxParameter_edit* clone_color_params(nyxParameter_edit const* block,
                                                         bool copy_values) override;
 
-    // This renderer has no light layers and no brushes: these calls are journalled and ignored.
     void change_layer_lights(nyx::LightLayerId layer, nyx::Span<nyx::ObjectId> lights,
                              int operation) override;
     void assign_layer_lights(nyx::LightLayerId layer, nyx::Span<nyx::ObjectId> lights) override;
     void set_layer_flags(nyx::LightLayerId layer, nyx::Flags<layerFlags> flags) override;
+    /// This renderer has no brushes: the call is journalled and ignored.
     void update_brush_node(nyx::painter::nyxBrush_node* node) override;
 
     void call_after_sync(std::function<void()> function) override;

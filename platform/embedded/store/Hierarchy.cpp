@@ -7,6 +7,7 @@
 namespace nyx::embedded {
 
 void Hierarchy::walk(std::function<void(nyxGroup_item const&)> const& visit) const {
+    scene_.journal().write("walk");
     // With a stack of its own: a file may nest groups deeper than calls may.
     std::vector<nyxGroup_item const*> waiting(scene_.topItems().rbegin(), scene_.topItems().rend());
     while (!waiting.empty()) {

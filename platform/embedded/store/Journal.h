@@ -12,13 +12,14 @@ namespace nyx::embedded {
 class Journal {
 public:
     void setRecording(bool on) { recording_.store(on, std::memory_order_relaxed); }
+    [[nodiscard]] bool isRecording() const { return recording_.load(std::memory_order_relaxed); }
     [[nodiscard]] std::vector<std::string> take();
 
     /// Appends one line made of the parts with blanks between them; texts are JSON strings, ids and
     /// numbers are written as decimals, lists in brackets. Costs one branch while recording is off.
     template <class... Parts>
     void write(char const* call, Parts const&... parts) {
-        if (recording_.load(std::memory_order_relaxed)) {
+        if (isRecording()) {
             std::string line = call;
             (append(line, parts), ...);
             push(std::move(line));

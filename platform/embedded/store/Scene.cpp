@@ -22,7 +22,10 @@ IdType idFor(RecordStore<Record> const& store, IdType wanted) {
 } // namespace
 
 nyxScene::nyxScene()
-    : api_(std::make_unique<SceneApi>(*this)), hierarchy_(std::make_unique<Hierarchy>(*this)) {}
+    : api_(std::make_unique<SceneApi>(*this)),
+      hierarchy_(std::make_unique<Hierarchy>(*this)),
+      lights_(std::make_unique<SceneLights>(
+          *this, std::unique_ptr<nyxLight_layer_db>(new nyxLight_layer_db(*this)))) {}
 
 nyxScene::~nyxScene() = default;
 
@@ -368,6 +371,9 @@ nyx::GroupItemId nyxScene::addItem(ItemRecord record) {
     (parent == nullptr ? contents_.topItems : parent->childItems).push_back(added);
     if (added->record.material.isValid()) {
         ++contents_.objectsOfMaterial[added->record.material];
+    }
+    if (added->is_light()) {
+        lights_->put({added->object_id()}, LightLayers::defaultLayer);
     }
     return id;
 }

@@ -5,9 +5,11 @@
 #include "nyxrender/nyxScene_hierarchy.h"
 #include "store/IdList.h"
 #include "store/Journal.h"
+#include "store/LightLayers.h"
 #include "store/NameIndex.h"
 #include "store/RecordStore.h"
 #include "store/Records.h"
+#include "store/SceneLights.h"
 #include "store/StringPool.h"
 #include "store/UseIndex.h"
 
@@ -124,6 +126,14 @@ public:
     [[nodiscard]] nyx::GroupItemId nextItemId() const;
     [[nodiscard]] std::vector<nyxGroup_item*> const& topItems() const { return contents_.topItems; }
 
+    // Light layers. lights() keeps the two together; a new light is in the default layer.
+
+    [[nodiscard]] nyx::embedded::LightLayers& lightLayers() { return contents_.lightLayers; }
+    [[nodiscard]] nyx::embedded::LightLayers const& lightLayers() const {
+        return contents_.lightLayers;
+    }
+    [[nodiscard]] nyx::embedded::SceneLights& lights() const { return *lights_; }
+
     /// Keeps the ids below these from being given out.
     void skipIdsBelow(nyx::ColorId color, nyx::ColorwayId colorway, nyx::MaterialId material,
                       nyx::GroupItemId item) {
@@ -153,6 +163,7 @@ private:
         nyx::embedded::RecordStore<nyxMaterial> materials;
         nyx::embedded::RecordStore<nyx::embedded::GroupItem> items;
         std::vector<nyxGroup_item*> topItems;
+        nyx::embedded::LightLayers lightLayers = nyx::embedded::LightLayers::forScene();
         std::unordered_map<nyx::MaterialId, unsigned> objectsOfMaterial;
         nyx::embedded::IdList plainColors;
         nyx::embedded::IdList multiColors;
@@ -186,4 +197,5 @@ private:
     nyx::embedded::Faults faults_;
     std::unique_ptr<nyxScene_api> api_;
     std::unique_ptr<nyxScene_hierarchy> hierarchy_;
+    std::unique_ptr<nyx::embedded::SceneLights> lights_;
 };

@@ -13,9 +13,14 @@
 
 class nyxScene;
 
-/// The light layers of a scene: named, flagged groups of lights, one bit of a 32-bit mask each.
-/// A deleted layer keeps its id, name, flags and mask but is neither listed nor counted. The
-/// virtual operations never call each other.
+/// The light layers of a scene, or a copy of them: named, flagged groups of lights, one bit of a
+/// 32-bit mask each. A deleted layer keeps its id, name, flags and mask but is neither listed nor
+/// counted; clearing its mark brings it back. A light is in at most one layer. Unknown layers are
+/// ignored and answer with nothing, null texts count as empty. The virtual operations never call
+/// each other. Main thread.
+///
+/// In the database of a scene only the scene's lights can be in a layer, each always is in one, and
+/// its shader's mask follows every change.
 class NYXRENDER_EXPORT nyxLight_layer_db {
 public:
     /// Without any layer.
@@ -27,22 +32,27 @@ public:
     /// A new layer; an invalid `wanted` lets the database choose the id. Returns the invalid id
     /// when all 32 layers are taken or `wanted` is already in use.
     virtual nyx::LightLayerId create_layer(char const* name, nyx::LightLayerId wanted);
-    /// Marks the layer with layerFlags::Deleted and moves its lights to layer 1.
+    /// Marks the layer with layerFlags::Deleted and moves its lights to layer 1, which itself
+    /// cannot be deleted.
     virtual void delete_layer(nyx::LightLayerId id);
-    /// The same, for the database of a scene: its lights' shaders follow.
+    /// The same, and the shaders of these lights in `scene` follow.
     virtual void delete_n_remap_layer(nyxScene& scene, nyx::LightLayerId id);
-    /// Gives `target` the flags of `source`.
+    /// Gives `target` the flags of `source`, but not the mark of a deleted layer, and a numbered
+    /// form of its name. The lights stay where they are.
     virtual void clone_layer(nyx::LightLayerId target, nyx::LightLayerId source);
-    /// A light is in exactly one layer: adding takes it out of the others, removing puts it into
-    /// layer 1.
+    /// Adding takes the lights out of their other layer; removing puts those that are in this layer
+    /// into layer 1.
     virtual void add_lights(nyx::Span<nyx::ObjectId> lights, nyx::LightLayerId id);
     virtual void remove_lights(nyx::Span<nyx::ObjectId> lights, nyx::LightLayerId id);
+    /// In place of all that it had.
     virtual void set_flags(nyx::LightLayerId id, nyx::Flags<layerFlags> flags);
     [[nodiscard]] virtual nyx::Flags<layerFlags> flags(nyx::LightLayerId id) const;
     [[nodiscard]] virtual std::uint32_t layer_bitmask(nyx::LightLayerId id) const;
+    /// The invalid id when no layer has exactly this mask.
     [[nodiscard]] virtual nyx::LightLayerId layer_id_from_mask(std::uint32_t mask) const;
+    /// The layers that the environment's light is in.
     [[nodiscard]] virtual std::uint32_t environment_light_mask() const;
-    /// A name that no layer has, deleted ones included: the text itself, or with a number appended.
+    /// A name that no layer has, deleted ones included: the text itself, or a numbered form of it.
     [[nodiscard]] virtual std::string find_unique_name(char const* text) const;
     /// Null for an unknown layer. Valid until the layer is renamed.
     [[nodiscard]] virtual char const* get_layer_name(nyx::LightLayerId id) const;
@@ -57,6 +67,10 @@ public:
     [[nodiscard]] virtual unsigned get_layer_count() const;
 
 private:
+    friend class nyxScene;
+    /// The one of a scene, made and owned by it.
+    explicit nyxLight_layer_db(nyxScene& scene);
+
     struct Data;
     std::unique_ptr<Data> data_;
 };
