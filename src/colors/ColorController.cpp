@@ -1,6 +1,7 @@
 #include "zsg/colors/ColorController.h"
 
 #include "colors/ColorCommands.h"
+#include "colors/colorwayAccess.h"
 #include "colors/subColorEdits.h"
 #include "zcore/ZUndoStack.h"
 #include "zsg/colors/ColorDB.h"
@@ -32,8 +33,6 @@ bool differ(nyxColor_rgba const& a, nyxColor_rgba const& b) {
 }
 
 } // namespace
-
-IColorController::~IColorController() = default;
 
 ColorController::ColorController(ColorDB* colorDB, ISceneMaterialManager* materialManager,
                                  ZUndoStack* undoStack)
@@ -211,7 +210,8 @@ void ColorController::setActiveSubColor(nyx::ColorId multi, nyx::ColorId sub) co
 void ColorController::changeSubColor(nyx::ColorId multi, nyx::ColorId oldSub, nyx::ColorId newSub) {
     ZColorExtEdit const* const edit = multiColorEdit(multi);
     if (edit && oldSub != newSub && !edit->hasSubColor(newSub)) {
-        // Of the kind that merges, like a change of the colour itself.
+        // As "Set Color": trying sub-colours one after the other in a picker becomes one step, as
+        // a drag does.
         pushEdit(static_cast<int>(ColorEditKind::Color), *edit,
                  [&](ZColorExtEdit& after) { after.replaceSubColor(oldSub, newSub); });
     }
@@ -223,14 +223,10 @@ bool ColorController::removeSubColors(nyx::ColorId multi, nyx::Span<nyx::ColorId
         return false;
     }
     SubColorRemoval const removal = withoutSubColors(edit->subColors(), subs, edit->activeSub());
-    std::vector<nyx::ColorwayId> affected;
-    for (nyx::ColorwayId const colorway : colorDB_->colorways()) {
-        ZColorwayEdit const* const pairs = colorDB_->getColorwayParameters(colorway);
-        if (pairs && pairs->containsMultiColor(multi) &&
-            lists(removal.removed, pairs->activeSubOf(multi))) {
-            affected.push_back(colorway);
-        }
-    }
+    auto const affected = colorwaysWhere(*colorDB_, [&](ZColorwayEdit const& colorway) {
+        return colorway.containsMultiColor(multi) &&
+               lists(removal.removed, colorway.activeSubOf(multi));
+    });
 
     auto before = edit->copyFor(multi);
     auto after = edit->copyFor(multi);
@@ -321,13 +317,8 @@ nyx::ColorId ColorController::disableMultiColor(nyx::ColorId id) {
     // Looked up before the materials let go of the multi-colour: reading a colorway for the first
     // time drops multi-colours that nothing uses, and there would be nothing left to remove
     // undoably.
-    std::vector<nyx::ColorwayId> covering;
-    for (nyx::ColorwayId const colorway : colorDB_->colorways()) {
-        ZColorwayEdit const* const pairs = colorDB_->getColorwayParameters(colorway);
-        if (pairs && pairs->containsMultiColor(id)) {
-            covering.push_back(colorway);
-        }
-    }
+    auto const covering = colorwaysWhere(
+        *colorDB_, [id](ZColorwayEdit const& colorway) { return colorway.containsMultiColor(id); });
 
     ScopedMacro const macro(undoStack_,
                             filled(QObject::tr("Disable Multi Color (%1)"), color.getColorName()));

@@ -63,19 +63,13 @@ ZColorExtEdit* ColorDB::getColorParameters(nyx::ColorId id) {
     if (auto const found = colorEdits_.find(id); found != colorEdits_.end()) {
         return found->second.get();
     }
-    nyxParameter_edit* const block = rtApi_ ? rtApi_->color_params(id) : nullptr;
-    if (!block) {
-        return nullptr;
-    }
-    auto edit = std::make_unique<ZColorExtEdit>(rtApi_, block);
-    return colorEdits_.emplace(id, std::move(edit)).first->second.get();
+    auto edit = ZColorExtEdit::read(rtApi_, id);
+    return edit ? colorEdits_.emplace(id, std::move(edit)).first->second.get() : nullptr;
 }
 
 ZColorSettingsEdit* ColorDB::getColorSettingsParameters() {
-    if (!settingsEdit_ && rtApi_) {
-        if (nyxParameter_edit* const block = rtApi_->color_settings_params()) {
-            settingsEdit_ = std::make_unique<ZColorSettingsEdit>(rtApi_, block);
-        }
+    if (!settingsEdit_) {
+        settingsEdit_ = ZColorSettingsEdit::read(rtApi_);
     }
     return settingsEdit_.get();
 }
@@ -129,11 +123,10 @@ ZColorwayEdit* ColorDB::getColorwayParameters(nyx::ColorwayId id) {
     if (ZColorwayEdit* const cached = cachedColorway(id)) {
         return cached;
     }
-    nyxParameter_edit* const block = rtApi_ ? rtApi_->colorway_params(id) : nullptr;
-    if (!block) {
+    auto edit = ZColorwayEdit::read(rtApi_, id);
+    if (!edit) {
         return nullptr;
     }
-    auto edit = std::make_unique<ZColorwayEdit>(rtApi_, block);
     colorwayEdits_.emplace(id, std::move(edit));
     checkForUnusedMultiColors(id);
     return cachedColorway(id);

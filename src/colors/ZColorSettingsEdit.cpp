@@ -1,47 +1,47 @@
 #include "zsg/colors/ZColorSettingsEdit.h"
 
-#include "colors/parameterBlock.h"
-
+#include "nyxrender/nyxParameter_edit.h"
 #include "nyxrender/nyxRT_api.h"
 
 namespace zsg {
 
 namespace {
 
+enum Entry { ActiveColorway };
 constexpr std::string_view entryNames[] = {"active_colorway_id"};
+constexpr ParameterBlock::Layout layout{nyxParameter_edit::ColorSettingsKind, entryNames,
+                                        &nyxRT_api::commit_color_settings_params,
+                                        &nyxRT_api::release_color_settings_params};
 
 } // namespace
 
-ZColorSettingsEdit::ZColorSettingsEdit(nyxRT_api* api, nyxParameter_edit* block) : api_(api) {
-    if (block && block->kind == nyxParameter_edit::ColorSettingsKind) {
-        block_ = block;
-        parameterBlock::findEntries(*block, entryNames, {&activeColorway_, 1});
-    }
-}
+ZColorSettingsEdit::ZColorSettingsEdit(nyxRT_api* api, nyxParameter_edit* block)
+    : block_(api, block, layout) {}
 
-ZColorSettingsEdit::~ZColorSettingsEdit() {
-    if (api_ && block_) {
-        api_->release_color_settings_params(block_);
+ZColorSettingsEdit::ZColorSettingsEdit(ParameterBlock&& block) noexcept
+    : block_(std::move(block)) {}
+
+ZColorSettingsEdit::~ZColorSettingsEdit() = default;
+
+std::unique_ptr<ZColorSettingsEdit> ZColorSettingsEdit::read(nyxRT_api* api) {
+    nyxParameter_edit* const lent = api ? api->color_settings_params() : nullptr;
+    if (!lent) {
+        return nullptr;
     }
+    ParameterBlock block(api, lent, layout);
+    return std::unique_ptr<ZColorSettingsEdit>(new ZColorSettingsEdit(std::move(block)));
 }
 
 nyx::ColorwayId ZColorSettingsEdit::activeColorwayId() const {
-    return nyx::ColorwayId(parameterBlock::word(activeColorway_, nyx::ColorwayId::invalidValue));
+    return nyx::ColorwayId(block_.word(ActiveColorway, nyx::ColorwayId::invalidValue));
 }
 
-bool ZColorSettingsEdit::isModified() const { return changed_; }
+bool ZColorSettingsEdit::isModified() const { return block_.isChanged(); }
 
 void ZColorSettingsEdit::setActiveColorwayId(nyx::ColorwayId id) {
-    changed_ |= parameterBlock::setWord(activeColorway_, id.value);
+    block_.setWord(ActiveColorway, id.value);
 }
 
-bool ZColorSettingsEdit::commit(bool force) {
-    if (!block_ || !api_ || (!force && !changed_)) {
-        return false;
-    }
-    api_->commit_color_settings_params(block_);
-    changed_ = false;
-    return true;
-}
+bool ZColorSettingsEdit::commit(bool force) { return block_.commit(force); }
 
 } // namespace zsg

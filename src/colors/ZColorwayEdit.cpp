@@ -1,12 +1,11 @@
 #include "zsg/colors/ZColorwayEdit.h"
 
 #include "colors/colorwayPairs.h"
-#include "colors/parameterBlock.h"
 
+#include "nyxrender/nyxParameter_edit.h"
 #include "nyxrender/nyxRT_api.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace zsg {
 
@@ -15,39 +14,37 @@ namespace {
 enum Entry { Id, DisplayName, MultiColors, ActiveSubs, Flags };
 constexpr std::string_view entryNames[] = {"id", "display_name", "multi_colors",
                                            "active_sub_indices", "flags"};
+constexpr ParameterBlock::Layout layout{nyxParameter_edit::ColorwayKind, entryNames,
+                                        &nyxRT_api::commit_colorway_params,
+                                        &nyxRT_api::release_colorway_params};
 
 } // namespace
 
-ZColorwayEdit::ZColorwayEdit(nyxRT_api* api, nyxParameter_edit* block) : api_(api) {
-    static_assert(std::size(entryNames) == decltype(entries_)().size());
-    if (block && block->kind == nyxParameter_edit::ColorwayKind) {
-        block_ = block;
-        parameterBlock::findEntries(*block, entryNames, entries_);
-        repairPairs();
-    }
-}
+ZColorwayEdit::ZColorwayEdit(nyxRT_api* api, nyxParameter_edit* block)
+    : ZColorwayEdit(ParameterBlock(api, block, layout)) {}
 
-ZColorwayEdit::~ZColorwayEdit() {
-    if (api_ && block_) {
-        api_->release_colorway_params(block_);
+ZColorwayEdit::ZColorwayEdit(ParameterBlock&& block) : block_(std::move(block)) { repairPairs(); }
+
+ZColorwayEdit::~ZColorwayEdit() = default;
+
+std::unique_ptr<ZColorwayEdit> ZColorwayEdit::read(nyxRT_api* api, nyx::ColorwayId id) {
+    nyxParameter_edit* const lent = api ? api->colorway_params(id) : nullptr;
+    if (!lent) {
+        return nullptr;
     }
+    ParameterBlock block(api, lent, layout);
+    return std::unique_ptr<ZColorwayEdit>(new ZColorwayEdit(std::move(block)));
 }
 
 nyx::ColorwayId ZColorwayEdit::id() const {
-    return nyx::ColorwayId(parameterBlock::word(entries_[Id], nyx::ColorwayId::invalidValue));
+    return nyx::ColorwayId(block_.word(Id, nyx::ColorwayId::invalidValue));
 }
 
-std::string ZColorwayEdit::displayName() const {
-    return parameterBlock::text(entries_[DisplayName]);
-}
+std::string ZColorwayEdit::displayName() const { return std::string(block_.text(DisplayName)); }
 
-nyx::Span<nyx::ColorId> ZColorwayEdit::multiColors() const {
-    return parameterBlock::ids(entries_[MultiColors]);
-}
+nyx::Span<nyx::ColorId> ZColorwayEdit::multiColors() const { return block_.ids(MultiColors); }
 
-nyx::Span<nyx::ColorId> ZColorwayEdit::activeSubIndices() const {
-    return parameterBlock::ids(entries_[ActiveSubs]);
-}
+nyx::Span<nyx::ColorId> ZColorwayEdit::activeSubIndices() const { return block_.ids(ActiveSubs); }
 
 nyx::ColorId ZColorwayEdit::activeSubOf(nyx::ColorId multi) const {
     auto const multis = multiColors();
@@ -58,11 +55,11 @@ nyx::ColorId ZColorwayEdit::activeSubOf(nyx::ColorId multi) const {
 }
 
 bool ZColorwayEdit::isDeleted() const {
-    return (parameterBlock::word(entries_[Flags], 0) & ColorwayFlags::Deleted) != 0;
+    return (block_.word(Flags, 0) & ColorwayFlags::Deleted) != 0;
 }
 
 bool ZColorwayEdit::isActive() const {
-    return (parameterBlock::word(entries_[Flags], 0) & ColorwayFlags::Active) != 0;
+    return (block_.word(Flags, 0) & ColorwayFlags::Active) != 0;
 }
 
 bool ZColorwayEdit::containsMultiColor(nyx::ColorId multi) const {
@@ -70,34 +67,46 @@ bool ZColorwayEdit::containsMultiColor(nyx::ColorId multi) const {
     return std::ranges::find(multis, multi) != multis.end();
 }
 
-bool ZColorwayEdit::isModified() const { return changed_; }
+bool ZColorwayEdit::isModified() const { return block_.isChanged(); }
 
-void ZColorwayEdit::setDisplayName(std::string const& name) {
-    changed_ |= parameterBlock::setText(entries_[DisplayName], api_, name);
+std::vector<MultiColorPair> ZColorwayEdit::pairs() const {
+    auto const multis = multiColors();
+    auto const subs = activeSubIndices();
+    MultiColorPairs list(std::min(multis.size(), subs.size()));
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        list[i] = {multis[i], subs[i]};
+    }
+    return list;
+}
+
+void ZColorwayEdit::setDisplayName(std::string const& name) { block_.setText(DisplayName, name); }
+
+void ZColorwayEdit::setPairs(nyx::Span<MultiColorPair> pairs) {
+    std::vector<nyx::ColorId> multis(pairs.size());
+    std::vector<nyx::ColorId> subs(pairs.size());
+    std::ranges::transform(pairs, multis.begin(), &MultiColorPair::multiColor);
+    std::ranges::transform(pairs, subs.begin(), &MultiColorPair::subColor);
+    setPairs(multis, subs);
 }
 
 void ZColorwayEdit::setPairs(nyx::Span<nyx::ColorId> multiColors,
                              nyx::Span<nyx::ColorId> activeSubs) {
-    if (!entries_[MultiColors] || !entries_[ActiveSubs]) {
+    if (!hasBothLists()) {
         return;
     }
     std::size_t const size = std::min(multiColors.size(), activeSubs.size());
     // The spans may be this object's own lists, exchanged: writing the first must not touch the
     // second.
     std::vector<nyx::ColorId> const subs(activeSubs.begin(), activeSubs.begin() + size);
-    changed_ |= parameterBlock::setIds(entries_[MultiColors], {multiColors.data(), size});
-    changed_ |= parameterBlock::setIds(entries_[ActiveSubs], subs);
+    block_.setIds(MultiColors, {multiColors.data(), size});
+    block_.setIds(ActiveSubs, subs);
 }
 
 void ZColorwayEdit::removeMultiColors(nyx::Span<nyx::ColorId> ids) {
-    auto const multis = multiColors();
-    auto const subs = activeSubIndices();
-    if (!entries_[MultiColors] || !entries_[ActiveSubs] || multis.size() != subs.size()) {
-        return;
+    if (hasBothLists() && multiColors().size() == activeSubIndices().size()) {
+        setPairs(pairsWithout(pairs(), ids));
+        block_.markChanged();
     }
-    ColorwayPairs const kept = pairsWithout(multis, subs, ids);
-    setPairs(kept.multiColors, kept.activeSubs);
-    changed_ = true;
 }
 
 void ZColorwayEdit::setActive(bool on) { setFlag(ColorwayFlags::Active, on); }
@@ -105,33 +114,31 @@ void ZColorwayEdit::setActive(bool on) { setFlag(ColorwayFlags::Active, on); }
 void ZColorwayEdit::setDeleted(bool on) { setFlag(ColorwayFlags::Deleted, on); }
 
 std::unique_ptr<ZColorwayEdit> ZColorwayEdit::copy() const {
-    auto copy = std::make_unique<ZColorwayEdit>(
-        api_, api_ && block_ ? api_->clone_color_params(block_, true) : nullptr);
-    copy->changed_ = true;
-    return copy;
+    ParameterBlock copied = block_.copy();
+    return std::unique_ptr<ZColorwayEdit>(new ZColorwayEdit(std::move(copied)));
 }
 
-bool ZColorwayEdit::commit(bool force) {
-    if (!block_ || !api_ || (!force && !changed_)) {
-        return false;
-    }
-    api_->commit_colorway_params(block_);
-    changed_ = false;
-    return true;
+bool ZColorwayEdit::commit(bool force) { return block_.commit(force); }
+
+bool ZColorwayEdit::hasBothLists() const {
+    return block_.has(MultiColors) && block_.has(ActiveSubs);
 }
 
 void ZColorwayEdit::repairPairs() {
-    if (!entries_[MultiColors] || !entries_[ActiveSubs]) {
+    if (!hasBothLists()) {
         return;
     }
-    if (auto const pairs = repairedPairs(multiColors(), activeSubIndices())) {
-        setPairs(pairs->multiColors, pairs->activeSubs);
+    MultiColorPairs const all = pairs();
+    if (auto const distinct = distinctPairs(all)) {
+        setPairs(*distinct);
+    } else if (multiColors().size() != activeSubIndices().size()) {
+        setPairs(all);
     }
 }
 
 void ZColorwayEdit::setFlag(unsigned bit, bool on) {
-    std::uint32_t const flags = parameterBlock::word(entries_[Flags], 0);
-    changed_ |= parameterBlock::setWord(entries_[Flags], on ? flags | bit : flags & ~bit);
+    std::uint32_t const flags = block_.word(Flags, 0);
+    block_.setWord(Flags, on ? flags | bit : flags & ~bit);
 }
 
 } // namespace zsg

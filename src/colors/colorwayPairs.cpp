@@ -1,50 +1,53 @@
 #include "colors/colorwayPairs.h"
 
 #include <algorithm>
-#include <numeric>
+#include <unordered_map>
 
 namespace zsg {
 
-std::optional<ColorwayPairs> repairedPairs(nyx::Span<nyx::ColorId> multiColors,
-                                           nyx::Span<nyx::ColorId> activeSubs) {
-    std::size_t const size = std::min(multiColors.size(), activeSubs.size());
-
-    // Positions by multi-colour; among those of one multi-colour the first position comes first.
-    std::vector<std::size_t> order(size);
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    auto const multiAt = [&](std::size_t position) { return multiColors[position]; };
-    std::ranges::stable_sort(order, {}, multiAt);
-    auto const repeated =
-        std::unique(order.begin(), order.end(),
-                    [&](std::size_t a, std::size_t b) { return multiAt(a) == multiAt(b); });
-
-    if (repeated != order.end()) {
-        order.erase(repeated, order.end());
-    } else if (multiColors.size() == activeSubs.size()) {
+std::optional<MultiColorPairs> distinctPairs(nyx::Span<MultiColorPair> pairs) {
+    MultiColorPairs sorted(pairs.begin(), pairs.end());
+    // Stable: of one multi-colour the first pair stays in front.
+    std::ranges::stable_sort(sorted, {}, &MultiColorPair::multiColor);
+    auto const repeated = std::ranges::unique(sorted, {}, &MultiColorPair::multiColor);
+    if (repeated.empty()) {
         return std::nullopt;
-    } else {
-        std::ranges::sort(order);
     }
-    ColorwayPairs pairs;
-    for (std::size_t const position : order) {
-        pairs.multiColors.push_back(multiColors[position]);
-        pairs.activeSubs.push_back(activeSubs[position]);
-    }
-    return pairs;
+    sorted.erase(repeated.begin(), repeated.end());
+    return sorted;
 }
 
-ColorwayPairs pairsWithout(nyx::Span<nyx::ColorId> multiColors, nyx::Span<nyx::ColorId> activeSubs,
-                           nyx::Span<nyx::ColorId> removed) {
+MultiColorPairs pairsWithout(nyx::Span<MultiColorPair> pairs, nyx::Span<nyx::ColorId> removed) {
     std::vector<nyx::ColorId> sorted(removed.begin(), removed.end());
     std::ranges::sort(sorted);
-    ColorwayPairs pairs;
-    for (std::size_t i = 0; i < multiColors.size(); ++i) {
-        if (!std::ranges::binary_search(sorted, multiColors[i])) {
-            pairs.multiColors.push_back(multiColors[i]);
-            pairs.activeSubs.push_back(activeSubs[i]);
+    MultiColorPairs kept(pairs.begin(), pairs.end());
+    std::erase_if(kept, [&](MultiColorPair const& pair) {
+        return std::ranges::binary_search(sorted, pair.multiColor);
+    });
+    return kept;
+}
+
+MultiColorPairs pairsWith(nyx::Span<MultiColorPair> pairs, nyx::Span<MultiColorPair> added,
+                          int index, bool replace) {
+    MultiColorPairs list(pairs.begin(), pairs.end());
+    std::unordered_map<nyx::ColorId, std::size_t> places;
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        places.emplace(list[i].multiColor, i);
+    }
+    std::size_t const old = list.size();
+    for (MultiColorPair const& pair : added) {
+        auto const [found, isNew] = places.emplace(pair.multiColor, list.size());
+        if (isNew) {
+            list.push_back(pair);
+        } else if (replace) {
+            list[found->second].subColor = pair.subColor;
         }
     }
-    return pairs;
+    if (index >= 0 && static_cast<std::size_t>(index) < old) {
+        std::rotate(list.begin() + index, list.begin() + static_cast<std::ptrdiff_t>(old),
+                    list.end());
+    }
+    return list;
 }
 
 } // namespace zsg

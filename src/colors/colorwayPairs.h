@@ -2,27 +2,29 @@
 
 #include "nyxrender/Ids.h"
 #include "nyxrender/Span.h"
+#include "zsg/colors/MultiColorPair.h"
 
 #include <optional>
 #include <vector>
 
 namespace zsg {
 
-/// The two lists of a colorway, equally long: multi-colours, and the active sub-colour of each.
-struct ColorwayPairs {
-    std::vector<nyx::ColorId> multiColors;
-    std::vector<nyx::ColorId> activeSubs;
-};
+// Edits of a colorway's pairs, as pure functions of lists.
 
-/// Consistent lists in place of those given: the leading pairs as far as both lists go and, when a
-/// multi-colour is listed again, the first pair of each in ascending order of multi-colours.
-/// Nothing when the lists are consistent as they are.
-[[nodiscard]] std::optional<ColorwayPairs> repairedPairs(nyx::Span<nyx::ColorId> multiColors,
-                                                         nyx::Span<nyx::ColorId> activeSubs);
+using MultiColorPairs = std::vector<MultiColorPair>;
 
-/// The pairs, in order, whose multi-colour is not among `removed`. The lists must be equally long.
-[[nodiscard]] ColorwayPairs pairsWithout(nyx::Span<nyx::ColorId> multiColors,
-                                         nyx::Span<nyx::ColorId> activeSubs,
-                                         nyx::Span<nyx::ColorId> removed);
+/// When a multi-colour is listed again, the first pair of each in ascending order of multi-colours;
+/// else nothing.
+[[nodiscard]] std::optional<MultiColorPairs> distinctPairs(nyx::Span<MultiColorPair> pairs);
+
+/// The pairs, in order, whose multi-colour is not among `removed`.
+[[nodiscard]] MultiColorPairs pairsWithout(nyx::Span<MultiColorPair> pairs,
+                                           nyx::Span<nyx::ColorId> removed);
+
+/// The pairs with those of `added` whose multi-colour is new before position `index` (negative or
+/// past the end: at the end), in their order. A multi-colour that is there already keeps its
+/// place, and takes the added sub-colour only with `replace`.
+[[nodiscard]] MultiColorPairs pairsWith(nyx::Span<MultiColorPair> pairs,
+                                        nyx::Span<MultiColorPair> added, int index, bool replace);
 
 } // namespace zsg

@@ -24,6 +24,15 @@ TEST_F(ZColorwayEditTest, RepairsItsListsAtConstructionAndMarksItselfChanged) {
     EXPECT_EQ(list(edit.activeSubIndices()), ids(s30, s50));
     EXPECT_TRUE(edit.isModified());
 
+    // Cut to the shorter list before repetitions are looked for, and then in its own order.
+    nyxParameter_edit* const shorter = api()->colorway_params(colorway);
+    shorter->entries[2].value.list.ids[2] = c5;
+    shorter->entries[3].value.list.count = 2;
+    ZColorwayEdit const cut(api(), shorter);
+    EXPECT_EQ(list(cut.multiColors()), ids(c5, c3));
+    EXPECT_EQ(list(cut.activeSubIndices()), ids(s50, s30));
+    EXPECT_TRUE(cut.isModified());
+
     nyxParameter_edit* const lacking = api()->colorway_params(colorway);
     lacking->entries[3].name[0] = 'x';
     ZColorwayEdit half(api(), lacking);

@@ -3,35 +3,23 @@
 #include <gtest/gtest.h>
 
 using namespace zsg;
-using Numbers = std::vector<unsigned>;
 
 namespace {
 
-std::vector<nyx::ColorId> ids(Numbers const& numbers) { return {numbers.begin(), numbers.end()}; }
+MultiColorPairs pairs(std::vector<std::pair<unsigned, unsigned>> const& numbers) {
+    MultiColorPairs list;
+    for (auto const& [multi, sub] : numbers) {
+        list.push_back({nyx::ColorId(multi), nyx::ColorId(sub)});
+    }
+    return list;
+}
 
 } // namespace
 
-TEST(ColorwayPairs, RepairCutsAndKeepsTheFirstPairOfEachMultiColor) {
-    struct {
-        Numbers multis, subs;
-        bool repaired;
-        Numbers newMultis, newSubs;
-    } const rows[] = {
-        {{5, 3}, {50, 30}, false, {}, {}},
-        {{5, 3, 5}, {50, 30, 51}, true, {3, 5}, {30, 50}},
-        {{5}, {50, 30}, true, {5}, {50}},
-        {{5, 3}, {}, true, {}, {}},
-        {{5, 3, 5}, {50, 30}, true, {5, 3}, {50, 30}},
-        {{9, 9, 0xFFFFFFFF, 1, 9}, {3, 2, 7, 8, 1}, true, {1, 9, 0xFFFFFFFF}, {8, 3, 7}},
-    };
-    for (auto const& row : rows) {
-        SCOPED_TRACE(testing::PrintToString(row.multis) + testing::PrintToString(row.subs));
-        auto const pairs = repairedPairs(ids(row.multis), ids(row.subs));
-        ASSERT_EQ(pairs.has_value(), row.repaired);
-        if (pairs) {
-            EXPECT_EQ(pairs->multiColors, ids(row.newMultis));
-            EXPECT_EQ(pairs->activeSubs, ids(row.newSubs));
-            EXPECT_FALSE(repairedPairs(pairs->multiColors, pairs->activeSubs));
-        }
-    }
+TEST(ColorwayPairs, OfAMultiColorListedAgainTheFirstPairCounts) {
+    EXPECT_EQ(distinctPairs({}), std::nullopt);
+    EXPECT_EQ(distinctPairs(pairs({{5, 50}, {3, 30}})), std::nullopt);
+    EXPECT_EQ(distinctPairs(pairs({{5, 50}, {3, 30}, {5, 51}})), pairs({{3, 30}, {5, 50}}));
+    EXPECT_EQ(distinctPairs(pairs({{9, 3}, {9, 2}, {0xFFFFFFFF, 7}, {1, 8}, {9, 1}})),
+              pairs({{1, 8}, {9, 3}, {0xFFFFFFFF, 7}}));
 }

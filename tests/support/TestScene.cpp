@@ -60,8 +60,9 @@ nyxParameter_entry& entry(nyxParameter_edit& block, std::string const& name) {
 void setList(nyxParameter_value& value, nyx::Span<nyx::ColorId> ids) {
     std::size_t const bytes = ids.size() * sizeof(nyx::ColorId);
     nyx_free_aligned(value.list.ids);
-    value.list = {static_cast<nyx::ColorId*>(nyx_malloc_aligned(bytes, 32)),
-                  static_cast<std::int32_t>(ids.size())};
+    value.list = {
+        static_cast<nyx::ColorId*>(nyx_malloc_aligned(bytes, nyxParameter_edit::ListAlignment)),
+        static_cast<std::int32_t>(ids.size())};
     if (bytes != 0) {
         std::memcpy(static_cast<void*>(value.list.ids), ids.data(), bytes);
     }

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "zsg/colors/IColorEdits.h"
+#include "zsg/colors/ParameterBlock.h"
 
-#include <array>
 #include <memory>
 
 class nyxRT_api;
 struct nyxParameter_edit;
-struct nyxParameter_entry;
 
 namespace zsg {
 
@@ -22,6 +21,9 @@ public:
     ~ZColorExtEdit() override;
     ZColorExtEdit(ZColorExtEdit const&) = delete;
     ZColorExtEdit& operator=(ZColorExtEdit const&) = delete;
+
+    /// The edit of a colour of the scene; null when there is no such colour.
+    [[nodiscard]] static std::unique_ptr<ZColorExtEdit> read(nyxRT_api* api, nyx::ColorId id);
 
     [[nodiscard]] nyx::ColorId id() const override;
     [[nodiscard]] std::string displayName() const override;
@@ -57,13 +59,9 @@ public:
     bool commit(bool force);
 
 private:
-    void countChange();
+    explicit ZColorExtEdit(ParameterBlock&& block) noexcept;
 
-    nyxRT_api* api_ = nullptr;
-    nyxParameter_edit* block_ = nullptr;
-    std::array<nyxParameter_entry*, 7> entries_{};
-    bool changed_ = false;
-    unsigned changeCount_ = 0;
+    ParameterBlock block_;
 };
 
 } // namespace zsg

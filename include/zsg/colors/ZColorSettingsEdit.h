@@ -1,10 +1,12 @@
 #pragma once
 
 #include "zsg/colors/IColorEdits.h"
+#include "zsg/colors/ParameterBlock.h"
+
+#include <memory>
 
 class nyxRT_api;
 struct nyxParameter_edit;
-struct nyxParameter_entry;
 
 namespace zsg {
 
@@ -19,6 +21,9 @@ public:
     ZColorSettingsEdit(ZColorSettingsEdit const&) = delete;
     ZColorSettingsEdit& operator=(ZColorSettingsEdit const&) = delete;
 
+    /// The edit of the scene's settings; null when there are none.
+    [[nodiscard]] static std::unique_ptr<ZColorSettingsEdit> read(nyxRT_api* api);
+
     [[nodiscard]] nyx::ColorwayId activeColorwayId() const override;
     [[nodiscard]] bool isModified() const override;
 
@@ -29,10 +34,9 @@ public:
     bool commit(bool force);
 
 private:
-    nyxRT_api* api_ = nullptr;
-    nyxParameter_edit* block_ = nullptr;
-    nyxParameter_entry* activeColorway_ = nullptr;
-    bool changed_ = false;
+    explicit ZColorSettingsEdit(ParameterBlock&& block) noexcept;
+
+    ParameterBlock block_;
 };
 
 } // namespace zsg

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "zsg/colors/IColorEdits.h"
+#include "zsg/colors/MultiColorPair.h"
+#include "zsg/colors/ParameterBlock.h"
 
-#include <array>
 #include <memory>
+#include <vector>
 
 class nyxRT_api;
 struct nyxParameter_edit;
-struct nyxParameter_entry;
 
 namespace zsg {
 
@@ -27,6 +28,9 @@ public:
     ZColorwayEdit(ZColorwayEdit const&) = delete;
     ZColorwayEdit& operator=(ZColorwayEdit const&) = delete;
 
+    /// The edit of a colorway of the scene; null when there is no such colorway.
+    [[nodiscard]] static std::unique_ptr<ZColorwayEdit> read(nyxRT_api* api, nyx::ColorwayId id);
+
     [[nodiscard]] nyx::ColorwayId id() const override;
     [[nodiscard]] std::string displayName() const override;
     [[nodiscard]] nyx::Span<nyx::ColorId> multiColors() const override;
@@ -37,9 +41,14 @@ public:
     [[nodiscard]] bool containsMultiColor(nyx::ColorId multi) const override;
     [[nodiscard]] bool isModified() const override;
 
+    /// The two lists together, as far as both go.
+    [[nodiscard]] std::vector<MultiColorPair> pairs() const;
+
     /// Up to the first zero byte. Ignored without a scene, which owns the texts of blocks.
     void setDisplayName(std::string const& name);
-    /// Both lists at once, cut to the shorter one; ignored when the block lacks either.
+    /// Both lists at once; ignored when the block lacks either.
+    void setPairs(nyx::Span<MultiColorPair> pairs);
+    /// The same, cut to the shorter one.
     void setPairs(nyx::Span<nyx::ColorId> multiColors, nyx::Span<nyx::ColorId> activeSubs);
     /// Drops the pairs of all multi-colours in `ids`; the rest keep their order. Marks the edit
     /// changed even when none was listed. Ignored when the block lacks either list.
@@ -54,13 +63,12 @@ public:
     bool commit(bool force);
 
 private:
+    explicit ZColorwayEdit(ParameterBlock&& block);
+    [[nodiscard]] bool hasBothLists() const;
     void repairPairs();
     void setFlag(unsigned bit, bool on);
 
-    nyxRT_api* api_ = nullptr;
-    nyxParameter_edit* block_ = nullptr;
-    std::array<nyxParameter_entry*, 5> entries_{};
-    bool changed_ = false;
+    ParameterBlock block_;
 };
 
 } // namespace zsg

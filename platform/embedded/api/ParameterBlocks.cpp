@@ -15,8 +15,6 @@ namespace nyx::embedded {
 
 namespace {
 
-constexpr std::size_t listAlignment = 32;
-
 bool isList(std::string_view name) {
     return name == "sub_colors" || name == "multi_colors" || name == "active_sub_indices";
 }
@@ -75,7 +73,8 @@ void setList(nyxParameter_entry& entry, nyx::Span<nyx::ColorId> ids) {
     entry.value.list = {nullptr, static_cast<std::int32_t>(ids.size())};
     if (!ids.empty()) {
         std::size_t const bytes = ids.size() * sizeof(nyx::ColorId);
-        entry.value.list.ids = static_cast<nyx::ColorId*>(nyx_malloc_aligned(bytes, listAlignment));
+        entry.value.list.ids =
+            static_cast<nyx::ColorId*>(nyx_malloc_aligned(bytes, nyxParameter_edit::ListAlignment));
         std::memcpy(static_cast<void*>(entry.value.list.ids), ids.data(), bytes);
     }
 }

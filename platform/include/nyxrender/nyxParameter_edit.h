@@ -34,6 +34,9 @@ struct nyxParameter_edit {
         ColorSettingsKind = 5,
     };
 
+    /// What lists in a block are aligned to.
+    static constexpr std::size_t ListAlignment = 32;
+
     std::uint32_t record_id = nyx::ColorId::invalidValue; ///< the record that a commit writes to
     std::int32_t kind = 0;
     nyxParameter_entry* entries = nullptr;

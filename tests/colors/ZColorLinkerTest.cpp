@@ -6,7 +6,7 @@ using namespace zsg;
 
 namespace {
 
-class ColorLinkTest : public ControllerScene, public IColorLinkHandler {
+class ZColorLinkerTest : public ControllerScene, public IColorLinkHandler {
 protected:
     Resolution resolveConflict(ZColorExt const& color, int index, ColorId existing) override {
         asked += color.getName(index) + ':' + std::to_string(existing.value) + ' ';
@@ -31,7 +31,7 @@ protected:
 
 } // namespace
 
-TEST_F(ColorLinkTest, AConflictIsANameInUseWithAnotherValue) {
+TEST_F(ZColorLinkerTest, AConflictIsANameInUseWithAnotherValue) {
     auto const conflicts = [&](ZColor const& color) {
         auto const found = edit.checkForConflict(palette({ZColor(), color}));
         EXPECT_TRUE(found.empty() || (found[0].index == 1 && found[0].name == color.name() &&
@@ -48,7 +48,7 @@ TEST_F(ColorLinkTest, AConflictIsANameInUseWithAnotherValue) {
     EXPECT_EQ(conflicts({1, 1, 1, 1, ""}), 0u);
 }
 
-TEST_F(ColorLinkTest, AnImportAsksOncePerConflictAndOverwritesNothing) {
+TEST_F(ZColorLinkerTest, AnImportAsksOncePerConflictAndOverwritesNothing) {
     std::string const before = renderer.dump();
     ZColorExt color = palette({{0, 0, 0, 1, "Red"}, {0, 0, 0, 1, "Sand"}, {1, 1, 1, 1, "Green"}});
     EXPECT_EQ(linker->importColor(color), ColorId(5));
@@ -85,7 +85,7 @@ TEST_F(ColorLinkTest, AnImportAsksOncePerConflictAndOverwritesNothing) {
     EXPECT_EQ(linker->uniqueColorName("Red"), "");
 }
 
-TEST_F(ColorLinkTest, MergingAddsWhatIsMissing) {
+TEST_F(ZColorLinkerTest, MergingAddsWhatIsMissing) {
     ColorId const trim = multiColor("Trim", {blue, green});
     std::string const before = renderer.dump();
     linker->mergeSubColors(trim, cover);

@@ -1,0 +1,7 @@
+#include "zsg/colors/IColorController.h"
+
+namespace zsg {
+
+IColorController::~IColorController() = default;
+
+} // namespace zsg
