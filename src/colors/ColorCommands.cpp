@@ -1,5 +1,6 @@
 #include "colors/ColorCommands.h"
 
+#include "colors/colorwayAccess.h"
 #include "zsg/colors/ColorDB.h"
 
 #include <QCoreApplication>
@@ -63,13 +64,7 @@ bool ZCreateColorwayCommand::undo() { return setDeleted(true); }
 bool ZCreateColorwayCommand::redo() { return setDeleted(false); }
 
 bool ZCreateColorwayCommand::setDeleted(bool deleted) {
-    ZColorwayEdit* const edit = colorDB_->getColorwayParameters(colorway_);
-    if (!edit) {
-        return false;
-    }
-    edit->setDeleted(deleted);
-    colorDB_->pushColorway(colorway_);
-    return true;
+    return setColorwayFlag(*colorDB_, colorway_, &ZColorwayEdit::setDeleted, deleted);
 }
 
 ZActivateColorwayCommand::ZActivateColorwayCommand(ColorDB* colorDB, nyx::ColorwayId colorway)
@@ -80,25 +75,17 @@ ZActivateColorwayCommand::ZActivateColorwayCommand(ColorDB* colorDB, nyx::Colorw
     }
     setText(QCoreApplication::translate("ZActivateColorwayCommand", "Switch Colorway (%1)")
                 .arg(QString::fromStdString(edit->displayName()), 0, QChar(' ')));
-    auto const multiColors = edit->multiColors();
-    auto const activeSubs = edit->activeSubIndices();
-    if (multiColors.size() != activeSubs.size()) {
+    if (edit->multiColors().size() != edit->activeSubIndices().size()) {
         return;
     }
-    undoSubs_.reserve(multiColors.size());
-    redoSubs_.reserve(multiColors.size());
-    for (std::size_t i = 0; i < multiColors.size(); ++i) {
-        ZColorExtEdit const* const color = colorDB_->getColorParameters(multiColors[i]);
-        undoSubs_.push_back({multiColors[i], color ? color->activeSub() : nyx::ColorId()});
-        redoSubs_.push_back({multiColors[i], activeSubs[i]});
+    redoSubs_ = edit->pairs();
+    undoSubs_ = redoSubs_;
+    for (auto& [multi, sub] : undoSubs_) {
+        ZColorExtEdit const* const color = colorDB_->getColorParameters(multi);
+        sub = color ? color->activeSub() : nyx::ColorId();
     }
-    for (nyx::ColorwayId const other : colorDB_->colorways()) {
-        ZColorwayEdit const* const otherEdit =
-            other == colorway ? nullptr : colorDB_->getColorwayParameters(other);
-        if (otherEdit && otherEdit->isActive()) {
-            otherActive_.push_back(other);
-        }
-    }
+    otherActive_ = colorwaysWhere(*colorDB_, [](ZColorwayEdit const& e) { return e.isActive(); });
+    std::erase(otherActive_, colorway);
 }
 
 bool ZActivateColorwayCommand::undo() {
@@ -136,10 +123,7 @@ bool ZActivateColorwayCommand::applySubs(std::vector<MultiColorPair> const& pair
 }
 
 void ZActivateColorwayCommand::setActive(nyx::ColorwayId colorway, bool active) {
-    if (ZColorwayEdit* const edit = colorDB_->getColorwayParameters(colorway)) {
-        edit->setActive(active);
-    }
-    colorDB_->pushColorway(colorway);
+    setColorwayFlag(*colorDB_, colorway, &ZColorwayEdit::setActive, active);
 }
 
 ZEditColorWayCommand::ZEditColorWayCommand(int kind, ColorDB* colorDB,
@@ -179,13 +163,10 @@ ZEditColorCommand::ZEditColorCommand(int kind, ColorDB* colorDB,
         return;
     }
     nyx::ColorId const id = after_->id();
-    for (nyx::ColorwayId const colorway : colorDB_->colorways()) {
-        ZColorwayEdit const* const edit = colorDB_->getColorwayParameters(colorway);
-        if (edit && edit->isActive() && edit->containsMultiColor(id) &&
-            edit->activeSubOf(id) != after_->activeSub()) {
-            deactivateOnRedo_.push_back(colorway);
-        }
-    }
+    deactivateOnRedo_ = colorwaysWhere(*colorDB_, [&](ZColorwayEdit const& colorway) {
+        return colorway.isActive() && colorway.containsMultiColor(id) &&
+               colorway.activeSubOf(id) != after_->activeSub();
+    });
 }
 
 ZEditColorCommand::~ZEditColorCommand() = default;
@@ -210,18 +191,11 @@ bool ZEditColorCommand::redo() {
 
 void ZEditColorCommand::install(ZColorExtEdit const& state, bool redo) {
     colorDB_->setColorEdit(&state);
-    auto const switchFlag = [this](nyx::ColorwayId colorway, void (ZColorwayEdit::*set)(bool),
-                                   bool on) {
-        if (ZColorwayEdit* const edit = colorDB_->getColorwayParameters(colorway)) {
-            (edit->*set)(on);
-        }
-        colorDB_->pushColorway(colorway);
-    };
     for (nyx::ColorwayId const colorway : deactivateOnRedo_) {
-        switchFlag(colorway, &ZColorwayEdit::setActive, !redo);
+        setColorwayFlag(*colorDB_, colorway, &ZColorwayEdit::setActive, !redo);
     }
     for (nyx::ColorwayId const colorway : undeleteOnRedo_) {
-        switchFlag(colorway, &ZColorwayEdit::setDeleted, !redo);
+        setColorwayFlag(*colorDB_, colorway, &ZColorwayEdit::setDeleted, !redo);
     }
     for (nyx::ColorId const color : syncColors_) {
         colorDB_->postColorUpdateSyncEvent(color);

@@ -1,6 +1,6 @@
 #include "zsg/colors/ColorDB.h"
 
-#include "colors/announce.h"
+#include "colors/colorwayAccess.h"
 
 #include "nyxrender/nyxScene.h"
 #include "nyxrender/nyxScene_api.h"
@@ -43,39 +43,28 @@ void ColorDB::setActiveColorway(nyx::ColorwayId id) {
 }
 
 void ColorDB::applyColorway(nyx::ColorwayId id) {
-    ZColorwayEdit* edit = getColorwayParameters(id);
+    ZColorwayEdit const* const edit = getColorwayParameters(id);
     if (!edit) {
         return;
     }
-    std::vector<nyx::ColorId> const multis = copied(edit->multiColors());
-    std::vector<nyx::ColorId> const subs = copied(edit->activeSubIndices());
-    if (multis.empty() || multis.size() != subs.size()) {
+    std::vector<MultiColorPair> const pairs = edit->pairs();
+    if (pairs.empty() || edit->multiColors().size() != edit->activeSubIndices().size()) {
         return;
     }
     setActiveColorway(edit->id());
 
     for (nyx::ColorwayId const other : copied(colorways())) {
-        if (other == id) {
-            continue;
+        if (other != id) {
+            setColorwayFlag(*this, other, &ZColorwayEdit::setActive, false);
         }
-        ZColorwayEdit* const otherEdit = getColorwayParameters(other);
-        if (!otherEdit) {
-            continue;
-        }
-        otherEdit->setActive(false);
-        pushColorway(other);
     }
-    edit = getColorwayParameters(id);
-    if (edit) {
-        edit->setActive(true);
-        pushColorway(id);
-    }
+    setColorwayFlag(*this, id, &ZColorwayEdit::setActive, true);
 
-    for (std::size_t i = 0; i < multis.size(); ++i) {
-        ZColorExtEdit* const multi = getColorParameters(multis[i]);
-        if (multi && multi->hasSubColor(subs[i])) {
-            multi->setActiveSub(subs[i]);
-            pushColor(multis[i]);
+    for (MultiColorPair const& pair : pairs) {
+        ZColorExtEdit* const multi = getColorParameters(pair.multiColor);
+        if (multi && multi->hasSubColor(pair.subColor)) {
+            multi->setActiveSub(pair.subColor);
+            pushColor(pair.multiColor);
         }
     }
 }
