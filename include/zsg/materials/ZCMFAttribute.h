@@ -28,7 +28,7 @@ struct ZSG_EXPORT ZCMFAttribute {
     QString name; ///< the display name
     bool visible = true;
     ZCMFAttributeKind kind = ZCMFAttributeKind::Text;
-    QString extra; ///< the application's; schema files do not hold it
+    QString extra = {}; ///< the application's; schema files do not hold it
 
     /// Whether the value is a colour.
     [[nodiscard]] static bool isColorValue(ZCMFAttributeKind kind) noexcept;

@@ -1,0 +1,3 @@
+#include "materials/logging.h"
+
+Q_LOGGING_CATEGORY(zsgMaterials, "zsg.materials")
