@@ -7,7 +7,9 @@
 
 namespace nyx {
 
-/// How a paint layer is laid over those below it.
+/// How a paint layer is laid over those below it. The first four and those from Darken on are the
+/// separable modes of the W3C recommendation "Compositing and Blending Level 1"; Add and Subtract
+/// are the sum and the difference of the two colours, cut off at 1 and at 0.
 enum class ColorBlendMode : std::int32_t {
     Normal = 0,
     Multiply = 1,
@@ -15,6 +17,14 @@ enum class ColorBlendMode : std::int32_t {
     Overlay = 3,
     Add = 4,
     Subtract = 5,
+    Darken = 6,
+    Lighten = 7,
+    ColorDodge = 8,
+    ColorBurn = 9,
+    HardLight = 10,
+    SoftLight = 11,
+    Difference = 12,
+    Exclusion = 13,
 };
 
 } // namespace nyx
