@@ -2,6 +2,9 @@
 
 #include "core/ZEventQueue.h"
 #include "core/postEvent.h"
+#include "materials/ZCMFManager.h"
+#include "materials/ZMaterialApi.h"
+#include "materials/ZMaterialHandler.h"
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/Events.h"
@@ -14,8 +17,12 @@ namespace zsg {
 
 // The subsystems are built in the body: some of them reach the others, and the handle, through the
 // root while it is under construction.
-ZSceneGraph::ZSceneGraph(SceneGraphPars const& pars) : rtApi_(pars.rtApi) {
+ZSceneGraph::ZSceneGraph(SceneGraphPars const& pars)
+    : materialApi_(std::make_unique<ZMaterialApi>(pars.rtApi)), rtApi_(pars.rtApi) {
+    materialHandler_ =
+        std::make_unique<ZMaterialHandler>(materialApi_.get(), pars.materialService, this);
     eventQueue_ = std::make_unique<ZEventQueue>();
+    cmfManager_ = std::make_unique<ZCMFManager>(this);
     colorDB_ = std::make_unique<ColorDB>(eventQueue_.get(), rtApi_);
     colorController_ = std::make_unique<ColorController>(colorDB_.get(), pars.sceneMaterialManager,
                                                          pars.undoStack);
@@ -43,11 +50,11 @@ bool ZSceneGraph::handleRendererMessage(nyxMessage const& message) {
 
 nyxRT_api* ZSceneGraph::rtApi() const { return rtApi_; }
 
-IMaterialHandler* ZSceneGraph::materialHandler() const { return nullptr; }
+IMaterialHandler* ZSceneGraph::materialHandler() const { return materialHandler_.get(); }
 
 IEventQueue* ZSceneGraph::eventQueue() const { return eventQueue_.get(); }
 
-ICMFManager* ZSceneGraph::cmfManager() const { return nullptr; }
+ICMFManager* ZSceneGraph::cmfManager() const { return cmfManager_.get(); }
 
 IPainterManager* ZSceneGraph::painterManager() const { return nullptr; }
 

@@ -7,6 +7,8 @@
 
 namespace zsg {
 
+class IMaterialApi;
+
 /// The root itself. The subsystems go in the reverse order of the members, so that the event queue
 /// outlives all that post to it: material API, material handler, event queue, CMF manager, painter
 /// manager, colour database, colour controller, light-layer API, light-layer controller.
@@ -26,7 +28,10 @@ public:
     [[nodiscard]] ILightLayerController* lightLayerController() const override;
 
 private:
+    std::unique_ptr<IMaterialApi> materialApi_;
+    std::unique_ptr<IMaterialHandler> materialHandler_;
     std::unique_ptr<IEventQueue> eventQueue_;
+    std::unique_ptr<ICMFManager> cmfManager_;
     std::unique_ptr<ColorDB> colorDB_;
     std::unique_ptr<ColorController> colorController_;
     nyxRT_api* rtApi_;

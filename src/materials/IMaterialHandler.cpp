@@ -1,0 +1,9 @@
+#include "zsg/materials/IMaterialHandler.h"
+
+namespace zsg {
+
+IMaterialHandler::IMaterialHandler() = default;
+
+IMaterialHandler::~IMaterialHandler() = default;
+
+} // namespace zsg
