@@ -48,7 +48,7 @@ private:
     static void removeSeat(List& list, std::size_t index);
     void closeHoles();
 
-    static constexpr std::size_t knownTypes = 14;
+    static constexpr std::size_t knownTypes = allEventTypes.size();
     std::array<List, knownTypes> known_;
     std::unordered_map<EventType, List> others_;
     std::unordered_map<IEventListener*, Entry> listeners_;

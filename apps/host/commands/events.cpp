@@ -2,7 +2,6 @@
 #include "host/Host.h"
 
 #include "zsg/core/EventType.h"
-#include "zsg/core/Events.h"
 
 #include <ostream>
 
@@ -26,9 +25,8 @@ void show(Host& host, Arguments& arguments) {
 void clear(Host& host, Arguments&) { host.events().clear(); }
 
 void types(Host& host, Arguments&) {
-    for (int type = 0; type <= static_cast<int>(zsg::EventType::LightLayerSynced); ++type) {
-        host.out() << type << ' ' << zsg::eventTypeString(static_cast<zsg::EventType>(type))
-                   << '\n';
+    for (zsg::EventType const type : zsg::allEventTypes) {
+        host.out() << static_cast<std::uint32_t>(type) << ' ' << zsg::eventTypeString(type) << '\n';
     }
 }
 

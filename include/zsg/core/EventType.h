@@ -2,6 +2,7 @@
 
 #include "zsg/Export.h"
 
+#include <array>
 #include <cstdint>
 
 namespace zsg {
@@ -23,6 +24,17 @@ enum class EventType : std::uint32_t {
     ColorwayUpdated = 11,
     LightLayerUpdated = 12,
     LightLayerSynced = 13,
+};
+
+/// Every kind, in the order of the numbers: the first has number 0, and none is left out.
+inline constexpr std::array allEventTypes{
+    EventType::MaterialUpdated,    EventType::MaterialDescriptionChanged,
+    EventType::ShaderNodeChanged,  EventType::CMFSchemaChanged,
+    EventType::PaintLayersUpdated, EventType::ViewportToolStarted,
+    EventType::ColorCreated,       EventType::ColorIdChange,
+    EventType::ColorUpdated,       EventType::ColorSynced,
+    EventType::ColorwaySynced,     EventType::ColorwayUpdated,
+    EventType::LightLayerUpdated,  EventType::LightLayerSynced,
 };
 
 /// A name for messages, static and never null. The light-layer kinds have none: they and every
