@@ -21,6 +21,7 @@ function(zsg_add_area area)
     target_link_libraries(${target}
         PUBLIC zsg_platform Qt6::Core nlohmann_json::nlohmann_json ${arg_LIBRARIES}
         PRIVATE zsg_warnings)
+    zsg_precompile(${target} library)
     set_property(GLOBAL APPEND PROPERTY ZSG_AREA_OBJECTS $<TARGET_OBJECTS:${target}>)
 endfunction()
 
@@ -31,6 +32,7 @@ function(zsg_add_test name)
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE
         ${arg_LIBRARIES} zsg_test_support zsg_warnings GTest::gmock GTest::gtest)
+    zsg_precompile(${name} tests)
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
         PROPERTIES TIMEOUT 300 LABELS "${arg_LABELS}")
 endfunction()
