@@ -33,6 +33,9 @@ gate_layering() {
     forbid "materials reach the event queue through the root's interface, and know no sibling" \
         'core/ZSceneGraph|(zsg/)?(colors|lightlayers|painting)/' \
         include/zsg/materials src/materials
+    forbid "light layers know neither the root nor a sibling" \
+        'core/ZSceneGraph|zsg/core/ISceneGraph|(zsg/)?(values|colors|materials|painting)/' \
+        include/zsg/lightlayers src/lightlayers
     forbid "platform declarations know nobody" 'zsg/' platform/include
     return $bad
 }

@@ -2,15 +2,18 @@
 
 #include "core/ZEventQueue.h"
 #include "core/postEvent.h"
+#include "lightlayers/ZLightLayerController.h"
 #include "materials/ZCMFManager.h"
 #include "materials/ZMaterialApi.h"
 #include "materials/ZMaterialHandler.h"
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/Events.h"
+#include "zsg/lightlayers/ZLightLayerApi.h"
 
 #include "nyxrender/nyxMessage.h"
 
+#include <utility>
 #include <vector>
 
 namespace zsg {
@@ -26,6 +29,10 @@ ZSceneGraph::ZSceneGraph(SceneGraphPars const& pars)
     colorDB_ = std::make_unique<ColorDB>(eventQueue_.get(), rtApi_);
     colorController_ = std::make_unique<ColorController>(colorDB_.get(), pars.sceneMaterialManager,
                                                          pars.undoStack);
+    auto lightLayerApi = std::make_unique<ZLightLayerApi>(eventQueue_.get(), rtApi_);
+    lightLayerController_ =
+        std::make_unique<ZLightLayerController>(lightLayerApi.get(), pars.undoStack);
+    lightLayerApi_ = std::move(lightLayerApi);
 }
 
 ZSceneGraph::~ZSceneGraph() = default;
@@ -62,6 +69,8 @@ ColorDB* ZSceneGraph::colorDB() const { return colorDB_.get(); }
 
 ColorController* ZSceneGraph::colorController() const { return colorController_.get(); }
 
-ILightLayerController* ZSceneGraph::lightLayerController() const { return nullptr; }
+ILightLayerController* ZSceneGraph::lightLayerController() const {
+    return lightLayerController_.get();
+}
 
 } // namespace zsg

@@ -7,6 +7,7 @@
 
 namespace zsg {
 
+class ILightLayerApi;
 class IMaterialApi;
 
 /// The root itself. The subsystems go in the reverse order of the members, so that the event queue
@@ -34,6 +35,8 @@ private:
     std::unique_ptr<ICMFManager> cmfManager_;
     std::unique_ptr<ColorDB> colorDB_;
     std::unique_ptr<ColorController> colorController_;
+    std::unique_ptr<ILightLayerApi> lightLayerApi_;
+    std::unique_ptr<ILightLayerController> lightLayerController_;
     nyxRT_api* rtApi_;
 };
 
