@@ -9,6 +9,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <ostream>
 
 #include <unistd.h>
 
@@ -122,6 +123,13 @@ std::string colorLine(Host& host, nyx::ColorId id) {
         line += ']';
     }
     return line;
+}
+
+void printColor(Host& host, nyx::ColorId id, char const* failure) {
+    if (!id.isValid()) {
+        throw CommandError(failure);
+    }
+    host.out() << "  " << colorLine(host, id) << '\n';
 }
 
 } // namespace app

@@ -29,6 +29,8 @@ nyxColor_rgba takeRgba(Arguments& arguments);
 
 /// A line about a colour: id, swatch, name.
 std::string colorLine(Host& host, nyx::ColorId id);
+/// Prints it; throws CommandError with the text `failure` for the invalid id.
+void printColor(Host& host, nyx::ColorId id, char const* failure);
 /// "#rrggbb", clamped; with a coloured block before it when the output is a terminal.
 std::string swatch(nyxColor_rgba const& color);
 

@@ -41,23 +41,23 @@ TEST_F(InterpreterTest, FailuresNameTheLineAndEndTheScriptUnlessItKeepsGoing) {
 
     std::string const tooLong(app::longestLine + 5, 'x');
     EXPECT_EQ(
-        script("undo\nedit name Ivory\nedit name Nobody X\nhelp \x80\ncolor list plain all\n" +
-                   tooLong + "\ngoto 99\nexpect undo 0\n",
+        script("undo\ncolor name Ivory\ncolor name Nobody X\nhelp \x80\ncolor list plain all\n" +
+                   tooLong + "\nhistory goto 99\nexpect undo 0\n",
                true),
         7);
     EXPECT_EQ(errors.str(), "test.zsg:1: undo: there is nothing to undo\n"
-                            "test.zsg:2: edit name: expected a name\n"
-                            "test.zsg:3: edit name: the scene has no colour \"Nobody\"\n"
+                            "test.zsg:2: color name: expected a name\n"
+                            "test.zsg:3: color name: the scene has no colour \"Nobody\"\n"
                             "test.zsg:4: byte 6 is not valid UTF-8\n"
                             "test.zsg:5: color list: unexpected \"all\"\n"
                             "test.zsg:6: the line is longer than 1048576 bytes\n"
-                            "test.zsg:7: goto: there is no way to that place\n");
+                            "test.zsg:7: history goto: there is no way to that place\n");
 }
 
 TEST_F(InterpreterTest, ExpectationsCountWhatHappenedAndFailWhenItDidNot) {
     EXPECT_EQ(script("pump\nexpect events 0\n"), 1) << "loading announces every colour";
     EXPECT_EQ(script("events show off\nevents clear\nscene keep start\n"
-                     "edit color Teal 0.1 0.2 0.3\n"
+                     "color set Teal 0.1 0.2 0.3\n"
                      "expect events 1 ColorUpdated\nexpect events 2\nexpect events 0\n"
                      "expect undo 1\nexpect text \"Set Color\"\nexpect contains \"Teal\"\n"
                      "expect failure \"differs from\" expect scene start\n"
@@ -80,7 +80,7 @@ TEST_F(InterpreterTest, AWordTooManyStopsACommandBeforeItActs) {
     ASSERT_EQ(script("events show off\nweave make w twill 4 2\ngradient make g\n"
                      "gradient add g 0 1 1 1\ncurve make c\n"
                      "curve load c UU 0 0 0 0 1 1 1 1 1 1 2 2\nvalue make v Integer 3\n"
-                     "edit name Teal Petrol\nedit drag Petrol 0 0 0 in 2\nundo\n"),
+                     "color name Teal Petrol\ncolor drag Petrol 0 0 0 in 2\nundo\n"),
               0)
         << errors.str();
     auto const state = [this] {
@@ -93,21 +93,22 @@ TEST_F(InterpreterTest, AWordTooManyStopsACommandBeforeItActs) {
         return out.str();
     };
     std::string const before = state();
-    std::istringstream rows("undo 1\nredo 1\ngoto 0\nmacro begin X\nhistory limit 1\n"
-                            "history clean\njournal record on\nfault scene on\nevents clear\n"
-                            "color create X 1 1 1 1\ncolor push Petrol 1 1 1 1\n"
-                            "color temp 1 1 1 1\ncolor clone Petrol\ncolor wrap Petrol\n"
-                            "color show Petrol\ncolor switch 38 14\n"
-                            "renderer color Petrol 1 1 1 1\nrenderer remove Petrol\n"
-                            "colorway apply 2\nrenderer colorway 2\nedit name Petrol X\n"
-                            "edit color Petrol 1 1 1 1\nedit toggle Petrol\nway apply 2\n"
-                            "way delete 2\nvalue make v Integer 4\nvalue set v 4\n"
-                            "weave make w plain\nweave flip w 0 0\nweave invert w\n"
-                            "weave size w 2 2\nweave yarn w warp width 2\n"
-                            "weave yarn w weft kind ribbon\ncurve make c\ncurve insert c 0.5\n"
-                            "curve pos c 0 3 3\ncurve type c 0 L\ncurve weight-out c 0 3\n"
-                            "curve remove c 0\ngradient make g\ngradient blend g off\n"
-                            "gradient size g 9\nquit\n");
+    std::istringstream rows(
+        "undo 1\nredo 1\nhistory goto 0\nmacro begin X\nhistory limit 1\n"
+        "history clean\njournal record on\nfault scene on\nevents clear\n"
+        "raw color create X 1 1 1 1\nraw color push Petrol 1 1 1 1\n"
+        "raw color temp 1 1 1 1\nraw color clone Petrol\nraw color wrap Petrol\n"
+        "color show Petrol\nraw multi switch 38 14\n"
+        "renderer color Petrol 1 1 1 1\nrenderer remove Petrol\n"
+        "raw colorway apply 2\nrenderer colorway 2\ncolor name Petrol X\n"
+        "color set Petrol 1 1 1 1\ncolor toggle Petrol\ncolorway apply 2\n"
+        "colorway delete 2\nvalue make v Integer 4\nvalue set v 4\n"
+        "weave make w plain\nweave flip w 0 0\nweave invert w\n"
+        "weave size w 2 2\nweave yarn w warp width 2\n"
+        "weave yarn w weft kind ribbon\ncurve make c\ncurve insert c 0.5\n"
+        "curve pos c 0 3 3\ncurve type c 0 L\ncurve weight-out c 0 3\n"
+        "curve remove c 0\ngradient make g\ngradient blend g off\n"
+        "gradient size g 9\nquit\n");
     for (std::string line; std::getline(rows, line);) {
         try {
             interpreter.run(line + " surplus");
@@ -123,7 +124,7 @@ TEST_F(InterpreterTest, AWordTooManyStopsACommandBeforeItActs) {
 }
 
 TEST_F(InterpreterTest, LoadingABrokenSceneLeavesEverythingAsItWas) {
-    EXPECT_EQ(script("events show off\nedit name Teal Petrol\nscene keep before\n"
+    EXPECT_EQ(script("events show off\ncolor name Teal Petrol\nscene keep before\n"
                      "expect failure showroom-that-is-not-there "
                      "scene load showroom-that-is-not-there.json\n"
                      "expect scene before\nexpect undo 1\nundo\n"),
@@ -134,7 +135,7 @@ TEST_F(InterpreterTest, LoadingABrokenSceneLeavesEverythingAsItWas) {
 TEST_F(InterpreterTest, JsonLinesAnswerEveryRequest) {
     std::string const deep = "{\"id\": " + std::string(400'000, '[') + std::string(400'000, ']') +
                              ", \"command\": \"undo\"}\n";
-    std::istringstream in("{\"id\": 7, \"command\": \"edit name Teal Petrol\"}\n"
+    std::istringstream in("{\"id\": 7, \"command\": \"color name Teal Petrol\"}\n"
                           "{\"command\": [\"color\", \"unique\", \"Petrol\"]}\n"
                           "not json\n[]\n{\"command\": 3}\n{\"command\": [1]}\n"
                           "{\"command\": [\"edit\", \"name\", \"Petrol\", \"a\\u0000b\"]}\n" +

@@ -1,10 +1,8 @@
-// The colour database: what can be read, and what is changed without undo.
-
 #include "host/ColorArguments.h"
 #include "host/Command.h"
 #include "host/Host.h"
 
-#include "nyxrender/nyxRT_api.h"
+#include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/ISceneGraph.h"
 
@@ -16,17 +14,14 @@ namespace {
 
 zsg::ColorDB& db(Host& host) { return *host.root().colorDB(); }
 
+zsg::ColorController& controller(Host& host) { return *host.root().colorController(); }
+
+constexpr int mostSteps = 100'000;
+
 void printAll(Host& host, std::vector<nyx::ColorId> const& ids) {
     for (nyx::ColorId const id : ids) {
         host.out() << "  " << colorLine(host, id) << '\n';
     }
-}
-
-void printNew(Host& host, nyx::ColorId id) {
-    if (!id.isValid()) {
-        throw CommandError("no colour could be made");
-    }
-    host.out() << "  " << colorLine(host, id) << '\n';
 }
 
 void list(Host& host, Arguments& arguments) {
@@ -57,70 +52,6 @@ void show(Host& host, Arguments& arguments) {
     for (nyx::ColorId const sub : subs) {
         host.out() << (sub == active ? "  * " : "    ") << colorLine(host, sub) << '\n';
     }
-}
-
-void create(Host& host, Arguments& arguments) {
-    ZColorExt color;
-    color.setColorName(arguments.word("a name"));
-    nyxColor_rgba const rgba = takeRgba(arguments);
-    arguments.done();
-    ZColorExt::ZColorWithId const element(ZColor(rgba, color.getColorName()), nyx::ColorId());
-    color.setColors({&element, 1});
-    db(host).pushColor(color);
-    printNew(host, color.getId());
-}
-
-void createMulti(Host& host, Arguments& arguments) {
-    std::string const name = arguments.word("a name");
-    std::vector<nyx::ColorId> const subs = takeColors(host, arguments);
-    ZColorExt color;
-    color.setMultiColor(true);
-    color.setColorName(name);
-    std::vector<ZColorExt::ZColorWithId> elements;
-    elements.reserve(subs.size());
-    for (nyx::ColorId const sub : subs) {
-        elements.emplace_back(ZColor(db(host).colorFromId(sub)), sub);
-    }
-    color.setColors(elements);
-    db(host).pushColor(color);
-    printNew(host, color.getId());
-}
-
-void pushValue(Host& host, Arguments& arguments) {
-    nyx::ColorId const id = takeColor(host, arguments);
-    nyxColor_rgba const rgba = takeRgba(arguments);
-    arguments.done();
-    ZColorExt color = db(host).colorFromId(id);
-    color.setColor(ZColor(rgba), ZColorExt::NameOp::Keep);
-    db(host).pushColor(color);
-}
-
-void pushTemp(Host& host, Arguments& arguments) {
-    nyxColor_rgba const rgba = takeRgba(arguments);
-    arguments.done();
-    ZColorExt color(rgba.r, rgba.g, rgba.b, rgba.a);
-    db(host).pushTempColor(color);
-    printNew(host, color.getId());
-}
-
-void clone(Host& host, Arguments& arguments) {
-    nyx::ColorId const id = takeColor(host, arguments);
-    bool const deep = arguments.flag("deep");
-    arguments.done();
-    printNew(host, deep ? db(host).cloneRecursively(id) : db(host).clone(id));
-}
-
-void wrap(Host& host, Arguments& arguments) {
-    nyx::ColorId const id = takeColor(host, arguments);
-    arguments.done();
-    printNew(host, db(host).multiColorFromColor(id));
-}
-
-void switchSub(Host& host, Arguments& arguments) {
-    nyx::ColorId const multi = takeColor(host, arguments, "a multi-colour");
-    nyx::ColorId const sub = takeColor(host, arguments, "a sub-colour");
-    arguments.done();
-    db(host).setActiveSubColor({multi, sub});
 }
 
 void references(Host& host, Arguments& arguments) {
@@ -166,40 +97,102 @@ void find(Host& host, Arguments& arguments) {
     print("colorway", db(host).colorwayFromName(*lock, name));
 }
 
-void rendererSets(Host& host, Arguments& arguments) {
+void set(Host& host, Arguments& arguments) {
     nyx::ColorId const id = takeColor(host, arguments);
     nyxColor_rgba const rgba = takeRgba(arguments);
+    std::string const name = arguments.flag("name") ? arguments.word("a name") : std::string();
+    auto const merge =
+        arguments.flag("last") ? zsg::AllowForwardUndoMerge::No : zsg::AllowForwardUndoMerge::Yes;
     arguments.done();
-    host.renderer().changeColor(id, rgba);
+    controller(host).setColor(id, ZColor(rgba, name), merge);
 }
 
-void rendererRemoves(Host& host, Arguments& arguments) {
+void drag(Host& host, Arguments& arguments) {
+    nyx::ColorId const id = takeColor(host, arguments);
+    nyxColor_rgba const to = takeRgba(arguments);
+    arguments.oneOf({"in"});
+    int const steps = arguments.integer("a number of steps");
+    arguments.done();
+    if (steps < 1 || steps > mostSteps) {
+        throw CommandError("expected 1 to " + std::to_string(mostSteps) + " steps");
+    }
+    nyxColor_rgba const from = host.root().colorDB()->getColorParameters(id)
+                                   ? host.root().colorDB()->getColorParameters(id)->color()
+                                   : nyxColor_rgba{};
+    for (int i = 1; i <= steps; ++i) {
+        float const t = static_cast<float>(i) / static_cast<float>(steps);
+        auto const mix = [t](float a, float b) { return a + (b - a) * t; };
+        controller(host).setColor(
+            id, ZColor(mix(from.r, to.r), mix(from.g, to.g), mix(from.b, to.b), mix(from.a, to.a)),
+            i == steps ? zsg::AllowForwardUndoMerge::No : zsg::AllowForwardUndoMerge::Yes);
+    }
+}
+
+void name(Host& host, Arguments& arguments) {
+    nyx::ColorId const id = takeColor(host, arguments);
+    std::string const text = arguments.word("a name");
+    arguments.done();
+    controller(host).setDisplayName(id, text);
+}
+
+void flags(Host& host, Arguments& arguments) {
+    nyx::ColorId const id = takeColor(host, arguments);
+    int const bits = arguments.integer("flag bits");
+    bool const on = arguments.onOff();
+    arguments.done();
+    controller(host).setFlags(id, bits, on);
+}
+
+void toggle(Host& host, Arguments& arguments) {
     nyx::ColorId const id = takeColor(host, arguments);
     arguments.done();
-    host.renderer().removeColor(id);
+    try {
+        printColor(host, controller(host).toggleMultiColor(id), "nothing was changed");
+    } catch (std::bad_optional_access const&) {
+        throw CommandError("the colour has no name and there is none to be had");
+    }
+}
+
+void link(Host& host, Arguments& arguments) {
+    nyx::ColorId const from = takeColor(host, arguments);
+    nyx::ColorId const to = takeColor(host, arguments);
+    arguments.done();
+    controller(host).linkColor(from, to);
+}
+
+void uses(Host& host, Arguments& arguments) {
+    if (arguments.empty()) {
+        host.out() << (controller(host).anyMultiColorInUse() ? "a multi-colour is in use"
+                                                             : "no multi-colour is in use")
+                   << '\n';
+        return;
+    }
+    nyx::ColorId const id = takeColor(host, arguments);
+    arguments.done();
+    host.out() << controller(host).activeReferenceCount(id) << '\n';
 }
 
 constexpr Command table[] = {
     {"color list", "[plain|multi|named]", "list colours", list},
     {"color show", "COLOR", "all about a colour", show},
-    {"color create", "NAME R G B [A]", "push a new colour (no undo)", create},
-    {"color create-multi", "NAME SUB...", "push a new multi-colour (no undo)", createMulti},
-    {"color push", "COLOR R G B [A]", "push a value (no undo)", pushValue},
-    {"color temp", "R G B [A]", "push the temporary colour", pushTemp},
-    {"color clone", "COLOR [deep]", "make a copy, deep: of its sub-colours too (no undo)", clone},
-    {"color wrap", "COLOR", "make a multi-colour that holds it (no undo)", wrap},
-    {"color switch", "MULTI SUB", "make a sub-colour the active one (no undo)", switchSub},
+    {"color find", "NAME", "look a name up", find},
+    {"color unique", "NAME", "find a name that no colour has", unique},
     {"color references", "COLOR", "count the places that use a colour", references},
     {"color materials", "COLOR [direct|multi] [all]",
      "list the materials that use a colour, all: also those without objects", materials},
-    {"color unique", "NAME", "find a name that no colour has", unique},
-    {"color find", "NAME", "look a name up", find},
-    {"renderer color", "COLOR R G B [A]", "change a value on the renderer's side", rendererSets},
-    {"renderer remove", "COLOR", "take a record away on the renderer's side", rendererRemoves},
+    {"color uses", "[COLOR]", "count the materials in use that use a colour", uses},
+    {"color set", "COLOR R G B [A] [name NAME] [last]",
+     "set a value; the next one merges unless this is the last", set},
+    {"color drag", "COLOR R G B [A] in STEPS", "set a value in steps that merge, as a picker does",
+     drag},
+    {"color name", "COLOR NAME", "rename a colour", name},
+    {"color flags", "COLOR BITS on|off", "set or clear flags of a plain colour", flags},
+    {"color toggle", "COLOR", "make a multi-colour of it, or one of its sub-colours", toggle},
+    {"color link", "FROM TO", "bind all materials that use FROM to TO", link},
 };
 
 } // namespace
 
-Family colorFamily() { return {"colours: look at them, and change them without undo", table}; }
+Family colorFamily() { return {"colours: look at them and edit them", table}; }
 
 } // namespace app

@@ -1,9 +1,8 @@
-// The colorways of the colour database: read, and changed without undo.
-
 #include "host/ColorArguments.h"
 #include "host/Command.h"
 #include "host/Host.h"
 
+#include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/ISceneGraph.h"
 
@@ -14,6 +13,8 @@ namespace app {
 namespace {
 
 zsg::ColorDB& db(Host& host) { return *host.root().colorDB(); }
+
+zsg::ColorController& controller(Host& host) { return *host.root().colorController(); }
 
 void list(Host& host, Arguments&) {
     auto const span = db(host).colorways();
@@ -45,32 +46,6 @@ void show(Host& host, Arguments& arguments) {
     }
 }
 
-void create(Host& host, Arguments& arguments) {
-    std::string const name = arguments.word("a name");
-    std::vector<zsg::MultiColorPair> const pairs = takePairs(host, arguments);
-    nyx::ColorwayId const id = db(host).createColorway();
-    zsg::ZColorwayEdit* const edit = id.isValid() ? db(host).getColorwayParameters(id) : nullptr;
-    if (!edit) {
-        throw CommandError("no colorway could be made");
-    }
-    std::vector<nyx::ColorId> multis;
-    std::vector<nyx::ColorId> subs;
-    for (zsg::MultiColorPair const& pair : pairs) {
-        multis.push_back(pair.multiColor);
-        subs.push_back(pair.subColor);
-    }
-    edit->setDisplayName(name);
-    edit->setPairs(multis, subs);
-    db(host).pushColorway(id);
-    host.out() << "  " << id.toUint() << ' ' << name << '\n';
-}
-
-void apply(Host& host, Arguments& arguments) {
-    nyx::ColorwayId const id = takeColorway(host, arguments);
-    arguments.done();
-    db(host).applyColorway(id);
-}
-
 void active(Host& host, Arguments&) {
     nyx::ColorwayId const id = db(host).activeColorwayId();
     host.out() << (id.isValid() ? std::to_string(id.toUint()) + ' ' + db(host).activeColorwayName()
@@ -78,40 +53,73 @@ void active(Host& host, Arguments&) {
                << '\n';
 }
 
-void unused(Host& host, Arguments& arguments) {
-    nyx::ColorwayId const id = takeColorway(host, arguments);
-    arguments.done();
-    db(host).checkForUnusedMultiColors(id);
-}
-
-void push(Host& host, Arguments& arguments) {
-    nyx::ColorwayId const id = takeColorway(host, arguments);
-    arguments.done();
-    db(host).pushColorway(id);
-}
-
-void rendererActivates(Host& host, Arguments& arguments) {
-    nyx::ColorwayId const id = takeColorway(host, arguments);
-    arguments.done();
-    if (!host.renderer().activateColorway(id)) {
-        throw CommandError("the renderer has no such colorway");
+void create(Host& host, Arguments& arguments) {
+    std::string const text = arguments.word("a name");
+    nyx::ColorwayId const id = controller(host).createColorway(text, takePairs(host, arguments));
+    if (!id.isValid()) {
+        throw CommandError("no colorway could be made");
     }
+    host.out() << "  " << id.toUint() << ' ' << text << '\n';
+}
+
+void apply(Host& host, Arguments& arguments) {
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    arguments.done();
+    controller(host).applyColorway(id);
+}
+
+void name(Host& host, Arguments& arguments) {
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    std::string const text = arguments.word("a name");
+    arguments.done();
+    controller(host).setDisplayName(id, text);
+}
+
+void set(Host& host, Arguments& arguments) {
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    controller(host).setColors(id, takePairs(host, arguments));
+}
+
+void add(Host& host, Arguments& arguments) {
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    int const index = arguments.integer("a position");
+    bool const replace = arguments.oneOf({"replace", "keep"}) == "replace";
+    controller(host).addColors(id, takePairs(host, arguments), index, replace);
+}
+
+void remove(Host& host, Arguments& arguments) {
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    controller(host).removeMultiColors(id, takeColors(host, arguments));
+}
+
+void markDeleted(Host& host, Arguments& arguments) {
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    arguments.done();
+    controller(host).setDeleted(id, true);
+}
+
+void restore(Host& host, Arguments& arguments) {
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    arguments.done();
+    controller(host).setDeleted(id, false);
 }
 
 constexpr Command table[] = {
     {"colorway list", "", "list colorways, * marks the active one", list},
     {"colorway show", "COLORWAY", "show what it makes of each multi-colour", show},
-    {"colorway create", "NAME MULTI:SUB...", "make a colorway (no undo)", create},
-    {"colorway apply", "COLORWAY", "switch to it (no undo)", apply},
     {"colorway active", "", "show the active one", active},
-    {"colorway unused", "COLORWAY", "take multi-colours out that nothing uses (not committed)",
-     unused},
-    {"colorway push", "COLORWAY", "commit what was changed", push},
-    {"renderer colorway", "COLORWAY", "switch to it on the renderer's side", rendererActivates},
+    {"colorway create", "NAME MULTI:SUB...", "make a colorway", create},
+    {"colorway apply", "COLORWAY", "switch to a colorway", apply},
+    {"colorway name", "COLORWAY NAME", "rename a colorway", name},
+    {"colorway set", "COLORWAY MULTI:SUB...", "replace what a colorway covers", set},
+    {"colorway add", "COLORWAY INDEX replace|keep MULTI:SUB...", "add to a colorway", add},
+    {"colorway remove", "COLORWAY MULTI...", "take multi-colours out of a colorway", remove},
+    {"colorway delete", "COLORWAY", "mark a colorway as deleted", markDeleted},
+    {"colorway restore", "COLORWAY", "bring a deleted colorway back", restore},
 };
 
 } // namespace
 
-Family colorwayFamily() { return {"colorways: look at them, and change them without undo", table}; }
+Family colorwayFamily() { return {"colorways: look at them, switch and edit them", table}; }
 
 } // namespace app

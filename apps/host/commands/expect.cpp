@@ -1,20 +1,15 @@
 #include "host/CommandTable.h"
 #include "host/Host.h"
 #include "host/Interpreter.h"
+#include "host/KeptScenes.h"
 
 #include <algorithm>
-#include <map>
 #include <set>
 #include <sstream>
 
 namespace app {
 
 namespace {
-
-/// Dumps that a script keeps to compare with.
-struct Dumps {
-    std::map<std::string, std::string> byName;
-};
 
 void compare(std::string const& what, long long expected, long long found) {
     if (expected != found) {
@@ -61,15 +56,9 @@ void cleanState(Host& host, Arguments& arguments) {
     }
 }
 
-void keep(Host& host, Arguments& arguments) {
-    std::string const name = arguments.word("a name for the state");
-    arguments.done();
-    host.state<Dumps>().byName[name] = host.renderer().dump();
-}
-
 void same(Host& host, Arguments& arguments) {
     std::string const name = arguments.word("the name of a kept state");
-    auto const& dumps = host.state<Dumps>().byName;
+    auto const& dumps = host.state<KeptScenes>().byName;
     auto const found = dumps.find(name);
     if (found == dumps.end()) {
         throw CommandError("no state is kept as \"" + name + "\"");
@@ -90,7 +79,7 @@ void same(Host& host, Arguments& arguments) {
 
 void kept(Host& host, Arguments& arguments) {
     std::string const name = arguments.word("the name of a kept state");
-    auto const& dumps = host.state<Dumps>().byName;
+    auto const& dumps = host.state<KeptScenes>().byName;
     auto const found = dumps.find(name);
     if (found == dumps.end()) {
         throw CommandError("no state is kept as \"" + name + "\"");
@@ -159,7 +148,6 @@ constexpr Command table[] = {
     {"expect redo", "N", "so many edits can be redone", redo},
     {"expect text", "TEXT", "the last edit's text", undoText},
     {"expect clean", "yes|no", "whether the saved state is the present one", cleanState},
-    {"scene keep", "NAME", "keep the present state to compare with", keep},
     {"expect scene", "NAME", "the scene is as it was when it was kept", same},
     {"expect kept", "NAME", "all that was kept is as it was; new records do not count", kept},
     {"expect contains", "TEXT", "the scene's listing contains TEXT", contains},

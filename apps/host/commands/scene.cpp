@@ -1,5 +1,6 @@
 #include "host/Command.h"
 #include "host/Host.h"
+#include "host/KeptScenes.h"
 
 #include <ostream>
 
@@ -25,62 +26,21 @@ void save(Host& host, Arguments& arguments) {
     }
 }
 
-void pump(Host& host, Arguments&) { host.pump(); }
-
-void recordJournal(Host& host, Arguments& arguments) {
-    bool const on = arguments.onOff();
+void keep(Host& host, Arguments& arguments) {
+    std::string const name = arguments.word("a name for the state");
     arguments.done();
-    host.renderer().recordJournal(on);
-}
-
-void showJournal(Host& host, Arguments&) {
-    for (std::string const& line : host.renderer().takeJournal()) {
-        host.out() << line << '\n';
-    }
-}
-
-void ledger(Host& host, Arguments&) {
-    nyx::embedded::Ledger const l = host.renderer().ledger();
-    host.out() << "blocks " << l.blocks << ", arrays " << l.arrays << ", aligned "
-               << l.alignedBlocks << ", texts " << l.texts << ", lock depth " << l.lockDepth
-               << ", strings " << l.strings << '\n';
-}
-
-void fault(Host& host, Arguments& arguments) {
-    nyx::embedded::Faults& faults = host.renderer().faults();
-    std::string const name =
-        arguments.oneOf({"creations", "unique-names", "scene", "notifications", "settings"});
-    if (name == "creations") {
-        int const count = arguments.integer("how many creations fail");
-        arguments.done();
-        faults.failCreations = count;
-        return;
-    }
-    bool const on = arguments.onOff();
-    arguments.done();
-    bool& fault = name == "unique-names" ? faults.noUniqueNames
-                  : name == "scene"      ? faults.noScene
-                  : name == "settings"   ? faults.noSettings
-                                         : faults.holdNotifications;
-    fault = on;
+    host.state<KeptScenes>().byName[name] = host.renderer().dump();
 }
 
 constexpr Command table[] = {
     {"scene", "", "show everything that the scene holds", show},
     {"scene load", "PATH", "replace the scene; the history is cleared", load},
     {"scene save", "PATH", "write the scene", save},
-    {"pump", "", "deliver what the renderer has to say (every command does)", pump},
-    {"journal record", "on|off", "record the calls to the renderer", recordJournal},
-    {"journal", "", "show and forget the recorded calls", showJournal},
-    {"ledger", "", "show what the renderer has lent out", ledger},
-    {"fault", "NAME N|on|off",
-     "let the renderer fail: creations, unique-names, scene, settings, "
-     "notifications",
-     fault},
+    {"scene keep", "NAME", "keep the present state, for expect scene", keep},
 };
 
 } // namespace
 
-Family sceneFamily() { return {"the scene, and the renderer behind it", table}; }
+Family sceneFamily() { return {"the whole scene: show, load, save", table}; }
 
 } // namespace app

@@ -1,0 +1,49 @@
+#include "host/Command.h"
+#include "host/Host.h"
+
+#include <ostream>
+
+namespace app {
+
+namespace {
+
+void list(Host& host, Arguments&) {
+    ZUndoStack const& stack = host.undoStack();
+    for (int i = 0; i < stack.count(); ++i) {
+        host.out() << (i < stack.index() ? "  done   " : "  undone ") << i + 1 << ' '
+                   << stack.text(i).toStdString() << (i + 1 == stack.cleanIndex() ? " *" : "")
+                   << '\n';
+    }
+}
+
+void goTo(Host& host, Arguments& arguments) {
+    int const index = arguments.integer("how many entries are done");
+    arguments.done();
+    if (!host.undoStack().goTo(index)) {
+        throw CommandError("there is no way to that place");
+    }
+}
+
+void clean(Host& host, Arguments&) { host.undoStack().setClean(); }
+
+void limit(Host& host, Arguments& arguments) {
+    int const entries = arguments.integer("how many entries are kept");
+    arguments.done();
+    if (entries < 0) {
+        throw CommandError("expected 0 or more");
+    }
+    host.undoStack().setLimit(entries);
+}
+
+constexpr Command table[] = {
+    {"history", "", "list the edits, * marks the saved state", list},
+    {"history goto", "N", "undo or redo until N edits are done", goTo},
+    {"history clean", "", "mark the present state as saved", clean},
+    {"history limit", "N", "keep at most N edits, 0 keeps all", limit},
+};
+
+} // namespace
+
+Family historyFamily() { return {"the list of edits", table}; }
+
+} // namespace app

@@ -1,0 +1,141 @@
+// What the colour database lets a program change past the undo stack.
+
+#include "host/ColorArguments.h"
+#include "host/Command.h"
+#include "host/Host.h"
+
+#include "nyxrender/nyxRT_api.h"
+#include "zsg/colors/ColorDB.h"
+#include "zsg/core/ISceneGraph.h"
+
+#include <ostream>
+
+namespace app {
+
+namespace {
+
+zsg::ColorDB& db(Host& host) { return *host.root().colorDB(); }
+
+void createColor(Host& host, Arguments& arguments) {
+    ZColorExt color;
+    color.setColorName(arguments.word("a name"));
+    nyxColor_rgba const rgba = takeRgba(arguments);
+    arguments.done();
+    ZColorExt::ZColorWithId const element(ZColor(rgba, color.getColorName()), nyx::ColorId());
+    color.setColors({&element, 1});
+    db(host).pushColor(color);
+    printColor(host, color.getId(), "no colour could be made");
+}
+
+void createMulti(Host& host, Arguments& arguments) {
+    std::string const name = arguments.word("a name");
+    std::vector<nyx::ColorId> const subs = takeColors(host, arguments);
+    ZColorExt color;
+    color.setMultiColor(true);
+    color.setColorName(name);
+    std::vector<ZColorExt::ZColorWithId> elements;
+    elements.reserve(subs.size());
+    for (nyx::ColorId const sub : subs) {
+        elements.emplace_back(ZColor(db(host).colorFromId(sub)), sub);
+    }
+    color.setColors(elements);
+    db(host).pushColor(color);
+    printColor(host, color.getId(), "no colour could be made");
+}
+
+void pushColor(Host& host, Arguments& arguments) {
+    nyx::ColorId const id = takeColor(host, arguments);
+    nyxColor_rgba const rgba = takeRgba(arguments);
+    arguments.done();
+    ZColorExt color = db(host).colorFromId(id);
+    color.setColor(ZColor(rgba), ZColorExt::NameOp::Keep);
+    db(host).pushColor(color);
+}
+
+void pushTemporary(Host& host, Arguments& arguments) {
+    nyxColor_rgba const rgba = takeRgba(arguments);
+    arguments.done();
+    ZColorExt color(rgba.r, rgba.g, rgba.b, rgba.a);
+    db(host).pushTempColor(color);
+    printColor(host, color.getId(), "no colour could be made");
+}
+
+void clone(Host& host, Arguments& arguments) {
+    nyx::ColorId const id = takeColor(host, arguments);
+    bool const deep = arguments.flag("deep");
+    arguments.done();
+    printColor(host, deep ? db(host).cloneRecursively(id) : db(host).clone(id),
+               "no colour could be made");
+}
+
+void wrap(Host& host, Arguments& arguments) {
+    nyx::ColorId const id = takeColor(host, arguments);
+    arguments.done();
+    printColor(host, db(host).multiColorFromColor(id), "no colour could be made");
+}
+
+void switchSub(Host& host, Arguments& arguments) {
+    nyx::ColorId const multi = takeColor(host, arguments, "a multi-colour");
+    nyx::ColorId const sub = takeColor(host, arguments, "a sub-colour");
+    arguments.done();
+    db(host).setActiveSubColor({multi, sub});
+}
+
+void createColorway(Host& host, Arguments& arguments) {
+    std::string const name = arguments.word("a name");
+    std::vector<zsg::MultiColorPair> const pairs = takePairs(host, arguments);
+    nyx::ColorwayId const id = db(host).createColorway();
+    zsg::ZColorwayEdit* const edit = id.isValid() ? db(host).getColorwayParameters(id) : nullptr;
+    if (!edit) {
+        throw CommandError("no colorway could be made");
+    }
+    std::vector<nyx::ColorId> multis;
+    std::vector<nyx::ColorId> subs;
+    for (zsg::MultiColorPair const& pair : pairs) {
+        multis.push_back(pair.multiColor);
+        subs.push_back(pair.subColor);
+    }
+    edit->setDisplayName(name);
+    edit->setPairs(multis, subs);
+    db(host).pushColorway(id);
+    host.out() << "  " << id.toUint() << ' ' << name << '\n';
+}
+
+void applyColorway(Host& host, Arguments& arguments) {
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    arguments.done();
+    db(host).applyColorway(id);
+}
+
+void checkUnused(Host& host, Arguments& arguments) {
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    arguments.done();
+    db(host).checkForUnusedMultiColors(id);
+}
+
+void pushColorway(Host& host, Arguments& arguments) {
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    arguments.done();
+    db(host).pushColorway(id);
+}
+
+constexpr Command table[] = {
+    {"raw color create", "NAME R G B [A]", "push a new colour", createColor},
+    {"raw color push", "COLOR R G B [A]", "push a value", pushColor},
+    {"raw color temp", "R G B [A]", "push the temporary colour", pushTemporary},
+    {"raw color clone", "COLOR [deep]", "make a copy, deep: of its sub-colours too", clone},
+    {"raw color wrap", "COLOR", "make a multi-colour that holds it", wrap},
+    {"raw multi create", "NAME SUB...", "push a new multi-colour", createMulti},
+    {"raw multi switch", "MULTI SUB", "make a sub-colour the active one", switchSub},
+    {"raw colorway create", "NAME MULTI:SUB...", "make a colorway", createColorway},
+    {"raw colorway apply", "COLORWAY", "switch to it", applyColorway},
+    {"raw colorway unused", "COLORWAY", "take multi-colours out that nothing uses (not committed)",
+     checkUnused},
+    {"raw colorway push", "COLORWAY", "commit what was changed", pushColorway},
+};
+
+} // namespace
+
+Family rawFamily() { return {"changes past the undo stack", table}; }
+
+} // namespace app

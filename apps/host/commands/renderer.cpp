@@ -1,0 +1,42 @@
+// What the renderer does by itself, behind the library's back.
+
+#include "host/ColorArguments.h"
+#include "host/Command.h"
+#include "host/Host.h"
+
+namespace app {
+
+namespace {
+
+void changeColor(Host& host, Arguments& arguments) {
+    nyx::ColorId const id = takeColor(host, arguments);
+    nyxColor_rgba const rgba = takeRgba(arguments);
+    arguments.done();
+    host.renderer().changeColor(id, rgba);
+}
+
+void removeColor(Host& host, Arguments& arguments) {
+    nyx::ColorId const id = takeColor(host, arguments);
+    arguments.done();
+    host.renderer().removeColor(id);
+}
+
+void activateColorway(Host& host, Arguments& arguments) {
+    nyx::ColorwayId const id = takeColorway(host, arguments);
+    arguments.done();
+    if (!host.renderer().activateColorway(id)) {
+        throw CommandError("the renderer has no such colorway");
+    }
+}
+
+constexpr Command table[] = {
+    {"renderer color", "COLOR R G B [A]", "change a value on the renderer's side", changeColor},
+    {"renderer remove", "COLOR", "take a record away on the renderer's side", removeColor},
+    {"renderer colorway", "COLORWAY", "switch to it on the renderer's side", activateColorway},
+};
+
+} // namespace
+
+Family rendererFamily() { return {"what the renderer does by itself", table}; }
+
+} // namespace app
