@@ -1,0 +1,244 @@
+#include "store/Surface.h"
+
+#include "paint/composite.h"
+#include "paint/paintStroke.h"
+#include "store/Journal.h"
+#include "store/StringPool.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace nyx::embedded {
+
+using Guard = std::lock_guard<std::mutex>;
+
+Surface::Surface(nyx::SurfaceId id, std::string name, int resolution)
+    : id_(id), name_(std::move(name)), resolution_(resolution) {
+    layers_.push_back({LayerInfo{1, {}, {}, false, true, {}}, LayerPixels(resolution)});
+}
+
+Surface::Surface(SurfaceInfo const& info, std::vector<Layer> layers)
+    : id_(info.id),
+      name_(info.name),
+      resolution_(info.resolution),
+      deleted_(info.deleted),
+      editLayer_(info.editLayer),
+      layers_(std::move(layers)) {}
+
+void Surface::belongTo(StringPool& strings, Journal& journal) {
+    strings_ = &strings;
+    journal_ = &journal;
+}
+
+nyx::SurfaceId Surface::id() const { return id_; }
+
+bool Surface::deleted() const {
+    Guard const guard(mutex_);
+    return deleted_;
+}
+
+void Surface::set_deleted(bool deleted) {
+    journal_->write("set_deleted", id_, deleted);
+    Guard const guard(mutex_);
+    deleted_ = deleted;
+}
+
+nyx::Unique_array<nyxLayerInfo> Surface::layers() const {
+    Guard const guard(mutex_);
+    std::vector<nyxLayerInfo> records;
+    records.reserve(layers_.size());
+    for (auto const& [layer, pixels] : layers_) {
+        records.push_back({layer.mode, layer.deleted, layer.visible, strings_->intern(layer.name),
+                           layer.background, layer.id});
+    }
+    return {records.data(), records.size()};
+}
+
+std::uint32_t Surface::edit_layer() const {
+    Guard const guard(mutex_);
+    return editLayer_;
+}
+
+Surface::Layer* Surface::at(std::uint32_t index) {
+    if (index < layers_.size()) {
+        return &layers_[index];
+    }
+    ++ignoredCalls_;
+    return nullptr;
+}
+
+Surface::Layer const* Surface::withId(std::uint32_t layerId) const {
+    auto const found = std::find_if(layers_.begin(), layers_.end(), [layerId](Layer const& layer) {
+        return layer.info.id == layerId;
+    });
+    if (found != layers_.end()) {
+        return &*found;
+    }
+    ++ignoredCalls_;
+    return nullptr;
+}
+
+Surface::Layer* Surface::withId(std::uint32_t layerId) {
+    return const_cast<Layer*>(std::as_const(*this).withId(layerId));
+}
+
+void Surface::set_edit_layer(std::uint32_t index) {
+    journal_->write("set_edit_layer", id_, index);
+    Guard const guard(mutex_);
+    if (at(index) != nullptr) {
+        editLayer_ = index;
+    }
+}
+
+void Surface::add_layer(std::uint32_t index, std::uint32_t layer_id) {
+    journal_->write("add_layer", id_, index, layer_id);
+    Guard const guard(mutex_);
+    auto const isTaken = [layer_id](Layer const& layer) { return layer.info.id == layer_id; };
+    if (index > layers_.size() || std::any_of(layers_.begin(), layers_.end(), isTaken)) {
+        ++ignoredCalls_;
+        return;
+    }
+    layers_.insert(layers_.begin() + static_cast<std::ptrdiff_t>(index),
+                   {LayerInfo{layer_id, {}, {}, false, true, {}}, LayerPixels(resolution_)});
+}
+
+void Surface::move_layer(std::uint32_t from, std::uint32_t to) {
+    journal_->write("move_layer", id_, from, to);
+    Guard const guard(mutex_);
+    if (at(from) == nullptr || at(to) == nullptr) {
+        return;
+    }
+    auto const place = [this](std::uint32_t index) {
+        return layers_.begin() + static_cast<std::ptrdiff_t>(index);
+    };
+    if (from < to) {
+        std::rotate(place(from), place(from + 1), place(to + 1));
+    } else {
+        std::rotate(place(to), place(from), place(from + 1));
+    }
+}
+
+void Surface::set_layer_deleted(std::uint32_t index, bool deleted) {
+    journal_->write("set_layer_deleted", id_, index, deleted);
+    Guard const guard(mutex_);
+    if (Layer* const layer = at(index)) {
+        layer->info.deleted = deleted;
+    }
+}
+
+void Surface::set_layer_blend_mode(std::uint32_t index, nyx::ColorBlendMode mode) {
+    journal_->write("set_layer_blend_mode", id_, index, static_cast<int>(mode));
+    Guard const guard(mutex_);
+    if (Layer* const layer = at(index)) {
+        layer->info.mode = mode;
+    }
+}
+
+void Surface::set_layer_visible(std::uint32_t index, bool visible) {
+    journal_->write("set_layer_visible", id_, index, visible);
+    Guard const guard(mutex_);
+    if (Layer* const layer = at(index)) {
+        layer->info.visible = visible;
+    }
+}
+
+void Surface::set_layer_name(std::uint32_t index, char const* name) {
+    journal_->write("set_layer_name", id_, index, name);
+    Guard const guard(mutex_);
+    if (Layer* const layer = at(index)) {
+        layer->info.name = name == nullptr ? "" : name;
+    }
+}
+
+void Surface::set_layer_background(std::uint32_t index, nyxColor_rgba const& color) {
+    journal_->write("set_layer_background", id_, index, color.r, color.g, color.b, color.a);
+    Guard const guard(mutex_);
+    if (Layer* const layer = at(index)) {
+        layer->info.background = color;
+    }
+}
+
+int Surface::resolution() const {
+    Guard const guard(mutex_);
+    return resolution_;
+}
+
+SurfaceInfo Surface::info() const {
+    Guard const guard(mutex_);
+    SurfaceInfo info{id_, name_, resolution_, deleted_, editLayer_, {}, ignoredCalls_};
+    info.layers.reserve(layers_.size());
+    for (Layer const& layer : layers_) {
+        info.layers.push_back(layer.info);
+    }
+    return info;
+}
+
+std::vector<Surface::Layer> Surface::layersWithPixels() const {
+    Guard const guard(mutex_);
+    return layers_;
+}
+
+std::optional<LayerPixels> Surface::pixels(std::uint32_t layerId) const {
+    Guard const guard(mutex_);
+    Layer const* const layer = withId(layerId);
+    return layer == nullptr ? std::nullopt : std::optional(layer->pixels);
+}
+
+bool Surface::setPixels(std::uint32_t layerId, LayerPixels pixels) {
+    Guard const guard(mutex_);
+    Layer* const layer = pixels.resolution() == resolution_ ? withId(layerId) : nullptr;
+    if (layer == nullptr) {
+        return false;
+    }
+    layer->pixels = std::move(pixels);
+    return true;
+}
+
+bool Surface::paint(std::uint32_t layerId, Stroke const& stroke) {
+    Guard const guard(mutex_);
+    Layer* const layer = withId(layerId);
+    if (layer == nullptr) {
+        return false;
+    }
+    paintStroke(layer->pixels, stroke);
+    return true;
+}
+
+Image Surface::composite() const {
+    std::vector<CompositeLayer> shown;
+    int resolution = 0;
+    {
+        // Snapshots, so that nobody waits for the picture.
+        Guard const guard(mutex_);
+        resolution = resolution_;
+        for (Layer const& layer : layers_) {
+            if (layer.info.visible && !layer.info.deleted) {
+                shown.push_back({layer.info.mode, layer.info.background, layer.pixels});
+            }
+        }
+    }
+    return nyx::embedded::composite(shown, resolution);
+}
+
+bool Surface::resample(int resolution) {
+    if (resolution < 1 || resolution > mostTexels) {
+        return false;
+    }
+    Guard const guard(mutex_);
+    if (resolution != resolution_) {
+        for (Layer& layer : layers_) {
+            layer.pixels = layer.pixels.resampled(resolution);
+        }
+        resolution_ = resolution;
+    }
+    return true;
+}
+
+void Surface::dropPixels() {
+    Guard const guard(mutex_);
+    for (Layer& layer : layers_) {
+        layer.pixels = LayerPixels(resolution_);
+    }
+}
+
+} // namespace nyx::embedded
