@@ -1,8 +1,10 @@
 #include "nyxembedded/Renderer.h"
 
 #include "api/Notifications.h"
+#include "api/Painter.h"
 #include "api/RtApi.h"
 #include "nyxembedded/MaterialManager.h"
+#include "nyxembedded/Painting.h"
 #include "scenefile/SceneDump.h"
 #include "scenefile/SceneFile.h"
 #include "store/Accounts.h"
@@ -19,6 +21,7 @@ public:
     nyxScene scene;
     Notifications notifications{scene.faults()};
     RtApi api{scene, notifications};
+    Painting painting{scene.surfaces()};
 
     /// What waits to be told is about records that are no more.
     void sceneLoaded() {
@@ -96,6 +99,12 @@ nyx::ObjectId Renderer::addLight(std::string const& name, nyx::GroupItemId paren
     auto const id = impl_->scene.addItem({{}, ItemKind::Light, name, parent, {}});
     return nyx::ObjectId(id.toUint());
 }
+
+nyx::SurfaceId Renderer::addSurface(std::string const& name, int resolution) {
+    return impl_->scene.surfaces().create(name, resolution);
+}
+
+Painting& Renderer::painting() { return impl_->painting; }
 
 void Renderer::setUnitScale(double scale) {
     impl_->scene.setUnitScale(std::isfinite(scale) && scale > 0 ? scale : 0);
@@ -278,6 +287,7 @@ Ledger Renderer::ledger() const {
     ledger.arrays = accounts().arrays;
     ledger.alignedBlocks = accounts().alignedBlocks;
     ledger.texts = accounts().texts;
+    ledger.painters = impl_->scene.painterFactory()->count();
     ledger.lockDepth = impl_->api.lockDepth();
     ledger.strings = impl_->scene.strings().count();
     return ledger;

@@ -1,5 +1,6 @@
 #include "store/Scene.h"
 
+#include "api/Painter.h"
 #include "api/SceneApi.h"
 #include "store/Hierarchy.h"
 
@@ -23,6 +24,7 @@ IdType idFor(RecordStore<Record> const& store, IdType wanted) {
 
 nyxScene::nyxScene()
     : api_(std::make_unique<SceneApi>(*this)),
+      painters_(std::make_unique<PainterFactory>(*this)),
       hierarchy_(std::make_unique<Hierarchy>(*this)),
       lights_(std::make_unique<SceneLights>(
           *this, std::unique_ptr<nyxLight_layer_db>(new nyxLight_layer_db(*this)))) {}
@@ -392,6 +394,7 @@ void nyxScene::takeContents(nyxScene& fresh) {
     contents_.colorways.skipIdsBelow(fresh.contents_.colorways.nextId());
     contents_.materials.skipIdsBelow(fresh.contents_.materials.nextId());
     contents_.items.skipIdsBelow(fresh.contents_.items.nextId());
+    surfaces_.takeContents(fresh.surfaces_);
     ++colorRevision_;
     ++colorwayRevision_;
     lent_ = nullptr;

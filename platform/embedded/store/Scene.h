@@ -11,6 +11,7 @@
 #include "store/Records.h"
 #include "store/SceneLights.h"
 #include "store/StringPool.h"
+#include "store/Surfaces.h"
 #include "store/UseIndex.h"
 
 #include <functional>
@@ -19,6 +20,10 @@
 #include <string>
 #include <unordered_map>
 #include <vector>
+
+namespace nyx::embedded {
+class PainterFactory;
+}
 
 /// The scene of the embedded renderer: records under ids, with the indexes over them. A
 /// default-made scene is empty and can be filled on its own, then be handed to takeContents(). Main
@@ -143,8 +148,9 @@ public:
         contents_.items.skipIdsBelow(item.toUint());
     }
 
-    /// Takes over all records and settings of `fresh`, in no more than constant time, and leaves it
-    /// with what this scene had. Ids that this scene has given out stay used; both revisions rise.
+    /// Takes over all records and settings of `fresh`, in no more than constant time but for a step
+    /// per paint surface, and leaves it with what this scene had, but for the surfaces: tasks on
+    /// their way may hold those. Ids that this scene has given out stay used; both revisions rise.
     /// Strings, journal and faults stay: blocks on loan still point to the strings.
     void takeContents(nyxScene& fresh);
 
@@ -154,6 +160,9 @@ public:
     [[nodiscard]] nyx::embedded::Journal& journal() const { return journal_; }
     [[nodiscard]] nyx::embedded::Faults& faults() { return faults_; }
     [[nodiscard]] nyxScene_api* api() { return api_.get(); }
+    [[nodiscard]] nyx::embedded::Surfaces& surfaces() { return surfaces_; }
+    [[nodiscard]] nyx::embedded::Surfaces const& surfaces() const { return surfaces_; }
+    [[nodiscard]] nyx::embedded::PainterFactory* painterFactory() { return painters_.get(); }
     [[nodiscard]] nyxScene_hierarchy* hierarchy() { return hierarchy_.get(); }
 
 private:
@@ -195,7 +204,9 @@ private:
     nyx::embedded::StringPool strings_;
     mutable nyx::embedded::Journal journal_; ///< also of calls that only look
     nyx::embedded::Faults faults_;
+    nyx::embedded::Surfaces surfaces_{strings_, journal_};
     std::unique_ptr<nyxScene_api> api_;
+    std::unique_ptr<nyx::embedded::PainterFactory> painters_;
     std::unique_ptr<nyxScene_hierarchy> hierarchy_;
     std::unique_ptr<nyx::embedded::SceneLights> lights_;
 };

@@ -25,6 +25,8 @@ class ISceneMaterialManager;
 
 namespace nyx::embedded {
 
+class Painting;
+
 /// A multi-colour and the sub-colour that a colorway makes active in it.
 struct ColorwayPair {
     nyx::ColorId multiColor;
@@ -70,8 +72,13 @@ public:
     nyx::ObjectId addObject(std::string const& name, nyx::GroupItemId parent = {},
                             nyx::MaterialId material = {});
     nyx::ObjectId addLight(std::string const& name, nyx::GroupItemId parent = {});
+    /// A paint surface with one layer; the invalid id for a resolution below 1 or above 16384.
+    nyx::SurfaceId addSurface(std::string const& name, int resolution);
     /// What nyx_scene_unit_scale() answers; what is no finite number above 0 counts as none.
     void setUnitScale(double scale);
+
+    /// What is painted on the surfaces.
+    [[nodiscard]] Painting& painting();
 
     // What the renderer does by itself, behind the library's back.
 

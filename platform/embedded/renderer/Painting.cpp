@@ -1,0 +1,42 @@
+#include "nyxembedded/Painting.h"
+
+#include "store/Surfaces.h"
+
+#include <utility>
+
+namespace nyx::embedded {
+
+std::vector<nyx::SurfaceId> Painting::surfaces() const {
+    std::vector<nyx::SurfaceId> ids;
+    for (Surface const* const surface : surfaces_.all()) {
+        ids.push_back(surface->id());
+    }
+    return ids;
+}
+
+std::optional<SurfaceInfo> Painting::surface(nyx::SurfaceId id) const {
+    Surface const* const surface = surfaces_.find(id);
+    return surface == nullptr ? std::nullopt : std::optional(surface->info());
+}
+
+std::optional<LayerPixels> Painting::pixels(nyx::SurfaceId id, std::uint32_t layer) const {
+    Surface const* const surface = surfaces_.find(id);
+    return surface == nullptr ? std::nullopt : surface->pixels(layer);
+}
+
+bool Painting::setPixels(nyx::SurfaceId id, std::uint32_t layer, LayerPixels pixels) {
+    Surface* const surface = surfaces_.find(id);
+    return surface != nullptr && surface->setPixels(layer, std::move(pixels));
+}
+
+bool Painting::paint(nyx::SurfaceId id, std::uint32_t layer, Stroke const& stroke) {
+    Surface* const surface = surfaces_.find(id);
+    return surface != nullptr && surface->paint(layer, stroke);
+}
+
+Image Painting::composite(nyx::SurfaceId id) const {
+    Surface const* const surface = surfaces_.find(id);
+    return surface == nullptr ? Image() : surface->composite();
+}
+
+} // namespace nyx::embedded
