@@ -6,6 +6,7 @@
 #include "materials/ZCMFManager.h"
 #include "materials/ZMaterialApi.h"
 #include "materials/ZMaterialHandler.h"
+#include "painting/ZPainterManager.h"
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/Events.h"
@@ -26,6 +27,8 @@ ZSceneGraph::ZSceneGraph(SceneGraphPars const& pars)
         std::make_unique<ZMaterialHandler>(materialApi_.get(), pars.materialService, this);
     eventQueue_ = std::make_unique<ZEventQueue>();
     cmfManager_ = std::make_unique<ZCMFManager>(this);
+    painterManager_ = std::make_unique<ZPainterManager>(rtApi_, pars.taskQueue, eventQueue_.get(),
+                                                        pars.undoStack);
     colorDB_ = std::make_unique<ColorDB>(eventQueue_.get(), rtApi_);
     colorController_ = std::make_unique<ColorController>(colorDB_.get(), pars.sceneMaterialManager,
                                                          pars.undoStack);
@@ -63,7 +66,7 @@ IEventQueue* ZSceneGraph::eventQueue() const { return eventQueue_.get(); }
 
 ICMFManager* ZSceneGraph::cmfManager() const { return cmfManager_.get(); }
 
-IPainterManager* ZSceneGraph::painterManager() const { return nullptr; }
+IPainterManager* ZSceneGraph::painterManager() const { return painterManager_.get(); }
 
 ColorDB* ZSceneGraph::colorDB() const { return colorDB_.get(); }
 

@@ -2,6 +2,7 @@
 
 #include "zsg/core/IEventQueue.h"
 #include "zsg/core/ISceneGraph.h"
+#include "zsg/painting/IPainterManager.h"
 
 #include <memory>
 
@@ -33,6 +34,7 @@ private:
     std::unique_ptr<IMaterialHandler> materialHandler_;
     std::unique_ptr<IEventQueue> eventQueue_;
     std::unique_ptr<ICMFManager> cmfManager_;
+    std::unique_ptr<IPainterManager> painterManager_;
     std::unique_ptr<ColorDB> colorDB_;
     std::unique_ptr<ColorController> colorController_;
     std::unique_ptr<ILightLayerApi> lightLayerApi_;
