@@ -37,13 +37,13 @@ QString inBrackets(std::string const& name) {
     return name.empty() ? QString() : '(' + QString::fromStdString(name) + ')';
 }
 
-template <std::size_t N>
+template <std::size_t N, class Edit>
 QString editText(char const* context, std::array<char const*, N> const& texts,
-                 char const* clearName, int kind, std::string const& name) {
+                 char const* clearName, int kind, Edit const& after) {
     if (kind < 0 || static_cast<std::size_t>(kind) >= N) {
         return {};
     }
-    QString const value = inBrackets(name);
+    QString const value = inBrackets(after.displayName());
     if (kind == 0 && value.isEmpty()) {
         return QCoreApplication::translate(context, clearName);
     }
@@ -57,19 +57,24 @@ QString editText(char const* context, std::array<char const*, N> const& texts,
 
 ZCreateColorwayCommand::ZCreateColorwayCommand(QString const& text, ColorDB* colorDB,
                                                nyx::ColorwayId colorway)
-    : ZUndoCommand(ZCommandId::CreateColorway, text), colorDB_(colorDB), colorway_(colorway) {}
+    : ZUndoCommand(ZCommandId::CreateColorway, text),
+      colorDB_(colorDB, colorDB->aliveGuard()),
+      colorway_(colorway) {}
 
 bool ZCreateColorwayCommand::undo() { return setDeleted(true); }
 
 bool ZCreateColorwayCommand::redo() { return setDeleted(false); }
 
 bool ZCreateColorwayCommand::setDeleted(bool deleted) {
-    return setColorwayFlag(*colorDB_, colorway_, &ZColorwayEdit::setDeleted, deleted);
+    ColorDB* const colorDB = colorDB_.get();
+    return colorDB && setColorwayFlag(*colorDB, colorway_, &ZColorwayEdit::setDeleted, deleted);
 }
 
 ZActivateColorwayCommand::ZActivateColorwayCommand(ColorDB* colorDB, nyx::ColorwayId colorway)
-    : ZUndoCommand(ZCommandId::ActivateColorway), colorDB_(colorDB), colorway_(colorway) {
-    ZColorwayEdit const* const edit = colorDB_->getColorwayParameters(colorway);
+    : ZUndoCommand(ZCommandId::ActivateColorway),
+      colorDB_(colorDB, colorDB->aliveGuard()),
+      colorway_(colorway) {
+    ZColorwayEdit const* const edit = colorDB->getColorwayParameters(colorway);
     if (!edit) {
         return;
     }
@@ -81,72 +86,62 @@ ZActivateColorwayCommand::ZActivateColorwayCommand(ColorDB* colorDB, nyx::Colorw
     redoSubs_ = edit->pairs();
     undoSubs_ = redoSubs_;
     for (auto& [multi, sub] : undoSubs_) {
-        ZColorExtEdit const* const color = colorDB_->getColorParameters(multi);
+        ZColorExtEdit const* const color = colorDB->getColorParameters(multi);
         sub = color ? color->activeSub() : nyx::ColorId();
     }
-    otherActive_ = colorwaysWhere(*colorDB_, [](ZColorwayEdit const& e) { return e.isActive(); });
+    otherActive_ = colorwaysWhere(*colorDB, [](ZColorwayEdit const& e) { return e.isActive(); });
     std::erase(otherActive_, colorway);
 }
 
-bool ZActivateColorwayCommand::undo() {
-    if (!applySubs(undoSubs_)) {
+bool ZActivateColorwayCommand::undo() { return switchTo(undoSubs_, false); }
+
+bool ZActivateColorwayCommand::redo() { return switchTo(redoSubs_, true); }
+
+bool ZActivateColorwayCommand::switchTo(std::vector<MultiColorPair> const& pairs, bool isActive) {
+    ColorDB* const colorDB = colorDB_.get();
+    if (!colorDB) {
         return false;
     }
-    setActive(colorway_, false);
-    for (nyx::ColorwayId const other : otherActive_) {
-        setActive(other, true);
-    }
-    return true;
-}
-
-bool ZActivateColorwayCommand::redo() {
-    if (!applySubs(redoSubs_)) {
-        return false;
-    }
-    setActive(colorway_, true);
-    for (nyx::ColorwayId const other : otherActive_) {
-        setActive(other, false);
-    }
-    return true;
-}
-
-bool ZActivateColorwayCommand::applySubs(std::vector<MultiColorPair> const& pairs) {
     for (MultiColorPair const& pair : pairs) {
-        ZColorExtEdit* const edit = colorDB_->getColorParameters(pair.multiColor);
+        ZColorExtEdit* const edit = colorDB->getColorParameters(pair.multiColor);
         if (!edit) {
             return false;
         }
         edit->setActiveSub(pair.subColor);
-        colorDB_->pushColor(pair.multiColor);
+        colorDB->pushColor(pair.multiColor);
+    }
+    setColorwayFlag(*colorDB, colorway_, &ZColorwayEdit::setActive, isActive);
+    for (nyx::ColorwayId const other : otherActive_) {
+        setColorwayFlag(*colorDB, other, &ZColorwayEdit::setActive, !isActive);
     }
     return true;
-}
-
-void ZActivateColorwayCommand::setActive(nyx::ColorwayId colorway, bool active) {
-    setColorwayFlag(*colorDB_, colorway, &ZColorwayEdit::setActive, active);
 }
 
 ZEditColorWayCommand::ZEditColorWayCommand(int kind, ColorDB* colorDB,
                                            std::unique_ptr<ZColorwayEdit>&& before,
                                            std::unique_ptr<ZColorwayEdit>&& after)
     : ZUndoCommand(ZCommandId::EditColorway),
-      colorDB_(colorDB),
+      kind_(kind),
+      colorDB_(colorDB, colorDB->aliveGuard()),
       before_(std::move(before)),
-      after_(std::move(after)) {
-    setText(editText("ZEditColorWayCommand", colorwayTexts, clearColorwayName, kind,
-                     after_->displayName()));
-}
+      after_(std::move(after)) {}
 
 ZEditColorWayCommand::~ZEditColorWayCommand() = default;
 
-bool ZEditColorWayCommand::undo() {
-    colorDB_->setColorwayEdit(before_.get());
-    return true;
+QString ZEditColorWayCommand::text() const {
+    return editText("ZEditColorWayCommand", colorwayTexts, clearColorwayName, kind_, *after_);
 }
 
-bool ZEditColorWayCommand::redo() {
-    colorDB_->setColorwayEdit(after_.get());
-    return true;
+bool ZEditColorWayCommand::undo() { return install(*before_); }
+
+bool ZEditColorWayCommand::redo() { return install(*after_); }
+
+bool ZEditColorWayCommand::install(ZColorwayEdit const& state) {
+    ColorDB* const colorDB = colorDB_.get();
+    if (colorDB) {
+        colorDB->setColorwayEdit(&state);
+    }
+    return colorDB != nullptr;
 }
 
 ZEditColorCommand::ZEditColorCommand(int kind, ColorDB* colorDB,
@@ -154,22 +149,25 @@ ZEditColorCommand::ZEditColorCommand(int kind, ColorDB* colorDB,
                                      std::unique_ptr<ZColorExtEdit>&& after, int mergeMode)
     : ZUndoCommand(ZCommandId::EditColor),
       kind_(kind),
-      colorDB_(colorDB),
+      colorDB_(colorDB, colorDB->aliveGuard()),
       before_(std::move(before)),
       after_(std::move(after)),
       mergeMode_(mergeMode) {
-    setText(editText("ZEditColorCommand", colorTexts, clearColorName, kind, after_->displayName()));
     if (!after_->hasFlag(ColorFlags::MultiColor)) {
         return;
     }
     nyx::ColorId const id = after_->id();
-    deactivateOnRedo_ = colorwaysWhere(*colorDB_, [&](ZColorwayEdit const& colorway) {
+    deactivateOnRedo_ = colorwaysWhere(*colorDB, [&](ZColorwayEdit const& colorway) {
         return colorway.isActive() && colorway.containsMultiColor(id) &&
                colorway.activeSubOf(id) != after_->activeSub();
     });
 }
 
 ZEditColorCommand::~ZEditColorCommand() = default;
+
+QString ZEditColorCommand::text() const {
+    return editText("ZEditColorCommand", colorTexts, clearColorName, kind_, *after_);
+}
 
 void ZEditColorCommand::setUndeleteOnRedo(std::vector<nyx::ColorwayId> colorways) {
     undeleteOnRedo_ = std::move(colorways);
@@ -179,27 +177,26 @@ void ZEditColorCommand::setSyncColors(std::vector<nyx::ColorId> colors) {
     syncColors_ = std::move(colors);
 }
 
-bool ZEditColorCommand::undo() {
-    install(*before_, false);
-    return true;
-}
+bool ZEditColorCommand::undo() { return install(*before_, false); }
 
-bool ZEditColorCommand::redo() {
-    install(*after_, true);
-    return true;
-}
+bool ZEditColorCommand::redo() { return install(*after_, true); }
 
-void ZEditColorCommand::install(ZColorExtEdit const& state, bool redo) {
-    colorDB_->setColorEdit(&state);
+bool ZEditColorCommand::install(ZColorExtEdit const& state, bool redo) {
+    ColorDB* const colorDB = colorDB_.get();
+    if (!colorDB) {
+        return false;
+    }
+    colorDB->setColorEdit(&state);
     for (nyx::ColorwayId const colorway : deactivateOnRedo_) {
-        setColorwayFlag(*colorDB_, colorway, &ZColorwayEdit::setActive, !redo);
+        setColorwayFlag(*colorDB, colorway, &ZColorwayEdit::setActive, !redo);
     }
     for (nyx::ColorwayId const colorway : undeleteOnRedo_) {
-        setColorwayFlag(*colorDB_, colorway, &ZColorwayEdit::setDeleted, !redo);
+        setColorwayFlag(*colorDB, colorway, &ZColorwayEdit::setDeleted, !redo);
     }
     for (nyx::ColorId const color : syncColors_) {
-        colorDB_->postColorUpdateSyncEvent(color);
+        colorDB->postColorUpdateSyncEvent(color);
     }
+    return true;
 }
 
 bool ZEditColorCommand::mergeWith(ZUndoCommand const* other) {
@@ -218,13 +215,19 @@ bool ZEditColorCommand::mergeWith(ZUndoCommand const* other) {
 
 ZToggleMultiColorCommand::ZToggleMultiColorCommand(ColorDB* colorDB,
                                                    std::vector<nyx::ColorId>&& colors)
-    : ZUndoCommand(ZCommandId::EditColor), colorDB_(colorDB), colors_(std::move(colors)) {}
+    : ZUndoCommand(ZCommandId::EditColor),
+      colorDB_(colorDB, colorDB->aliveGuard()),
+      colors_(std::move(colors)) {}
 
 bool ZToggleMultiColorCommand::undo() { return redo(); }
 
 bool ZToggleMultiColorCommand::redo() {
+    ColorDB* const colorDB = colorDB_.get();
+    if (!colorDB) {
+        return false;
+    }
     for (nyx::ColorId const color : colors_) {
-        colorDB_->postColorUpdateSyncEvent(color);
+        colorDB->postColorUpdateSyncEvent(color);
     }
     return true;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/AliveGuard.h"
 #include "nyxrender/Ids.h"
 #include "zcore/ZUndoCommand.h"
 #include "zsg/colors/MultiColorPair.h"
@@ -13,8 +14,8 @@ namespace zsg {
 
 class ColorDB;
 
-// The undo commands of colours and colorways. They change the scene through ColorDB (borrowed, as
-// it outlives the undo stack's use) and refer to records by id.
+// The undo commands of colours and colorways. They change the scene through ColorDB and refer to
+// records by id. When the database is gone, undo and redo fail and touch nothing.
 
 /// What an edit of a colour does; it decides the text.
 enum class ColorEditKind : int {
@@ -44,7 +45,7 @@ public:
 private:
     bool setDeleted(bool deleted);
 
-    ColorDB* colorDB_;
+    GuardedPointer<ColorDB> colorDB_;
     nyx::ColorwayId colorway_;
 };
 
@@ -58,10 +59,9 @@ public:
     bool redo() override;
 
 private:
-    bool applySubs(std::vector<MultiColorPair> const& pairs);
-    void setActive(nyx::ColorwayId colorway, bool active);
+    bool switchTo(std::vector<MultiColorPair> const& pairs, bool isActive);
 
-    ColorDB* colorDB_;
+    GuardedPointer<ColorDB> colorDB_;
     std::vector<MultiColorPair> undoSubs_;
     std::vector<MultiColorPair> redoSubs_;
     std::vector<nyx::ColorwayId> otherActive_;
@@ -74,11 +74,16 @@ public:
     ZEditColorWayCommand(int kind, ColorDB* colorDB, std::unique_ptr<ZColorwayEdit>&& before,
                          std::unique_ptr<ZColorwayEdit>&& after);
     ~ZEditColorWayCommand() override;
+    /// In the language of the moment, with the name of the after-state; setText() is not heeded.
+    [[nodiscard]] QString text() const override;
     bool undo() override;
     bool redo() override;
 
 private:
-    ColorDB* colorDB_;
+    bool install(ZColorwayEdit const& state);
+
+    int kind_;
+    GuardedPointer<ColorDB> colorDB_;
     std::unique_ptr<ZColorwayEdit> before_;
     std::unique_ptr<ZColorwayEdit> after_;
 };
@@ -90,6 +95,8 @@ public:
     ZEditColorCommand(int kind, ColorDB* colorDB, std::unique_ptr<ZColorExtEdit>&& before,
                       std::unique_ptr<ZColorExtEdit>&& after, int mergeMode);
     ~ZEditColorCommand() override;
+    /// As ZEditColorWayCommand's.
+    [[nodiscard]] QString text() const override;
 
     /// Colorways that redo brings back, and that undo marks as deleted again.
     void setUndeleteOnRedo(std::vector<nyx::ColorwayId> colorways);
@@ -104,10 +111,10 @@ public:
     bool mergeWith(ZUndoCommand const* other) override;
 
 private:
-    void install(ZColorExtEdit const& state, bool redo);
+    bool install(ZColorExtEdit const& state, bool redo);
 
     int kind_;
-    ColorDB* colorDB_;
+    GuardedPointer<ColorDB> colorDB_;
     std::unique_ptr<ZColorExtEdit> before_;
     std::unique_ptr<ZColorExtEdit> after_;
     std::vector<nyx::ColorwayId> deactivateOnRedo_;
@@ -124,7 +131,7 @@ public:
     bool redo() override;
 
 private:
-    ColorDB* colorDB_;
+    GuardedPointer<ColorDB> colorDB_;
     std::vector<nyx::ColorId> colors_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "colors/ZColorLinker.h"
 #include "colors/announce.h"
+#include "core/AliveGuard.h"
 
 #include "nyxrender/nyxRT_api.h"
 #include "nyxrender/nyx_color.h"
@@ -32,9 +33,11 @@ Revisions revisionsOf(nyxScene* scene) {
 } // namespace
 
 ColorDB::ColorDB(IEventQueue* eventQueue, nyxRT_api* rtApi)
-    : eventQueue_(eventQueue), rtApi_(rtApi) {}
+    : eventQueue_(eventQueue), rtApi_(rtApi), aliveGuard_(std::make_unique<AliveGuard>()) {}
 
 ColorDB::~ColorDB() = default;
+
+AliveGuard const& ColorDB::aliveGuard() const { return *aliveGuard_; }
 
 nyx::ColorId ColorDB::colorFromName(ScopedRTApiLock&, std::string const& name) {
     if (name.empty()) {

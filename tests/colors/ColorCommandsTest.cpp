@@ -74,6 +74,19 @@ TEST_F(ColorCommandsTest, ListsOfAColorEditAreFollowedBothWays) {
     EXPECT_EQ(since(before), "");
 }
 
+TEST_F(ColorCommandsTest, WhenTheDatabaseIsGoneTheyFailAndWarnOnce) {
+    edit.setDisplayName(red, "Ruby"), edit.setDisplayName(winter, "Ice");
+    edit.applyColorway(winter), edit.createColorway("Dune", coverRed), edit.toggleMultiColor(blue);
+    std::string const before = renderer.dump();
+    db.reset();
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(stack.goTo(0));
+    EXPECT_FALSE(stack.goTo(stack.count()));
+    std::string const warning = testing::internal::GetCapturedStderr();
+    EXPECT_EQ(std::ranges::count(warning, '\n'), 1) << warning;
+    EXPECT_EQ(since(before), "");
+}
+
 TEST_F(ColorCommandsTest, WithoutTheirRecords) {
     ZCreateColorwayCommand create("Made", db.get(), noColorway);
     EXPECT_FALSE(create.redo() || create.undo());

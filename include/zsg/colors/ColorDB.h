@@ -12,6 +12,7 @@ class nyxScene;
 
 namespace zsg {
 
+class AliveGuard;
 class IEventQueue;
 
 /// The colour database over the renderer's run-time API. It keeps one edit per colour and colorway
@@ -84,6 +85,9 @@ public:
     void setColorEdit(ZColorExtEdit const* edit);
     void setColorwayEdit(ZColorwayEdit const* edit);
 
+    /// What undo commands ask whether the database is still there.
+    [[nodiscard]] AliveGuard const& aliveGuard() const;
+
 private:
     void pushColorImpl(ZColorExt& color);
     void pushSubColorToDb(ZColorExt const& color, int index);
@@ -109,6 +113,7 @@ private:
     unsigned multiRevision_ = 0;
     unsigned colorwayRevision_ = 0;
     nyx::ColorId tempColor_;
+    std::unique_ptr<AliveGuard> const aliveGuard_;
 };
 
 } // namespace zsg
