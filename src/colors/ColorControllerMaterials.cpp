@@ -1,6 +1,8 @@
 // How ColorController reaches the materials that use a colour.
 
 #include "zsg/colors/ColorController.h"
+
+#include "colors/announce.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/materials/ISceneMaterialManager.h"
 
@@ -71,7 +73,8 @@ unsigned int ColorController::activeReferenceCount(nyx::ColorId id) const {
 }
 
 bool ColorController::anyMultiColorInUse() const {
-    return std::ranges::any_of(colorDB_->multiColors(),
+    // A copy: what the material manager does when asked may refill the list.
+    return std::ranges::any_of(copied(colorDB_->multiColors()),
                                [this](nyx::ColorId id) { return activeReferenceCount(id) != 0; });
 }
 

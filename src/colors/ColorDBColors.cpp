@@ -7,6 +7,8 @@
 #include "nyxrender/nyxScene_api.h"
 #include "nyxrender/nyx_color.h"
 
+#include <algorithm>
+
 namespace zsg {
 
 void ColorDB::pushColor(ZColorExt& color) {
@@ -46,20 +48,26 @@ void ColorDB::pushColorImpl(ZColorExt& color) {
             }
             subs.push_back(color.getSubColorId(i));
         }
-        edit = getColorParameters(id);
-        if (!edit) {
+        // Again after each row of events: a listener may have put another state in place, or have
+        // had the record read afresh.
+        auto const write = [&] {
+            edit = getColorParameters(id);
+            if (edit) {
+                edit->setColor(color.rgba());
+                edit->setDisplayName(color.getColorName());
+                edit->setFlag(ColorFlags::MultiColor);
+                edit->setSubColors(subs);
+                edit->setActiveSub(color.getSubColorId(color.activeIndex()));
+            }
+            return edit != nullptr;
+        };
+        if (!write()) {
             return;
         }
-        // Once more: a listener of the new sub-colours may have replaced the edit.
-        edit->setColor(color.rgba());
-        edit->setDisplayName(color.getColorName());
-        edit->setFlag(ColorFlags::MultiColor);
-        edit->setSubColors(subs);
-        edit->setActiveSub(color.getSubColorId(color.activeIndex()));
         for (int i = 0; i < color.nColors(); ++i) {
             pushSubColorToDb(color, i);
         }
-        edit = getColorParameters(id);
+        write();
     } else {
         edit->clearFlag(ColorFlags::MultiColor);
         edit->setSubColors({});
@@ -148,14 +156,21 @@ nyx::ColorId ColorDB::cloneRecursively(nyx::ColorId id) {
     if (!edit || !edit->hasFlag(ColorFlags::MultiColor)) {
         return newId;
     }
-    for (nyx::ColorId const sub : copied(edit->subColors())) {
-        nyx::ColorId const newSub = clone(sub);
-        edit = getColorParameters(newId);
-        if (edit) {
-            edit->replaceSubColor(sub, newSub);
+    std::vector<nyx::ColorId> const subs = copied(edit->subColors());
+    std::vector<nyx::ColorId> clones = subs;
+    for (nyx::ColorId& sub : clones) {
+        if (nyx::ColorId const newSub = clone(sub); newSub.isValid()) {
+            sub = newSub;
         }
     }
-    if (edit) {
+    // At once, after the clones' events, and only in a list that no listener has changed meanwhile.
+    edit = getColorParameters(newId);
+    if (edit && std::ranges::equal(edit->subColors(), subs)) {
+        auto const active = std::ranges::find(subs, edit->activeSub());
+        edit->setSubColors(clones);
+        if (active != subs.end()) {
+            edit->setActiveSub(clones[static_cast<std::size_t>(active - subs.begin())]);
+        }
         edit->commit(false);
     }
     rtApi_->set_modified(true);

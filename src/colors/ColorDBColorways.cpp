@@ -10,7 +10,8 @@ namespace zsg {
 
 void ColorDB::checkForUnusedMultiColors(nyx::ColorwayId id) {
     ZColorwayEdit const* const edit = cachedColorway(id);
-    if (!edit) {
+    // Without a scene nothing is known to be unused; the pairs would be lost for good.
+    if (!edit || !scene()) {
         return;
     }
     std::vector<nyx::ColorId> unused = copied(edit->multiColors());

@@ -3,7 +3,6 @@
 #include "zsg/colors/IColorLinker.h"
 
 #include <string>
-#include <vector>
 
 namespace zsg {
 
@@ -22,10 +21,6 @@ public:
     [[nodiscard]] IColorDB* colorDB() const override;
 
 private:
-    using Elements = std::vector<ZColorExt::ZColorWithId>;
-
-    std::string unusedName(std::string const& name, Elements const& elements);
-
     IColorController* controller_;
     IColorDB* colorDB_;
     IColorLinkHandler* handler_;

@@ -29,24 +29,32 @@ MultiColorPairs pairsWithout(nyx::Span<MultiColorPair> pairs, nyx::Span<nyx::Col
 
 MultiColorPairs pairsWith(nyx::Span<MultiColorPair> pairs, nyx::Span<MultiColorPair> added,
                           int index, bool replace) {
-    MultiColorPairs list(pairs.begin(), pairs.end());
+    // Of what is added, for it is usually one pair, and the colorway may hold many.
     std::unordered_map<nyx::ColorId, std::size_t> places;
-    for (std::size_t i = 0; i < list.size(); ++i) {
-        places.emplace(list[i].multiColor, i);
-    }
-    std::size_t const old = list.size();
+    MultiColorPairs news;
     for (MultiColorPair const& pair : added) {
-        auto const [found, isNew] = places.emplace(pair.multiColor, list.size());
+        auto const [place, isNew] = places.emplace(pair.multiColor, news.size());
         if (isNew) {
-            list.push_back(pair);
+            news.push_back(pair);
         } else if (replace) {
-            list[found->second].subColor = pair.subColor;
+            news[place->second].subColor = pair.subColor;
         }
     }
-    if (index >= 0 && static_cast<std::size_t>(index) < old) {
-        std::rotate(list.begin() + index, list.begin() + static_cast<std::ptrdiff_t>(old),
-                    list.end());
+    MultiColorPairs list(pairs.begin(), pairs.end());
+    for (MultiColorPair& pair : list) {
+        auto const place = places.find(pair.multiColor);
+        if (place == places.end()) {
+            continue;
+        }
+        if (replace) {
+            pair.subColor = news[place->second].subColor;
+        }
+        places.erase(place);
     }
+    std::erase_if(news,
+                  [&](MultiColorPair const& pair) { return !places.contains(pair.multiColor); });
+    bool const atEnd = index < 0 || static_cast<std::size_t>(index) > list.size();
+    list.insert(atEnd ? list.end() : list.begin() + index, news.begin(), news.end());
     return list;
 }
 

@@ -11,14 +11,10 @@ using ColorIdSet = std::unordered_set<nyx::ColorId>;
 
 ColorIdSet setOf(nyx::Span<nyx::ColorId> ids) { return ColorIdSet(ids.begin(), ids.end()); }
 
-ColorIdList distinctValid(nyx::Span<nyx::ColorId> ids) {
-    ColorIdList list;
+ColorIdList distinct(nyx::Span<nyx::ColorId> ids) {
+    ColorIdList list(ids.begin(), ids.end());
     ColorIdSet seen;
-    for (nyx::ColorId const id : ids) {
-        if (id.isValid() && seen.insert(id).second) {
-            list.push_back(id);
-        }
-    }
+    std::erase_if(list, [&](nyx::ColorId id) { return !seen.insert(id).second; });
     return list;
 }
 
@@ -48,7 +44,7 @@ ColorIdList inserted(nyx::Span<nyx::ColorId> subs, ColorIdList const& ids, int i
 } // namespace
 
 ColorIdList withInserted(nyx::Span<nyx::ColorId> subs, nyx::Span<nyx::ColorId> added, int index) {
-    return inserted(subs, distinctValid(added), index, false);
+    return inserted(subs, distinct(added), index, false);
 }
 
 ColorIdList withMoved(nyx::Span<nyx::ColorId> subs, nyx::Span<nyx::ColorId> moved, int index) {
@@ -56,7 +52,7 @@ ColorIdList withMoved(nyx::Span<nyx::ColorId> subs, nyx::Span<nyx::ColorId> move
     for (nyx::ColorId const sub : subs) {
         missing.erase(sub);
     }
-    ColorIdList ids = distinctValid(moved);
+    ColorIdList ids = distinct(moved);
     std::erase_if(ids, [&](nyx::ColorId id) { return missing.contains(id); });
     return inserted(subs, ids, index, true);
 }

@@ -14,8 +14,8 @@ using ColorIdList = std::vector<nyx::ColorId>;
 
 /// The list with `added` before position `index` (counted before the edit; negative or too large:
 /// at the end), in their order. Those listed already are moved; but when every listed one is added,
-/// all stay and are listed a second time. Repeated and invalid ids of `added` count once and not at
-/// all.
+/// all stay and are listed a second time. Repeated ids of `added` count once; the invalid id is one
+/// like any other.
 [[nodiscard]] ColorIdList withInserted(nyx::Span<nyx::ColorId> subs, nyx::Span<nyx::ColorId> added,
                                        int index);
 

@@ -197,6 +197,26 @@ TEST_F(ColorDBColorsTest, ListenersMayReplaceAndDropEdits) {
     reaction = nullptr;
 }
 
+TEST_F(ColorDBColorsTest, AListenerThatReadsTheRecordAgainLosesNothingOfWhatIsWritten) {
+    use(multi);
+    nyx::ColorwayId const colorway = renderer.addColorway("Way", {{multi, red}});
+    db->getColorwayParameters(colorway);
+    ZColorExt value = db->colorFromId(multi);
+    value.setColorName("Switched");
+    value.setActiveIndex(1);
+    value.setColor(ZColor(0.125f, 0, 0, 1), ZColorExt::NameOp::Keep);
+    reaction = [&](Event const&) {
+        auto const again = std::exchange(reaction, nullptr);
+        db->handleColorwayActivated(colorway);
+        reaction = again;
+    };
+    db->pushColor(value);
+    reaction = nullptr;
+    EXPECT_EQ(renderer.color(multi)->name, "Switched");
+    EXPECT_EQ(renderer.color(multi)->activeSub, blue);
+    EXPECT_EQ(value, db->colorFromId(multi));
+}
+
 TEST_F(ColorDBColorsTest, ADerivedDatabaseInterceptsPushesAndEdits) {
     struct Derived : ColorDB {
         using ColorDB::ColorDB;

@@ -55,6 +55,12 @@ TEST_F(ColorDBColorwaysTest, TheFirstReadingDropsUnusedMultiColorsUncommitted) {
               ColorId());
 }
 
+TEST_F(ColorDBColorwaysTest, WithoutASceneNothingIsKnownToBeUnused) {
+    renderer.faults().noScene = true;
+    EXPECT_EQ(db->getColorwayParameters(summer)->multiColors().size(), 2u);
+    EXPECT_FALSE(db->getColorwayParameters(summer)->isModified());
+}
+
 TEST_F(ColorDBColorwaysTest, PushingFollowsTheActiveFlagInTheSettings) {
     EXPECT_EQ(calls([&] { db->pushColorway(summer); }), ""); // no edit was asked for
     ZColorwayEdit* const edit = db->getColorwayParameters(summer);

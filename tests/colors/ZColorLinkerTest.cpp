@@ -80,9 +80,39 @@ TEST_F(ZColorLinkerTest, AnImportAsksOncePerConflictAndOverwritesNothing) {
     linker->importColor(twice);
     EXPECT_TRUE(twice.nColors() == 2 && twice.getActiveSubColorId() == red);
 
+    // An element that carries the id of the colour in use must not rename it.
+    ZColorExt mixed = palette({{0, 0, 0, 1, "Clay"}});
+    mixed.setColors({ZColorExt::ZColorWithId(ZColor(1, 1, 1, 1, "Green"), green)});
+    linker->importColor(mixed);
+    EXPECT_TRUE(renderer.color(green)->name == "Green" && mixed.getSubColorId(0) != green);
+
     EXPECT_EQ(history(), ""); // the import itself cannot be undone
     renderer.faults().noUniqueNames = true;
     EXPECT_EQ(linker->uniqueColorName("Red"), "");
+}
+
+TEST_F(ZColorLinkerTest, ARenamedElementLeavesTheMultiColorItsName) {
+    for (std::string const name : {"Green 1", "Green"}) { // which the scene makes "Green 3"
+        ZColorExt color = palette({{1, 1, 1, 1, "Green"}});
+        color.setColorName(name);
+        linker->importColor(color);
+        EXPECT_NE(color.getName(0), color.getColorName());
+        EXPECT_NE(renderer.color(color.getSubColorId(0))->name,
+                  renderer.color(color.getId())->name);
+    }
+}
+
+TEST_F(ZColorLinkerTest, ConflictsOfOneNameAskForAsManyNames) {
+    for (std::size_t const size : {10u, 200u}) {
+        ZColorExt color = palette(std::vector<ZColor>(size, ZColor(1, 1, 1, 1, "Green")));
+        auto const isName = [](std::string const& line) {
+            return line.starts_with("nyx_color_find_unique_name");
+        };
+        std::string const names =
+            selectLines(trace([&] { linker->importColor(color); }), "\n", isName) + '\n';
+        EXPECT_GE(static_cast<std::size_t>(std::ranges::count(names, '\n')), size);
+        EXPECT_LE(static_cast<std::size_t>(std::ranges::count(names, '\n')), 2 * size + 20);
+    }
 }
 
 TEST_F(ZColorLinkerTest, MergingAddsWhatIsMissing) {

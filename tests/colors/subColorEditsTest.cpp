@@ -26,7 +26,7 @@ TEST(SubColorEdits, InsertingAndMoving) {
         {"abcd", "da", 2, "bdac", "bdac"},
         {"abcd", "bc", 3, "adbc", "adbc"}, // past b it is 2, where c stands and counts no more
         {"abcd", "x", 0, "xabcd", "abcd"},
-        {"abcd", "xyax-", -1, "bcdxya", "bcda"},
+        {"abcd", "xyax-", -1, "bcdxya-", "bcda"},
         {"ab", "ba", 0, "baab", "ba"}, // all of them: listed twice, but a move stays a move
         {"ab", "ba", 2, "abab", "ba"},
         {"", "xy", 5, "xy", ""},
