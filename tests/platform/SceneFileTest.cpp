@@ -50,7 +50,10 @@ TEST(SceneDump, IsOneReadableLinePerRecord) {
         "cmf": [["Vendor", "\u00c5s"], ["Finish", "Matt"]]}, {"id": 5}],
       "hierarchy": [{"id": 1, "kind": "group", "name": "Chair"},
         {"id": 2, "kind": "object", "name": "Seat", "parent": 1, "material": 4},
-        {"id": 3, "kind": "light"}]})"),
+        {"id": 3, "kind": "light"},
+        {"id": 4, "kind": "light", "lightLayer": 3, "unlisted": true}],
+      "environmentLightMask": 5,
+      "lightLayers": [{"id": 1, "name": "Default"}, {"id": 3, "name": "Rim", "flags": 17}]})"),
               "");
     EXPECT_EQ(renderer.dump(), R"(unit scale 0.01
 active colorway 1
@@ -60,9 +63,13 @@ color 7 "Multi\n" 0 0 0 1 flags 1 subs 2 5 2 none active 5
 colorway 1 "Day" flags 2 pairs 7:2 8:missing
 material 4 "Cloth" places 2."diffuse"->7 1."x"->none cmf "Finish"="Matt" "Vendor"="Ås" metadata "{\"a\":1}" items 3 1
 material 5 ""
+environment light mask 5
+light layer 1 "Default"
+light layer 3 "Rim" flags 17
 group 1 "Chair"
 object 2 "Seat" in 1 material 4
-light 3 ""
+light 3 "" layer 1
+light 4 "" layer 3 unlisted
 )");
     std::string const before = renderer.dump();
     Renderer again;
@@ -154,6 +161,17 @@ TEST(SceneFile, AWrongFileIsNamedByPlaceAndExpectationAndChangesNothing) {
          "/hierarchy/0/kind: expected \"group\", \"object\" or \"light\", found \"lamp\""},
         {scene(R"("hierarchy":[{"id":1,"kind":"light","material":1}])"),
          "/hierarchy/0/material: only objects have a material"},
+        {scene(R"("hierarchy":[{"id":1,"kind":"light","lightLayer":2}])"),
+         "/hierarchy/0/lightLayer: expected the id of a light layer, found 2"},
+        {scene(R"("hierarchy":[{"id":1,"kind":"group","lightLayer":1}])"),
+         "/hierarchy/0/lightLayer: only lights are in light layers"},
+        {scene(R"("hierarchy":[{"id":1,"kind":"light","unlisted":1}])"),
+         "/hierarchy/0/unlisted: expected true or false, found 1"},
+        {scene(R"("lightLayers":[{"id":2}])"), "/lightLayers: there is no layer 1"},
+        {scene(R"("lightLayers":[{"id":1},{"id":33}])"),
+         "/lightLayers/1/id: expected a whole number from 1 to 32, found 33"},
+        {scene(R"("lightLayers":[{"id":1},{"id":1}])"),
+         "/lightLayers/1/id: ids ascend: expected 2 or more, found 1"},
     };
     Renderer renderer;
     ASSERT_EQ(renderer.loadScene(showroom), "");

@@ -100,6 +100,21 @@ nyx::ObjectId Renderer::addLight(std::string const& name, nyx::GroupItemId paren
     return nyx::ObjectId(id.toUint());
 }
 
+bool Renderer::setUnlisted(nyx::ObjectId light, bool unlisted) {
+    GroupItem* const item = impl_->scene.item(nyx::GroupItemId(light.toUint()));
+    if (item == nullptr || !item->is_light()) {
+        return false;
+    }
+    item->lightShader.unlisted = unlisted;
+    return true;
+}
+
+void Renderer::setEnvironmentLightMask(std::uint32_t mask) {
+    impl_->scene.lightLayers().setEnvironmentMask(mask);
+}
+
+nyxLight_layer_db& Renderer::lightLayers() { return *impl_->scene.lights().database(); }
+
 nyx::SurfaceId Renderer::addSurface(std::string const& name, int resolution) {
     return impl_->scene.surfaces().create(name, resolution);
 }
@@ -250,7 +265,9 @@ std::optional<ItemInfo> Renderer::item(nyx::GroupItemId id) const {
                     record.kind == ItemKind::Light,
                     record.name,
                     record.parent,
-                    record.material};
+                    record.material,
+                    impl_->scene.lightLayers().layerOf(item->object_id()),
+                    item->lightShader.unlisted};
 }
 
 std::vector<nyx::ColorId> Renderer::colors() const {

@@ -106,6 +106,11 @@ std::uint32_t JsonNode::word(std::uint32_t low, std::uint32_t high) const {
     failExpected("a whole number from " + std::to_string(low) + " to " + std::to_string(high));
 }
 
+bool JsonNode::boolean() const {
+    checkIs(value_.is_boolean(), "true or false");
+    return value_.get<bool>();
+}
+
 double JsonNode::number() const {
     checkIs(value_.is_number(), "a number");
     return value_.get<double>();

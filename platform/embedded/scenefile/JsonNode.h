@@ -50,6 +50,8 @@ public:
     /// A whole number from `low` to `high`.
     [[nodiscard]] std::uint32_t word(std::uint32_t low = 0, std::uint32_t high = 0xFFFFFFFFu) const;
     [[nodiscard]] double number() const;
+    /// True or false.
+    [[nodiscard]] bool boolean() const;
     /// A number within the range of float, or one of the texts "nan", "inf", "-inf".
     [[nodiscard]] float component() const;
     /// A string, or an object {"hex": "..."} with the bytes of a text that is no valid UTF-8.

@@ -108,7 +108,14 @@ void append(std::string& out, nyxMaterial const& record) {
     out += '\n';
 }
 
-void append(std::string& out, ItemRecord const& record) {
+void append(std::string& out, nyx::LightLayerId id, LightLayer const& layer) {
+    appendHead(out, "light layer", idText(id), layer.name);
+    appendFlags(out, layer.flags.bits());
+    out += '\n';
+}
+
+void append(std::string& out, GroupItem const& item, LightLayers const& layers) {
+    ItemRecord const& record = item.record;
     char const* const kind = record.kind == ItemKind::Group   ? "group"
                              : record.kind == ItemKind::Light ? "light"
                                                               : "object";
@@ -118,6 +125,10 @@ void append(std::string& out, ItemRecord const& record) {
     }
     if (record.material.isValid()) {
         out.append(" material ").append(idText(record.material));
+    }
+    if (item.is_light()) {
+        out.append(" layer ").append(idText(layers.layerOf(item.object_id())));
+        out.append(item.lightShader.unlisted ? " unlisted" : "");
     }
     out += '\n';
 }
@@ -130,7 +141,14 @@ std::string dumpScene(nyxScene const& scene) {
     scene.forEachColor([&out](ColorRecord const& record) { append(out, record); });
     scene.forEachColorway([&out](ColorwayRecord const& record) { append(out, record); });
     scene.forEachMaterial([&out](nyxMaterial const& record) { append(out, record); });
-    scene.forEachItem([&out](GroupItem const& item) { append(out, item.record); });
+    LightLayers const& layers = scene.lightLayers();
+    out.append("environment light mask ")
+        .append(std::to_string(layers.environmentMask()))
+        .append(1, '\n');
+    for (nyx::LightLayerId const id : layers.ids()) {
+        append(out, id, *layers.find(id));
+    }
+    scene.forEachItem([&](GroupItem const& item) { append(out, item, layers); });
     return out;
 }
 

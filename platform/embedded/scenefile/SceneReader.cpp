@@ -132,6 +132,26 @@ void readMaterial(JsonNode const& node, nyxScene& scene) {
     static_cast<void>(scene.addMaterial(std::move(record)));
 }
 
+/// Layers of a file ascend, and the first one is where lights are that name none.
+LightLayers readLightLayers(JsonNode const& list) {
+    LightLayers layers;
+    layers.setEnvironmentMask(LightLayers::forScene().environmentMask());
+    nyx::LightLayerId next = LightLayers::defaultLayer;
+    list.forEachElement([&](JsonNode const& node) {
+        node.checkObject({"id", "name", "flags"});
+        static_cast<void>(node.member("id").word(1, LightLayers::maximum));
+        nyx::LightLayerId const id = readId(node, next);
+        layers.add(
+            {readText(node, "name"), nyx::Flags<layerFlags>::fromBits(readWord(node, "flags"))},
+            id);
+        next = nyx::LightLayerId(id.toUint() + 1);
+    });
+    if (layers.find(LightLayers::defaultLayer) == nullptr) {
+        list.fail("there is no layer 1");
+    }
+    return layers;
+}
+
 ItemKind readKind(JsonNode const& node) {
     std::string const& kind = node.string();
     if (kind == "group") {
@@ -147,7 +167,7 @@ ItemKind readKind(JsonNode const& node) {
 }
 
 void readItem(JsonNode const& node, nyxScene& scene) {
-    node.checkObject({"id", "kind", "name", "parent", "material"});
+    node.checkObject({"id", "kind", "name", "parent", "material", "lightLayer", "unlisted"});
     ItemRecord record;
     record.id = readId(node, scene.nextItemId());
     record.kind = readKind(node.member("kind"));
@@ -165,7 +185,24 @@ void readItem(JsonNode const& node, nyxScene& scene) {
         }
         record.material = nyx::MaterialId(material->word());
     }
-    static_cast<void>(scene.addItem(std::move(record)));
+    nyx::GroupItemId const id = scene.addItem(std::move(record));
+    GroupItem& item = *scene.item(id);
+    if (auto const layer = node.find("lightLayer")) {
+        nyx::LightLayerId const wanted(layer->word());
+        if (!item.is_light()) {
+            layer->fail("only lights are in light layers");
+        }
+        if (scene.lightLayers().find(wanted) == nullptr) {
+            layer->failExpected("the id of a light layer");
+        }
+        scene.lights().put({item.object_id()}, wanted);
+    }
+    if (auto const unlisted = node.find("unlisted")) {
+        if (!item.is_light()) {
+            unlisted->fail("only lights are in light layers");
+        }
+        item.lightShader.unlisted = unlisted->boolean();
+    }
 }
 
 /// The ids of records that are gone are not given out again, so the next ones are written down.
@@ -206,7 +243,7 @@ void readScene(nlohmann::json const& document, nyxScene& scene) {
     // Before the keys, because another version has other keys.
     readHeader(file);
     file.checkObject({"format", "version", "unitScale", "nextIds", "colors", "colorways",
-                      "settings", "materials", "hierarchy"});
+                      "settings", "materials", "environmentLightMask", "lightLayers", "hierarchy"});
 
     if (auto const scale = file.find("unitScale")) {
         if (scale->number() < 0) {
@@ -217,6 +254,12 @@ void readScene(nlohmann::json const& document, nyxScene& scene) {
     readSection(file, "colors", scene, readColor);
     readSection(file, "colorways", scene, readColorway);
     readSection(file, "materials", scene, readMaterial);
+    if (auto const layers = file.find("lightLayers")) {
+        scene.lights().replace(readLightLayers(*layers));
+    }
+    if (auto const mask = file.find("environmentLightMask")) {
+        scene.lightLayers().setEnvironmentMask(mask->word());
+    }
     readSection(file, "hierarchy", scene, readItem);
     if (auto const settings = file.find("settings")) {
         settings->checkObject({"activeColorway"});

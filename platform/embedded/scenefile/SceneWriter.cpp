@@ -173,13 +173,29 @@ char const* kindName(ItemKind kind) {
     }
 }
 
-void write(std::string& out, ItemRecord const& record) {
+void write(std::string& out, nyx::LightLayerId id, LightLayer const& layer) {
+    Line line(out);
+    line.value("id", id);
+    line.text("name", layer.name);
+    line.flags(layer.flags.bits());
+}
+
+void write(std::string& out, GroupItem const& item, LightLayers const& layers) {
+    ItemRecord const& record = item.record;
     Line line(out);
     line.value("id", record.id);
     line.key("kind") += kindName(record.kind);
     line.text("name", record.name);
     line.reference("parent", record.parent);
     line.reference("material", record.material);
+    if (item.is_light()) {
+        nyx::LightLayerId const layer = layers.layerOf(item.object_id());
+        line.reference("lightLayer",
+                       layer == LightLayers::defaultLayer ? nyx::LightLayerId() : layer);
+        if (item.lightShader.unlisted) {
+            line.key("unlisted") += "true";
+        }
+    }
 }
 
 } // namespace
@@ -209,9 +225,17 @@ std::string writeScene(nyxScene const& scene) {
         Section section(out, "materials");
         scene.forEachMaterial([&](nyxMaterial const& record) { write(section.next(), record); });
     }
+    LightLayers const& layers = scene.lightLayers();
+    out.append(",\n  \"environmentLightMask\": ").append(number(layers.environmentMask()));
+    {
+        Section section(out, "lightLayers");
+        for (nyx::LightLayerId const id : layers.ids()) {
+            write(section.next(), id, *layers.find(id));
+        }
+    }
     {
         Section section(out, "hierarchy");
-        scene.forEachItem([&](GroupItem const& item) { write(section.next(), item.record); });
+        scene.forEachItem([&](GroupItem const& item) { write(section.next(), item, layers); });
     }
     out += "\n}\n";
     return out;

@@ -65,13 +65,14 @@ struct ItemRecord {
     nyx::MaterialId material; ///< objects only; invalid: none
 };
 
-/// A light's shader: all that it knows is its light layer.
+/// A light's shader: all that it knows is about light layers.
 class LightShader final : public nyxShader {
 public:
     [[nodiscard]] std::uint32_t light_layer_mask() const override { return mask; }
     [[nodiscard]] bool info(unsigned query) const override;
 
-    std::uint32_t mask = 1; ///< bit n-1 for layer n; a new light is in layer 1
+    std::uint32_t mask = 0; ///< bit n-1 for layer n
+    bool unlisted = false;  ///< what query 4100 answers
 };
 
 /// An item in the tree. Its address is stable as long as its scene keeps its contents.

@@ -16,6 +16,7 @@
 #include <string>
 #include <vector>
 
+class nyxLight_layer_db;
 class nyxRT_api;
 class nyxScene;
 class ZUndoStack;
@@ -71,7 +72,13 @@ public:
     /// An object that uses a material (or none).
     nyx::ObjectId addObject(std::string const& name, nyx::GroupItemId parent = {},
                             nyx::MaterialId material = {});
+    /// In layer 1; lightLayers() can put it elsewhere.
     nyx::ObjectId addLight(std::string const& name, nyx::GroupItemId parent = {});
+    /// Whether lists of light layers leave the light out: what its shader answers to query 4100.
+    /// False for what is no light.
+    bool setUnlisted(nyx::ObjectId light, bool unlisted);
+    /// Which layers the environment's light is in; layer 1 at first.
+    void setEnvironmentLightMask(std::uint32_t mask);
     /// A paint surface with one layer; the invalid id for a resolution below 1 or above 16384.
     nyx::SurfaceId addSurface(std::string const& name, int resolution);
     /// What nyx_scene_unit_scale() answers; what is no finite number above 0 counts as none.
@@ -106,6 +113,9 @@ public:
     void processEvents();
 
     // Looking on.
+
+    /// The scene's light layers, to build them and to look at them.
+    [[nodiscard]] nyxLight_layer_db& lightLayers();
 
     /// Every call to the renderer and to the material manager since the last take, one line of text
     /// each, in order: the call, then its ids and values ("commit_color_params 3"). Recording

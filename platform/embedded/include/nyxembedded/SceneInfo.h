@@ -49,8 +49,10 @@ struct ItemInfo {
     bool isGroup = false;
     bool isLight = false;
     std::string name;
-    nyx::GroupItemId parent;  ///< invalid: at the top
-    nyx::MaterialId material; ///< invalid: none
+    nyx::GroupItemId parent;      ///< invalid: at the top
+    nyx::MaterialId material;     ///< invalid: none
+    nyx::LightLayerId lightLayer; ///< of a light
+    bool isUnlisted = false;      ///< a light that lists of light layers leave out
 };
 
 /// A layer of a painted surface.
