@@ -156,8 +156,11 @@ void RtApi::set_layer_flags(nyx::LightLayerId layer, nyx::Flags<layerFlags> flag
     scene_.lightLayers().setFlags(layer, flags);
 }
 
-void RtApi::update_brush_node(nyx::painter::nyxBrush_node*) {
-    scene_.journal().write("update_brush_node");
+void RtApi::update_brush_node(nyx::painter::nyxBrush_node* node) {
+    scene_.journal().write("update_brush_node", node == nullptr ? nullptr : node->kind());
+    if (BrushNode* const known = scene_.brushes().find(node)) {
+        known->publish();
+    }
 }
 
 void RtApi::call_after_sync(std::function<void()> function) {

@@ -41,7 +41,7 @@ public:
                              int operation) override;
     void assign_layer_lights(nyx::LightLayerId layer, nyx::Span<nyx::ObjectId> lights) override;
     void set_layer_flags(nyx::LightLayerId layer, nyx::Flags<layerFlags> flags) override;
-    /// This renderer has no brushes: the call is journalled and ignored.
+    /// From now on strokes are painted with the present values of the node.
     void update_brush_node(nyx::painter::nyxBrush_node* node) override;
 
     void call_after_sync(std::function<void()> function) override;

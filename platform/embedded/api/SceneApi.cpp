@@ -11,6 +11,7 @@ void SceneApi::begin(Making what) {
     making_ = what;
     color_ = {};
     colorway_ = {};
+    brushNode_.reset();
 }
 
 bool SceneApi::end(Making what) {
@@ -62,35 +63,59 @@ void SceneApi::set_param(char const* name, int type, char const* text) {
     }
 }
 
+// A node that is not being made, and a parameter of another type, are as good as unknown.
+BrushNode::Param* SceneApi::brushParam(char const* name, int type, int wantedType) {
+    return brushNode_ == nullptr || name == nullptr || type != wantedType
+               ? nullptr
+               : brushNode_->find(name, type);
+}
+
 void SceneApi::set_param(char const* name, int type, float value) {
-    scene_.journal().write("set_param", name, type, value); // no record has a float by itself
+    scene_.journal().write("set_param", name, type, value);
+    if (auto* const param = brushParam(name, type, TypeFloat)) {
+        param->value.f = value;
+    }
 }
 
 void SceneApi::set_param(char const* name, int type, nyxColor const& value) {
     scene_.journal().write("set_param", name, type, value.r, value.g, value.b);
-    if (name != nullptr && type == TypeColor && std::string_view(name) == "color") {
+    if (auto* const param = brushParam(name, type, TypeColor)) {
+        param->value.c[0] = value.r;
+        param->value.c[1] = value.g;
+        param->value.c[2] = value.b;
+    } else if (name != nullptr && type == TypeColor && std::string_view(name) == "color") {
         color_.value = {value.r, value.g, value.b, 1};
     }
 }
 
-void SceneApi::set_param(char const* name, int type, nyx::painter::nyxBrush_node*) {
-    scene_.journal().write("set_param", name, type); // no record has a node
+void SceneApi::set_param(char const* name, int type, nyx::painter::nyxBrush_node* node) {
+    scene_.journal().write("set_param", name, type, node == nullptr ? nullptr : node->kind());
+    if (auto* const param = brushParam(name, type, TypeNode)) {
+        param->value.node = node;
+    }
 }
-
-// This renderer knows no kind of brush node, so none comes into being and none has a file.
 
 void SceneApi::begin_brush_node(char const* kind, int extra) {
     scene_.journal().write("begin_brush_node", kind, extra);
-    begin(Making::Nothing);
+    begin(Making::BrushNode);
+    if (BrushKind const* const known = kind == nullptr ? nullptr : findBrushKind(kind)) {
+        brushNode_ = std::make_unique<BrushNode>(*known);
+    }
 }
 
 nyx::painter::nyxBrush_node* SceneApi::end_brush_node() {
     scene_.journal().write("end_brush_node");
-    return nullptr;
+    auto node = std::exchange(brushNode_, nullptr);
+    if (!end(Making::BrushNode) || node == nullptr) {
+        return nullptr;
+    }
+    node->publish();
+    return scene_.brushes().add(std::move(node));
 }
 
-void SceneApi::load_brush_file(nyx::painter::nyxBrush_param&, char const* path) {
+void SceneApi::load_brush_file(nyx::painter::nyxBrush_param& parameter, char const* path) {
     scene_.journal().write("load_brush_file", path);
+    scene_.brushes().loadFile(parameter, path);
 }
 
 } // namespace nyx::embedded

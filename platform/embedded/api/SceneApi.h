@@ -1,6 +1,7 @@
 #pragma once
 
 #include "nyxrender/nyxScene_api.h"
+#include "store/BrushNode.h"
 #include "store/Records.h"
 
 class nyxScene;
@@ -26,15 +27,17 @@ public:
     void load_brush_file(nyx::painter::nyxBrush_param& parameter, char const* path) override;
 
 private:
-    enum class Making { Nothing, Color, Colorway };
+    enum class Making { Nothing, Color, Colorway, BrushNode };
     void begin(Making what);
     [[nodiscard]] bool end(Making what);
+    [[nodiscard]] BrushNode::Param* brushParam(char const* name, int type, int wantedType);
 
     nyxScene& scene_;
     Making making_ = Making::Nothing;
     ColorRecord color_;
     ColorwayRecord colorway_;
     nyx::ColorwayId lastColorway_;
+    std::unique_ptr<BrushNode> brushNode_; ///< null also while a node of unknown kind is made
 };
 
 } // namespace nyx::embedded

@@ -3,6 +3,7 @@
 #include "nyxembedded/Faults.h"
 #include "nyxrender/nyxScene.h"
 #include "nyxrender/nyxScene_hierarchy.h"
+#include "store/BrushGraph.h"
 #include "store/IdList.h"
 #include "store/Journal.h"
 #include "store/LightLayers.h"
@@ -151,12 +152,14 @@ public:
     /// Takes over all records and settings of `fresh`, in no more than constant time but for a step
     /// per paint surface, and leaves it with what this scene had, but for the surfaces: tasks on
     /// their way may hold those. Ids that this scene has given out stay used; both revisions rise.
-    /// Strings, journal and faults stay: blocks on loan still point to the strings.
+    /// Strings, brush nodes, journal and faults stay: blocks on loan still point to the strings,
+    /// brushes to their nodes.
     void takeContents(nyxScene& fresh);
 
     // What belongs to the scene without being part of its contents.
 
     [[nodiscard]] nyx::embedded::StringPool& strings() { return strings_; }
+    [[nodiscard]] nyx::embedded::BrushGraph& brushes() { return brushes_; }
     [[nodiscard]] nyx::embedded::Journal& journal() const { return journal_; }
     [[nodiscard]] nyx::embedded::Faults& faults() { return faults_; }
     [[nodiscard]] nyxScene_api* api() { return api_.get(); }
@@ -202,6 +205,7 @@ private:
     std::uint32_t lentFlagsSeen_ = 0;
 
     nyx::embedded::StringPool strings_;
+    nyx::embedded::BrushGraph brushes_{strings_};
     mutable nyx::embedded::Journal journal_; ///< also of calls that only look
     nyx::embedded::Faults faults_;
     nyx::embedded::Surfaces surfaces_{strings_, journal_};

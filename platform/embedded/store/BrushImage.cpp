@@ -1,0 +1,46 @@
+#include "store/BrushImage.h"
+
+#include <png.h>
+
+#include <filesystem>
+#include <system_error>
+
+namespace nyx::embedded {
+
+std::shared_ptr<BrushImage const> readBrushImage(std::string const& path, std::string& message) {
+    /// The reader's state, freed on every way out.
+    struct Reader : png_image {
+        Reader() : png_image{} { version = PNG_IMAGE_VERSION; }
+        Reader(Reader const&) = delete;
+        Reader& operator=(Reader const&) = delete;
+        ~Reader() { png_image_free(this); }
+    } png;
+    // Opening what is no plain file may wait for ever.
+    std::error_code error;
+    auto const file = std::filesystem::path(reinterpret_cast<char8_t const*>(path.c_str()));
+    if (!std::filesystem::is_regular_file(file, error)) {
+        message = path + ": " + (error ? error.message() : "not a file");
+        return nullptr;
+    }
+    if (png_image_begin_read_from_file(&png, path.c_str()) == 0) {
+        message = path + ": " + png.message;
+        return nullptr;
+    }
+    // The file says how large it is, so that must not decide how much memory is asked for.
+    if (std::uint64_t(png.width) * png.height > mostBrushImagePixels) {
+        message = path + ": too large for a brush";
+        return nullptr;
+    }
+    png.format = PNG_FORMAT_RGBA;
+    auto image = std::make_shared<BrushImage>();
+    image->width = static_cast<int>(png.width);
+    image->height = static_cast<int>(png.height);
+    image->rgba.resize(PNG_IMAGE_SIZE(png));
+    if (png_image_finish_read(&png, nullptr, image->rgba.data(), 0, nullptr) == 0) {
+        message = path + ": " + png.message;
+        return nullptr;
+    }
+    return image;
+}
+
+} // namespace nyx::embedded
