@@ -1,77 +1,93 @@
-#include "Terminal.h"
+#include "console/StandardStreams.h"
+#include "console/Terminal.h"
 #include "host/Host.h"
 #include "host/Interpreter.h"
 #include "host/JsonSession.h"
+#include "host/printable.h"
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
 
-#include <filesystem>
-#include <fstream>
+#include <algorithm>
 #include <iostream>
+#include <optional>
+#include <sstream>
 
 namespace {
 
-// Standard input that is no terminal is a script without a name.
-int runScript(app::Interpreter& interpreter, std::string const& path, bool keepGoing) {
-    if (path == "-") {
-        return interpreter.runScript(std::cin, "standard input", keepGoing, std::cerr) == 0 ? 0 : 1;
+struct Options {
+    std::string scene;
+    std::string script = "-"; ///< "-" is standard input
+    bool hasScript = false;
+    bool jsonLines = false;
+    bool keepGoing = false;
+};
+
+/// The exit code when there is nothing more to do than say it.
+std::optional<int> readOptions(Options& options) {
+    CLI::App parser(
+        "Headless host of the scene graph: loads a scene into the embedded renderer and "
+        "works on it by commands.",
+        "zsg-console");
+    parser.add_option("SCENE", options.scene, "scene file (JSON)")->required();
+    auto* const script = parser.add_option("--script", options.script,
+                                           "run the commands of a file, - for standard input");
+    parser.add_flag("--jsonl", options.jsonLines, "one JSON object per line, in and out")
+        ->excludes(script);
+    parser.add_flag("--keep-going", options.keepGoing,
+                    "go on with the script when a command fails");
+    // Qt knows the arguments in UTF-8 on every system. The parser takes them from the last on.
+    std::vector<std::string> arguments;
+    for (QString const& argument : QCoreApplication::arguments()) {
+        arguments.push_back(argument.toStdString());
     }
-    std::error_code ignored;
-    if (std::filesystem::is_directory(path, ignored)) {
-        std::cerr << path << ": is a folder, not a script\n";
-        return 1;
+    arguments.erase(arguments.begin());
+    std::ranges::reverse(arguments);
+    try {
+        parser.parse(arguments);
+    } catch (CLI::ParseError const& error) {
+        std::ostringstream out;
+        std::ostringstream errors;
+        int const code = parser.exit(error, out, errors);
+        std::cout << app::printableLines(out.view());
+        std::cerr << app::printableLines(errors.view());
+        return code == 0 ? 0 : 1;
     }
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
-        std::cerr << (path.empty() ? "\"\"" : path) << ": cannot be opened\n";
-        return 1;
-    }
-    return interpreter.runScript(in, path, keepGoing, std::cerr) == 0 ? 0 : 1;
+    options.hasScript = script->count() != 0;
+    return {};
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    QCoreApplication application(argc, argv);
-
-    CLI::App options(
-        "Headless host of the scene graph: loads a scene into the embedded renderer and "
-        "works on it by commands.",
-        "zsg-console");
-    std::string scene;
-    std::string script;
-    bool jsonLines = false;
-    bool keepGoing = false;
-    options.add_option("SCENE", scene, "scene file (JSON)")->required();
-    auto* const scriptOption =
-        options.add_option("--script", script, "run the commands of a file, - for standard input");
-    options.add_flag("--jsonl", jsonLines, "one JSON object per line, in and out")
-        ->excludes(scriptOption);
-    options.add_flag("--keep-going", keepGoing, "go on with the script when a command fails");
-    try {
-        options.parse(argc, argv);
-    } catch (CLI::ParseError const& error) {
-        return options.exit(error) == 0 ? 0 : 1;
+    prepareStandardStreams();
+    QCoreApplication const application(argc, argv);
+    Options options;
+    if (auto const code = readOptions(options)) {
+        return *code;
     }
-
     app::Host host(std::cout);
-    if (std::string const message = host.load(scene); !message.empty()) {
-        std::cerr << message << '\n';
+    if (std::string const message = host.load(options.scene); !message.empty()) {
+        std::cerr << app::printable(message) << '\n';
         return 1;
     }
     app::Interpreter interpreter(host);
-    int code = 0;
-    if (jsonLines) {
-        code = app::runJsonSession(interpreter, host, std::cin, std::cout);
-    } else if (scriptOption->count() == 0 && app::isTerminal()) {
-        code = app::runTerminalSession(interpreter, host);
+    interpreter.showSwatches(isOutputTerminal() && !options.jsonLines);
+    int failures = 0;
+    if (options.jsonLines) {
+        failures = app::runJsonSession(interpreter, host, std::cin, std::cout);
+    } else if (!options.hasScript && isTerminal()) {
+        runTerminalSession(interpreter, host);
     } else {
-        code = runScript(interpreter, scriptOption->count() == 0 ? "-" : script, keepGoing);
+        // Standard input that is no terminal is a script without a name.
+        failures =
+            options.script == "-"
+                ? interpreter.runScript(std::cin, "standard input", options.keepGoing, std::cerr)
+                : interpreter.runScriptFile(options.script, options.keepGoing, std::cerr);
     }
     if (!std::cout.flush()) {
         std::cerr << "the output could not be written\n";
         return 1;
     }
-    return code;
+    return failures == 0 ? 0 : 1;
 }

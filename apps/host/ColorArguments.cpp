@@ -1,6 +1,7 @@
 #include "host/ColorArguments.h"
 
 #include "host/Host.h"
+#include "host/printable.h"
 
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/ISceneGraph.h"
@@ -10,8 +11,6 @@
 #include <cmath>
 #include <cstdio>
 #include <ostream>
-
-#include <unistd.h>
 
 namespace app {
 
@@ -95,30 +94,23 @@ nyxColor_rgba takeRgba(Arguments& arguments) {
     return color;
 }
 
-std::string swatch(nyxColor_rgba const& color) {
-    int const r = component(color.r);
-    int const g = component(color.g);
-    int const b = component(color.b);
-    char text[64];
-    static bool const isTerminal = isatty(STDOUT_FILENO) != 0;
-    if (isTerminal) {
-        std::snprintf(text, sizeof text, "\033[48;2;%d;%d;%dm   \033[0m #%02x%02x%02x", r, g, b, r,
-                      g, b);
-    } else {
-        std::snprintf(text, sizeof text, "#%02x%02x%02x", r, g, b);
-    }
+std::string hexColor(nyxColor_rgba const& color) {
+    char text[32];
+    std::snprintf(text, sizeof text, "#%02x%02x%02x", component(color.r), component(color.g),
+                  component(color.b));
     return text;
 }
 
 std::string colorLine(Host& host, nyx::ColorId id) {
     ZColorExt const color = host.root().colorDB()->colorFromId(id);
-    std::string line = std::to_string(id.toUint()) + ' ' + swatch(color.rgba()) + ' ' +
-                       (color.getColorName().empty() ? "(unnamed)" : color.getColorName());
+    std::string line =
+        std::to_string(id.toUint()) + ' ' + hexColor(color.rgba()) + ' ' +
+        (color.getColorName().empty() ? "(unnamed)" : printable(color.getColorName()));
     if (color.isMultiColor()) {
         line += " [";
         for (int i = 0; i < color.nColors(); ++i) {
             line += (i == 0 ? "" : " ") + std::string(i == color.activeIndex() ? "*" : "") +
-                    color.getName(i);
+                    printable(color.getName(i));
         }
         line += ']';
     }

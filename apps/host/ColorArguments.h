@@ -31,7 +31,7 @@ nyxColor_rgba takeRgba(Arguments& arguments);
 std::string colorLine(Host& host, nyx::ColorId id);
 /// Prints it; throws CommandError with the text `failure` for the invalid id.
 void printColor(Host& host, nyx::ColorId id, char const* failure);
-/// "#rrggbb", clamped; with a coloured block before it when the output is a terminal.
-std::string swatch(nyxColor_rgba const& color);
+/// "#rrggbb", clamped.
+std::string hexColor(nyxColor_rgba const& color);
 
 } // namespace app

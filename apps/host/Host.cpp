@@ -1,5 +1,8 @@
 #include "host/Host.h"
 
+#include "host/Arguments.h"
+#include "host/InputFile.h"
+
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/core/SceneGraphPars.h"
 
@@ -30,7 +33,6 @@ Host::~Host() {
 }
 
 void Host::buildRoot() {
-    states_.clear();
     undoStack_.clear();
     events_.reset();
     root_.reset();
@@ -50,6 +52,11 @@ void Host::buildRoot() {
 }
 
 std::string Host::load(std::string const& path) {
+    try {
+        checkInputFile(path, largestScene);
+    } catch (CommandError const& error) {
+        return error.what();
+    }
     std::string message = renderer_.loadScene(path);
     if (message.empty()) {
         // The edits of the old scene would otherwise be written into the new one.

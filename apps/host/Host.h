@@ -50,8 +50,8 @@ public:
     void requestEnd() { endRequested_ = true; }
     [[nodiscard]] bool endRequested() const { return endRequested_; }
 
-    /// What a family of commands keeps between them, made at the first request. It ends with the
-    /// host, or when a scene is loaded.
+    /// What a family of commands keeps between them, made at the first request. It lives as long as
+    /// the host, so it may refer to nothing of the root or the scene, which loading replaces.
     template <class State>
     State& state() {
         std::any& any = states_[std::type_index(typeid(State))];

@@ -5,11 +5,38 @@
 #include "host/LineReader.h"
 #include "host/printable.h"
 
+#include "zsg/values/pathFromUtf8.h"
+
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <ostream>
 #include <sstream>
 
 namespace app {
+
+namespace {
+
+// A block of the colour before each "#rrggbb", in the escape sequences of a terminal.
+std::string withSwatches(std::string const& text) {
+    constexpr std::string_view hex = "0123456789abcdef";
+    std::string result;
+    std::size_t done = 0;
+    for (std::size_t i = text.find('#'); i != std::string::npos; i = text.find('#', i + 1)) {
+        if (text.find_first_not_of(hex, i + 1) < i + 7 || text.size() < i + 7) {
+            continue;
+        }
+        auto const part = [&](std::size_t at) {
+            return std::to_string(std::stoi(text.substr(i + at, 2), nullptr, 16));
+        };
+        result += text.substr(done, i - done) + "\x1b[48;2;" + part(1) + ';' + part(3) + ';' +
+                  part(5) + "m   \x1b[0m ";
+        done = i;
+    }
+    return result + text.substr(done);
+}
+
+} // namespace
 
 void Interpreter::run(std::string_view line) {
     if (std::size_t const at = invalidUtf8At(line); at != std::string_view::npos) {
@@ -28,20 +55,22 @@ void Interpreter::run(std::vector<std::string> const& words) {
     }
     std::ostream& out = host_.out();
     std::ostringstream captured;
-    struct Restore {
-        Host& host;
-        std::ostream& out;
-        std::ostringstream& captured;
-        ~Restore() {
-            host.setOut(out);
-            out << captured.view();
-        }
-    } const restore{host_, out, captured};
     host_.setOut(captured);
-    carryOut(host_, words);
+    std::string failure;
+    try {
+        carryOut(host_, words);
+    } catch (std::exception const& error) {
+        failure = printable(error.what(), longestMessage);
+    }
+    host_.setOut(out);
+    std::string const text = printableLines(captured.view());
+    out << (swatches_ ? withSwatches(text) : text);
+    if (!failure.empty()) {
+        throw CommandError(failure);
+    }
     // Several expectations may look at the output of one command.
     if (words[0] != "expect") {
-        host_.state<LastOutput>().text = captured.str();
+        host_.state<LastOutput>().text = text;
     }
 }
 
@@ -65,14 +94,32 @@ int Interpreter::runScript(std::istream& in, std::string const& name, bool keepG
         } catch (std::exception const& error) {
             ++failures;
             host_.out().flush();
-            errors << name << ':' << number << ": " << printable(error.what(), longestMessage)
-                   << std::endl;
+            errors << printable(name) << ':' << number << ": " << error.what() << std::endl;
             if (!keepGoing) {
                 break;
+            }
+            if (result == ReadResult::TooLong) {
+                skipLine(in);
             }
         }
     }
     return failures;
+}
+
+int Interpreter::runScriptFile(std::string const& path, bool keepGoing, std::ostream& errors) {
+    std::filesystem::path const name = zsg::pathFromUtf8(path);
+    std::error_code ignored;
+    bool const isFolder = std::filesystem::is_directory(name, ignored);
+    std::ifstream in;
+    if (!isFolder) {
+        in.open(name, std::ios::binary);
+    }
+    if (!in.is_open()) {
+        errors << (path.empty() ? "\"\"" : printable(path))
+               << (isFolder ? ": is a folder, not a script\n" : ": cannot be opened\n");
+        return 1;
+    }
+    return runScript(in, path, keepGoing, errors);
 }
 
 } // namespace app

@@ -20,16 +20,24 @@ public:
     explicit Interpreter(Host& host) : host_(host) {}
 
     /// Runs one line and delivers what the renderer has to say afterwards. An empty line or a
-    /// comment does nothing. Throws CommandError.
+    /// comment does nothing. Throws CommandError. What the command prints, and what it throws,
+    /// holds nothing that a terminal would obey.
     void run(std::string_view line);
     void run(std::vector<std::string> const& words);
+
+    /// Puts a block of the colour before every "#rrggbb", for a terminal that can show it.
+    void showSwatches(bool on) { swatches_ = on; }
 
     /// Runs a script. A failing command is reported on `errors` as "file:line: message" and ends
     /// the script, or, with `keepGoing`, only counts. Returns how many failed.
     int runScript(std::istream& in, std::string const& name, bool keepGoing, std::ostream& errors);
+    /// The same for the file of a path (UTF-8), which may be a pipe or a device. One that cannot be
+    /// opened is reported on `errors` and counts as one failure.
+    int runScriptFile(std::string const& path, bool keepGoing, std::ostream& errors);
 
 private:
     Host& host_;
+    bool swatches_ = false;
 };
 
 } // namespace app

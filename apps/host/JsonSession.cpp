@@ -101,6 +101,9 @@ int runJsonSession(Interpreter& interpreter, Host& host, std::istream& in, std::
         answer["events"] = std::move(events);
         // Names of a scene are UTF-8; what is not is shown as the replacement character.
         out << answer.dump(-1, ' ', false, Json::error_handler_t::replace) << std::endl;
+        if (result == ReadResult::TooLong) {
+            skipLine(in);
+        }
     }
     return failed ? 1 : 0;
 }

@@ -1,6 +1,7 @@
 #include "host/ValueText.h"
 
 #include "host/ColorArguments.h"
+#include "host/NamedValues.h"
 
 #include "zsg/values/ValueVariant.h"
 
@@ -36,7 +37,8 @@ zsg::Enumerable takeEnumerable(Arguments& arguments) {
 
 } // namespace
 
-void withValue(Type type, Arguments& arguments, std::function<void(void const*)> const& use) {
+void withValue(Host& host, Type type, Arguments& arguments,
+               std::function<void(void const*)> const& use) {
     auto const hand = [&](auto value) {
         arguments.done();
         use(&value);
@@ -112,9 +114,14 @@ void withValue(Type type, Arguments& arguments, std::function<void(void const*)>
     }
     case Type::Enumerable:
         return hand(takeEnumerable(arguments));
+    case Type::WeavePattern:
+        return hand(takeNamed<zsg::WeavePattern>(host, arguments, "the name of a weave"));
+    case Type::ColorGradient:
+        return hand(takeNamed<zsg::ColorGradient>(host, arguments, "the name of a gradient"));
+    case Type::AnimationCurve:
+        return hand(takeNamed<zsg::AnimationCurve>(host, arguments, "the name of a curve"));
     default:
-        throw CommandError(std::string("a ") + zsg::typeName(type) +
-                           " is not written in words; use its own commands");
+        throw CommandError(std::string("a ") + zsg::typeName(type) + " has no value");
     }
 }
 

@@ -1,4 +1,5 @@
 #include "host/Arguments.h"
+#include "host/printable.h"
 
 #include <gtest/gtest.h>
 
@@ -65,6 +66,32 @@ TEST(Arguments, WordsAreReadWholeOrNotAtAll) {
     EXPECT_TRUE(arguments.flag("rest"));
     EXPECT_NO_THROW(arguments.done());
     EXPECT_THROW(arguments.word("more"), CommandError);
+}
+
+TEST(Printable, NothingThatATerminalObeysIsLeft) {
+    struct Row {
+        std::string text;
+        char const* shown;
+    };
+    for (Row const& row : {
+             Row{"Gr\xC3\xBC\xC3\x9F \xF0\x9F\x8E\xA8 \\n",
+                 "Gr\xC3\xBC\xC3\x9F \xF0\x9F\x8E\xA8 \\n"},
+             Row{"\x1B[2J\r\b\x7F", "\\x1b[2J\\x0d\\x08\\x7f"},
+             Row{"two\nlines\t", "two\\nlines\\x09"},
+             Row{"\xC2\x9B"
+                 "31m",
+                 "\\x9b31m"}, // the same as ESC [ to some terminals
+             Row{"\xE2\x80\xAE"
+                 "gpj",
+                 "\\u202egpj"},
+             Row{"\xE2\x81\xA9\xE2\x80\xA8", "\\u2069\\u2028"},
+             Row{"a\xFFz\xC3", "a\\xffz\\xc3"},
+         }) {
+        EXPECT_EQ(app::printable(row.text), row.shown);
+    }
+    EXPECT_EQ(app::printableLines("one\n\ttwo\x1B"), "one\n\ttwo\\x1b");
+    EXPECT_EQ(app::printable("abcdef", 6), "abcdef");
+    EXPECT_EQ(app::printable("abcd\xE2\x82\xAC", 6), "abcd...") << "not half a character";
 }
 
 } // namespace

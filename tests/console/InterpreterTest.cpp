@@ -6,16 +6,25 @@
 #include "host/LineReader.h"
 #include "support/sourceDir.h"
 
+#include "zsg/values/pathFromUtf8.h"
+
+#include <QTemporaryDir>
 #include <gmock/gmock.h>
 
+#include <filesystem>
+#include <fstream>
 #include <sstream>
+
+#ifndef _WIN32
+    #include <sys/stat.h>
+#endif
 
 namespace {
 
 using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::Not;
+using testing::StartsWith;
 
 class InterpreterTest : public testing::Test {
 protected:
@@ -123,13 +132,59 @@ TEST_F(InterpreterTest, AWordTooManyStopsACommandBeforeItActs) {
     EXPECT_EQ(state(), before) << "what had the name is kept";
 }
 
-TEST_F(InterpreterTest, LoadingABrokenSceneLeavesEverythingAsItWas) {
-    EXPECT_EQ(script("events show off\ncolor name Teal Petrol\nscene keep before\n"
-                     "expect failure showroom-that-is-not-there "
-                     "scene load showroom-that-is-not-there.json\n"
-                     "expect scene before\nexpect undo 1\nundo\n"),
-              0)
+TEST_F(InterpreterTest, WholeFilesAreReadFromRegularFilesOnly) {
+    QTemporaryDir const folder;
+    std::string const path = folder.path().toStdString() + "/F\xC3\xBC\xC3\x9F"
+                                                           "e ";
+    auto const refused = [&](std::string const& command, std::string const& name,
+                             std::string const& why) {
+        EXPECT_EQ(script("expect failure \"" + name + ": " + why + "\" " + command + " \"" + path +
+                         name + "\"\n"),
+                  0)
+            << errors.str();
+    };
+    std::ofstream(zsg::pathFromUtf8(path + "empty.json"));
+    refused("scene load", "empty.json", "is empty");
+    refused("weave read w", "missing.json", "cannot be opened");
+    for (auto const& [command, name, mebibytes] :
+         {std::tuple("scene load", "big.json", 1024u), std::tuple("weave read w", "big.weave", 64u),
+          std::tuple("ior load i", "big.nk", 16u), std::tuple("ior lint", "lint.nk", 16u)}) {
+        std::ofstream(zsg::pathFromUtf8(path + name));
+        std::filesystem::resize_file(zsg::pathFromUtf8(path + name),
+                                     (std::uintmax_t{mebibytes} << 20) + 1);
+        refused(command, name, "holds more than " + std::to_string(mebibytes) + " MiB");
+    }
+#ifndef _WIN32
+    ASSERT_EQ(::mkfifo((path + "pipe.nk").c_str(), 0600), 0);
+    for (char const* const command : {"scene load", "weave read w", "ior load i", "ior lint"}) {
+        refused(command, "pipe.nk", "is no regular file"); // opening it would wait for ever
+    }
+#endif
+    std::ofstream(zsg::pathFromUtf8(path + "glass.nk")) << "2 400 700 2\n1.5 0\n1.4 0\n";
+    EXPECT_EQ(script("ior load glass \"" + path + "glass.nk\"\nexpect output \"2 samples\"\n"), 0)
         << errors.str();
+}
+
+TEST_F(InterpreterTest, NamesReachTheTerminalAsTextAndColoursAsBlocks) {
+    EXPECT_EQ(script("events show off\n"), 0);
+    interpreter.run({"color", "name", "Teal", "\x1B[2J\nevent 7 ColorCreated 1"});
+    out.str("");
+    interpreter.run({"color", "find", "Teal"});
+    interpreter.run({"color", "show", "29"});
+    interpreter.run("history");
+    EXPECT_EQ(out.str().find('\x1B'), std::string::npos);
+    EXPECT_THAT(out.str(), HasSubstr("\n  29 #008080 \\x1b[2J\\nevent 7 ColorCreated 1\n"));
+    EXPECT_THAT(out.str(), HasSubstr("Set Color name (\\x1b[2J\\nevent 7 ColorCreated 1)\n"));
+    try {
+        interpreter.run({"color", "show", "\x1B[0m"});
+        ADD_FAILURE();
+    } catch (app::CommandError const& error) {
+        EXPECT_STREQ(error.what(), "color show: the scene has no colour \"\\x1b[0m\"");
+    }
+    interpreter.showSwatches(true);
+    out.str("");
+    EXPECT_EQ(script("color name 28 \"#12 #12345g\"\ncolor show 28\n"), 0) << errors.str();
+    EXPECT_THAT(out.str(), StartsWith("  28 \x1B[48;2;46;139;87m   \x1B[0m #2e8b57 #12 #12345g\n"));
 }
 
 TEST_F(InterpreterTest, JsonLinesAnswerEveryRequest) {

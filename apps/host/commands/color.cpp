@@ -1,6 +1,7 @@
 #include "host/ColorArguments.h"
 #include "host/Command.h"
 #include "host/Host.h"
+#include "host/printable.h"
 
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
@@ -70,7 +71,8 @@ void materials(Host& host, Arguments& arguments) {
     arguments.done();
     for (nyx::MaterialId const material : db(host).getMaterialsUsingColor(id, how, all)) {
         auto const info = host.renderer().material(material);
-        host.out() << "  " << material.toUint() << ' ' << (info ? info->name : "") << '\n';
+        host.out() << "  " << material.toUint() << ' ' << (info ? printable(info->name) : "")
+                   << '\n';
     }
 }
 
@@ -81,7 +83,7 @@ void unique(Host& host, Arguments& arguments) {
     if (!name) {
         throw CommandError("there is no unique name");
     }
-    host.out() << *name << '\n';
+    host.out() << printable(*name) << '\n';
 }
 
 void find(Host& host, Arguments& arguments) {

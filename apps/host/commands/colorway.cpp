@@ -1,6 +1,7 @@
 #include "host/ColorArguments.h"
 #include "host/Command.h"
 #include "host/Host.h"
+#include "host/printable.h"
 
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
@@ -22,7 +23,7 @@ void list(Host& host, Arguments&) {
     for (nyx::ColorwayId const id : ids) {
         if (zsg::ZColorwayEdit const* const edit = db(host).getColorwayParameters(id)) {
             host.out() << (edit->isActive() ? "  * " : "    ") << id.toUint() << ' '
-                       << edit->displayName() << ", " << edit->multiColors().size()
+                       << printable(edit->displayName()) << ", " << edit->multiColors().size()
                        << " multi-colours" << (edit->isDeleted() ? ", deleted" : "") << '\n';
         }
     }
@@ -38,17 +39,18 @@ void show(Host& host, Arguments& arguments) {
     std::vector<nyx::ColorId> const multis(edit->multiColors().begin(), edit->multiColors().end());
     std::vector<nyx::ColorId> const subs(edit->activeSubIndices().begin(),
                                          edit->activeSubIndices().end());
-    host.out() << "  " << edit->displayName() << (edit->isActive() ? ", active" : "")
+    host.out() << "  " << printable(edit->displayName()) << (edit->isActive() ? ", active" : "")
                << (edit->isDeleted() ? ", deleted" : "") << '\n';
     for (std::size_t i = 0; i < multis.size(); ++i) {
-        host.out() << "    " << db(host).colorFromId(multis[i]).getColorName() << ": "
+        host.out() << "    " << printable(db(host).colorFromId(multis[i]).getColorName()) << ": "
                    << colorLine(host, subs[i]) << '\n';
     }
 }
 
 void active(Host& host, Arguments&) {
     nyx::ColorwayId const id = db(host).activeColorwayId();
-    host.out() << (id.isValid() ? std::to_string(id.toUint()) + ' ' + db(host).activeColorwayName()
+    host.out() << (id.isValid() ? std::to_string(id.toUint()) + ' ' +
+                                      printable(db(host).activeColorwayName())
                                 : std::string("none"))
                << '\n';
 }
@@ -59,7 +61,7 @@ void create(Host& host, Arguments& arguments) {
     if (!id.isValid()) {
         throw CommandError("no colorway could be made");
     }
-    host.out() << "  " << id.toUint() << ' ' << text << '\n';
+    host.out() << "  " << id.toUint() << ' ' << printable(text) << '\n';
 }
 
 void apply(Host& host, Arguments& arguments) {

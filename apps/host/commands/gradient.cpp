@@ -86,7 +86,7 @@ void show(Host& host, Arguments& arguments) {
     ColorGradient const& gradient = take(host, arguments);
     arguments.done();
     for (ColorGradientStop const& stop : gradient.getStops()) {
-        host.out() << "  " << stop.getLocation() << ' ' << swatch(stop.getColor());
+        host.out() << "  " << stop.getLocation() << ' ' << hexColor(stop.getColor());
         if (stop.getSlopeLeft() != 0 || stop.getSlopeRight() != 0) {
             host.out() << " slopes " << stop.getSlopeLeft() << ' ' << stop.getSlopeRight();
         }

@@ -1,5 +1,6 @@
 #include "host/Command.h"
 #include "host/Host.h"
+#include "host/printable.h"
 
 #include <ostream>
 
@@ -11,8 +12,8 @@ void list(Host& host, Arguments&) {
     ZUndoStack const& stack = host.undoStack();
     for (int i = 0; i < stack.count(); ++i) {
         host.out() << (i < stack.index() ? "  done   " : "  undone ") << i + 1 << ' '
-                   << stack.text(i).toStdString() << (i + 1 == stack.cleanIndex() ? " *" : "")
-                   << '\n';
+                   << printable(stack.text(i).toStdString())
+                   << (i + 1 == stack.cleanIndex() ? " *" : "") << '\n';
     }
 }
 

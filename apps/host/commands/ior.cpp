@@ -1,5 +1,6 @@
 #include "host/Command.h"
 #include "host/IORLint.h"
+#include "host/InputFile.h"
 #include "host/NamedValues.h"
 #include "host/Picture.h"
 
@@ -9,7 +10,6 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
-#include <fstream>
 #include <iomanip>
 #include <ostream>
 #include <sstream>
@@ -50,6 +50,7 @@ void load(Host& host, Arguments& arguments) {
     std::string const name = arguments.word("a name");
     std::string const path = arguments.word("a path");
     arguments.done();
+    checkInputFile(path, largestMeasurement);
     if (!zsg::loadIORFile(path, triples)) {
         throw CommandError(path + ": holds no samples");
     }
@@ -176,12 +177,7 @@ void save(Host& host, Arguments& arguments) {
 void lint(Host& host, Arguments& arguments) {
     std::string const path = arguments.word("a path");
     arguments.done();
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    if (!in || text.str().empty()) {
-        throw CommandError(path + ": is empty or cannot be read");
-    }
+    std::string const text = readInputFile(path, largestMeasurement);
     std::size_t const dot = path.find_last_of('.');
     std::string extension = dot == std::string::npos ? "" : path.substr(dot + 1);
     std::ranges::transform(extension, extension.begin(),
@@ -189,7 +185,7 @@ void lint(Host& host, Arguments& arguments) {
     if (extension != "nk" && extension != "ior" && extension != "csv") {
         throw CommandError(path + ": has none of the extensions nk, ior, csv; nothing is read");
     }
-    auto const findings = lintIOR(text.str(), extension);
+    auto const findings = lintIOR(text, extension);
     for (std::string const& finding : findings) {
         host.out() << "  " << finding << '\n';
     }

@@ -1,6 +1,7 @@
 #include "host/ColorArguments.h"
 #include "host/Command.h"
 #include "host/Host.h"
+#include "host/printable.h"
 
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
@@ -21,7 +22,7 @@ public:
     Answer(Host& host, Resolution resolution) : host_(host), resolution_(resolution) {}
 
     Resolution resolveConflict(ZColorExt const& color, int index, nyx::ColorId existing) override {
-        host_.out() << "  conflict: \"" << color.getName(index) << "\" is colour "
+        host_.out() << "  conflict: \"" << printable(color.getName(index)) << "\" is colour "
                     << existing.toUint()
                     << (resolution_ == Resolution::Link ? ", linked\n" : ", renamed\n");
         return resolution_;
@@ -55,8 +56,8 @@ ZColorExt takeForeign(Arguments& arguments) {
 void conflicts(Host& host, Arguments& arguments) {
     auto const found = controller(host).checkForConflict(takeForeign(arguments));
     for (zsg::IColorController::ColorConflict const& conflict : found) {
-        host.out() << "  \"" << conflict.name << "\" is " << colorLine(host, conflict.existing)
-                   << '\n';
+        host.out() << "  \"" << printable(conflict.name) << "\" is "
+                   << colorLine(host, conflict.existing) << '\n';
     }
     host.out() << (found.empty() ? "  no conflict\n" : "");
 }

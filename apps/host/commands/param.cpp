@@ -102,7 +102,7 @@ void set(Host& host, Arguments& arguments) {
     if (!parameter.isValid() || parameter.isPure()) {
         throw CommandError("the parameter has no value");
     }
-    withValue(parameter.type(), arguments, [&](void const* value) {
+    withValue(host, parameter.type(), arguments, [&](void const* value) {
         switch (parameter.type()) {
 #define APP_SET(member, number, T)                                                                 \
     case Type::member:                                                                             \

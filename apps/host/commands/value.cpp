@@ -26,7 +26,7 @@ void make(Host& host, Arguments& arguments) {
     std::string const name = arguments.word("a name");
     Holder holder(zsg::makeVariant(takeType(arguments)));
     if (!arguments.empty()) {
-        withValue(holder->type(), arguments, [&](void const* value) { holder->set(value); });
+        withValue(host, holder->type(), arguments, [&](void const* value) { holder->set(value); });
     }
     keepNamed(host, name, holder);
     print(host, *holder);
@@ -34,7 +34,7 @@ void make(Host& host, Arguments& arguments) {
 
 void set(Host& host, Arguments& arguments) {
     Holder const holder = take(host, arguments);
-    withValue(holder->type(), arguments, [&](void const* value) {
+    withValue(host, holder->type(), arguments, [&](void const* value) {
         host.out() << (holder->set(value) ? "  changed\n" : "  unchanged\n");
     });
 }

@@ -1,15 +1,14 @@
 #include "host/Command.h"
+#include "host/InputFile.h"
 #include "host/NamedValues.h"
 #include "host/Picture.h"
+#include "host/printedBy.h"
 
 #include "nyxrender/WeavePattern.h"
 #include "zsg/values/WeavePattern.h"
 
 #include <algorithm>
 #include <fstream>
-#include <iomanip>
-#include <iostream>
-#include <sstream>
 
 namespace app {
 
@@ -147,15 +146,10 @@ void read(Host& host, Arguments& arguments) {
     std::string const name = arguments.word("a name");
     std::string const path = arguments.word("a path");
     arguments.done();
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    if (!in) {
-        throw CommandError(path + ": cannot be read");
-    }
+    std::string const text = readInputFile(path, largestWeave);
     WeavePattern weave;
     try {
-        if (!weave.setFromJson(QString::fromStdString(text.str()))) {
+        if (!weave.setFromJson(QString::fromStdString(text))) {
             throw CommandError(path + ": is no weave pattern");
         }
     } catch (CommandError const&) {
@@ -166,17 +160,10 @@ void read(Host& host, Arguments& arguments) {
     keepNamed(host, name, weave);
 }
 
-/// The snippet goes to standard output, whatever ours is.
 void preset(Host& host, Arguments& arguments) {
     WeavePattern const& weave = take(host, arguments);
     arguments.done();
-    std::ostringstream text;
-    std::streamsize const precision = std::cout.precision();
-    std::streambuf* const before = std::cout.rdbuf(text.rdbuf());
-    weave.printPreset();
-    std::cout.rdbuf(before);
-    std::cout.precision(precision);
-    host.out() << text.str() << '\n';
+    host.out() << printedBy([&] { weave.printPreset(); }) << '\n';
 }
 
 void hash(Host& host, Arguments& arguments) {
