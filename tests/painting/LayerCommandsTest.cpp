@@ -1,0 +1,114 @@
+#include "painting/LayerCommands.h"
+
+#include "nyxrender/nyxCustomSurface.h"
+#include "nyxrender/nyxPainter.h"
+#include "painting/PaintScene.h"
+#include "painting/ZPaintSurface.h"
+
+#include <gtest/gtest.h>
+
+using namespace zsg;
+
+namespace {
+
+class LayerCommandsTest : public PaintScene {
+protected:
+    std::string nameOfNewLayer(std::vector<std::string> const& names) {
+        ZPaintSurface& s = dynamic_cast<ZPaintSurface&>(surface(addSurfaceLater(names)));
+        ZAddLayerCommand const command(0, &s);
+        return s.layerList()[0].name;
+    }
+    nyx::SurfaceId addSurfaceLater(std::vector<std::string> const& names) {
+        nyx::SurfaceId const id = addSurface(names);
+        painter().reload();
+        return id;
+    }
+};
+
+TEST_F(LayerCommandsTest, numbersNewLayersAboveTheLargest) {
+    std::vector<std::pair<std::vector<std::string>, std::string>> const rows = {
+        {{""}, "Layer 1"},
+        {{"Layer 1", "Paint", "Layer 4"}, "Layer 5"},
+        {{"Layer4"}, "Layer 5"}, // the blank is not asked for
+        {{"layer 4", "My Layer 5", "Layers 6", "Layer  7", "Layer 8b"}, "Layer 1"},
+        {{"Layer"}, "Layer 1"},
+        {{"Layer 2147483647"}, "Layer 2147483648"},
+        {{"Layer 2147483648", "Layer 2"}, "Layer 3"}, // no int any more
+        {{"Layer -3"}, "Layer 1"},
+    };
+    for (auto const& [names, expected] : rows) {
+        EXPECT_EQ(nameOfNewLayer(names), expected) << names[0];
+    }
+    IPainterSurface& s = surface(addSurfaceLater({"Layer 2"}));
+    s.setLayerDeleted(0, true);
+    s.addLayer(0);
+    EXPECT_EQ(list(s), "*Layer 3 -Layer 2") << "deleted layers count";
+}
+
+TEST_F(LayerCommandsTest, startsIdsAboveTheLargest) {
+    nyx::SurfaceId const id = renderer.addSurface("", 64);
+    ASSERT_TRUE(id.isValid());
+    nyxCustomSurface& custom = *painter().painter()->surface(id);
+    custom.add_layer(1, 7);
+    custom.add_layer(1, 3);
+    endRoot(); // the next one finds the layers
+    surface(id).addLayer(0);
+    EXPECT_EQ(surface(id).layers()[0].id, 8u);
+}
+
+// What undo of a move does not restore: after a move downwards the layer comes back one higher.
+TEST_F(LayerCommandsTest, undoOfAMoveDownwardsLandsOnePlaceHigher) {
+    struct Row {
+        unsigned from, to;
+        char const *moved, *undone;
+    };
+    for (Row const& row :
+         {Row{2, 0, "C A B", "A B C"}, Row{0, 2, "B C A", "A B C"}, Row{1, 2, "A C B", "B A C"},
+          Row{2, 1, "A C B", "A B C"}, Row{0, 1, "B A C", "A B C"}}) {
+        nyx::SurfaceId const id = addSurfaceLater({"A", "B", "C"});
+        IPainterSurface& s = surface(id);
+        s.setEditLayer(7); // out of the picture
+        auto const both = [&] {
+            queue.waitIdle();
+            std::string renderers = rendererList(id);
+            renderers.erase(renderers.find('*'), 1);
+            EXPECT_EQ(list(s), renderers);
+            return list(s);
+        };
+        s.moveLayer(row.from, row.to);
+        EXPECT_EQ(both(), row.moved) << row.from << " to " << row.to;
+        undo.undo();
+        EXPECT_EQ(both(), row.undone) << row.from << " to " << row.to;
+    }
+}
+
+TEST_F(LayerCommandsTest, mergesBackgroundsWhateverTheirLayers) {
+    IPainterSurface& s = surface(addSurface({"A", "B"}));
+    auto const background = [&](unsigned index) { return s.layers()[index].background.r; };
+    s.setLayerBackgroundColor(0, {0.25f, 0, 0, 1}, true);
+    s.setLayerBackgroundColor(0, {0.5f, 0, 0, 1}, true);
+    s.setLayerBackgroundColor(1, {0.75f, 0, 0, 1}, true);
+    ASSERT_EQ(undo.count(), 1);
+    undo.undo();
+    EXPECT_EQ(background(0), 0.0f);
+    EXPECT_EQ(background(1), 0.75f) << "the other layer keeps its colour";
+    undo.redo();
+    EXPECT_EQ(background(0), 0.75f) << "and redo gives it to this one";
+    s.moveLayer(0, 1);
+    s.setLayerBackgroundColor(0, {0, 0, 0, 1}, true);
+    EXPECT_EQ(undo.count(), 3) << "a move shares the number and merges with nothing";
+
+    auto& surface = dynamic_cast<ZPaintSurface&>(s);
+    ZLayerBackgroundCommand first({}, {}, 1, &surface);
+    ZMoveLayerCommand move(1, 0xFFFFFFFF, 2, &surface);
+    EXPECT_FALSE(first.mergeWith(&move) || move.mergeWith(&first) || first.mergeWith(nullptr));
+}
+
+TEST_F(LayerCommandsTest, undoOfVisibilitySetsTheOppositeOfTheNewValue) {
+    auto& s = dynamic_cast<ZPaintSurface&>(surface(addSurface({"A"})));
+    ZLayerVisibilityCommand show(true, 1, &s); // it is visible already
+    EXPECT_TRUE(show.redo() && show.undo());
+    EXPECT_EQ(list(s), "*~A");
+}
+
+} // namespace

@@ -1,0 +1,229 @@
+#include "painting/ZPaintSurface.h"
+
+#include "nyxrender/nyxCustomSurface.h"
+#include "painting/PaintScene.h"
+#include "zcore/ZUndoCommand.h"
+
+#include <gtest/gtest.h>
+
+using namespace zsg;
+
+namespace {
+
+class ZPaintSurfaceTest : public PaintScene {};
+
+constexpr nyxColor_rgba red{1, 0, 0, 0.5f};
+
+// One block of text: what each edit, its undo and its redo queue, call and announce.
+TEST_F(ZPaintSurfaceTest, tellsRendererAndListenersOfEachEditInOrder) {
+    nyx::SurfaceId const id = addSurface({"Top", "Mid", "Low"});
+    IPainterSurface& s = surface(id);
+    struct Row {
+        std::function<void()> edit;
+        std::string text;
+        int commandId;
+        std::string done, undone, redone;
+    };
+    std::string const toggled = "queued; queued; refresh 0; event 1; ";
+    std::string const one = "queued; refresh 0; event 1; ";
+    std::vector<Row> const rows = {
+        {[&] { s.addLayer(1); }, "3D Paint add layer", 167,
+         "queued; event 1; " + toggled +
+             R"(task: add_layer 1 2 4, set_edit_layer 1 2, set_layer_name 1 2 "Layer 1"; )"
+             "task: set_layer_deleted 1 2 false; task: set_edit_layer 1 2",
+         toggled + "task: set_layer_deleted 1 2 true; task: set_edit_layer 1 3",
+         toggled + "task: set_layer_deleted 1 2 false; task: set_edit_layer 1 2"},
+        {[&] { s.setLayerDeleted(3, true); }, "3D Paint delete layer", 167,
+         toggled + "task: set_layer_deleted 1 0 true; task: set_edit_layer 1 1",
+         toggled + "task: set_layer_deleted 1 0 false; task: set_edit_layer 1 0",
+         toggled + "task: set_layer_deleted 1 0 true; task: set_edit_layer 1 1"},
+        {[&] { s.setLayerBlend(0, nyx::ColorBlendMode::Screen); },
+         "3D Paint change layer blend mode", 169, one + "task: set_layer_blend_mode 1 3 2",
+         one + "task: set_layer_blend_mode 1 3 0", one + "task: set_layer_blend_mode 1 3 2"},
+        {[&] { s.setLayerVisibility(2, false); }, "3D Paint change layer visibility", 170,
+         one + "task: set_layer_visible 1 1 false", one + "task: set_layer_visible 1 1 true",
+         one + "task: set_layer_visible 1 1 false"},
+        {[&] { s.setLayerName(2, QStringLiteral("Größe")); }, "3D Paint change layer name", 171,
+         "set_layer_name 1 1 \"Größe\"; event 1", "set_layer_name 1 1 \"Mid\"; event 1",
+         "set_layer_name 1 1 \"Größe\"; event 1"},
+        {[&] { s.setLayerName(2, QString()); }, "3D Paint change layer name", 171,
+         "set_layer_name 1 1 null; event 1", "set_layer_name 1 1 \"Größe\"; event 1",
+         "set_layer_name 1 1 null; event 1"},
+        {[&] { s.moveLayer(3, 0); }, "3D Paint move layer", 172, one + "task: move_layer 1 0 3",
+         one + "task: move_layer 1 3 1", one + "task: move_layer 1 1 3"},
+        {[&] { EXPECT_TRUE(s.setLayerBackgroundColor(1, red, true)); },
+         "3D Paint change layer background", 172, one + "task: set_layer_background 1 2 1 0 0 0.5",
+         one + "task: set_layer_background 1 2 0 0 0 0",
+         one + "task: set_layer_background 1 2 1 0 0 0.5"},
+    };
+    for (Row const& row : rows) {
+        int const entries = undo.count();
+        EXPECT_EQ(trace(row.edit), row.done) << row.text;
+        ASSERT_EQ(undo.count(), entries + 1) << row.text;
+        EXPECT_EQ(undo.text(entries).toStdString(), row.text);
+        EXPECT_EQ(static_cast<int>(undo.command(entries)->id()), row.commandId) << row.text;
+        if (row.text.find("move") == std::string::npos) { // see LayerCommandsTest for its undo
+            std::string const before = rendererList(id);
+            EXPECT_EQ(trace([&] { undo.undo(); }), row.undone) << row.text;
+            EXPECT_EQ(trace([&] { undo.redo(); }), row.redone) << row.text;
+            EXPECT_EQ(rendererList(id), before) << row.text;
+        }
+    }
+    EXPECT_EQ(list(s), rendererList(id));
+    EXPECT_EQ(renderer.painting().surface(id)->ignoredCalls, 0u);
+
+    // Without an entry.
+    EXPECT_EQ(trace([&] { s.setEditLayer(3); }), "queued; task: set_edit_layer 1 0");
+    EXPECT_EQ(trace([&] { s.setEditLayer(3); }), "");
+    EXPECT_EQ(trace([&] { s.setEditLayer(9); }), "queued; task: set_edit_layer 1 4294967290");
+    EXPECT_EQ(s.editLayer(), 9u) << "any index is taken";
+    EXPECT_EQ(trace([&] { s.setDeleted(true); }), "set_deleted 1 true");
+    EXPECT_TRUE(s.deleted());
+    EXPECT_EQ(trace([&] { EXPECT_TRUE(s.setLayerBackgroundColor(0, red, false)); }),
+              one + "task: set_layer_background 1 3 1 0 0 0.5");
+    EXPECT_EQ(undo.count(), static_cast<int>(rows.size()));
+}
+
+TEST_F(ZPaintSurfaceTest, pushesNothingWhereNothingChanges) {
+    IPainterSurface& s = surface(addSurface({"Top", "Low"}));
+    EXPECT_EQ(trace([&] {
+                  s.setLayerDeleted(2, true);
+                  s.setLayerDeleted(0, false);
+                  s.setLayerBlend(2, nyx::ColorBlendMode::Add);
+                  s.setLayerBlend(0, nyx::ColorBlendMode::Normal);
+                  s.setLayerVisibility(2, false);
+                  s.setLayerVisibility(0, true);
+                  s.setLayerName(2, QStringLiteral("x"));
+                  s.moveLayer(0, 0);
+                  s.moveLayer(0, 2);
+                  s.moveLayer(2, 0);
+                  EXPECT_FALSE(s.setLayerBackgroundColor(2, red, true));
+                  EXPECT_FALSE(s.setLayerBackgroundColor(0, {}, false));
+              }),
+              "");
+    EXPECT_EQ(undo.count(), 0);
+    s.setLayerName(0, QStringLiteral("Top"));
+    EXPECT_EQ(undo.count(), 1) << "an equal name is an edit";
+}
+
+TEST_F(ZPaintSurfaceTest, keepsTheEditLayerAmongTheLiveOnes) {
+    nyx::SurfaceId const id = addSurface({"A", "B", "C"});
+    IPainterSurface& s = surface(id);
+    EXPECT_EQ(s.editLayer(), 0u) << "as the renderer counts: its lowest";
+    s.setEditLayer(2);
+    s.setLayerDeleted(0, true);
+    EXPECT_EQ(list(s), "-A *B C");
+    s.setLayerDeleted(2, true);
+    EXPECT_EQ(list(s), "-A *B -C") << "the next one above";
+    s.setLayerDeleted(1, true);
+    EXPECT_EQ(list(s), "-A *-B -C") << "all deleted: it stays";
+    s.setLayerDeleted(0, false);
+    EXPECT_EQ(list(s), "-A *-B -C") << "the entry deletes for either flag";
+    EXPECT_EQ(undo.count(), 4);
+    undo.undo();
+    EXPECT_EQ(list(s), "*A -B -C") << "undo is what brings back";
+    queue.waitIdle();
+    EXPECT_EQ(rendererList(id), list(s));
+
+    s.addLayer(-5);
+    EXPECT_EQ(list(s), "*Layer 1 A -B -C");
+    s.addLayer(1000);
+    EXPECT_EQ(list(s), "Layer 1 A -B -C *Layer 2");
+    undo.undo();
+    EXPECT_EQ(list(s), "Layer 1 *A -B -C -Layer 2") << "undone layers stay in the list";
+    queue.waitIdle();
+    EXPECT_EQ(rendererList(id), list(s));
+}
+
+TEST_F(ZPaintSurfaceTest, namesTheRenderersLayerAtOnceEvenIfItIsAnotherOne) {
+    nyx::SurfaceId const id = addSurface({"A", "B"});
+    IPainterSurface& s = surface(id);
+    s.moveLayer(0, 1);
+    s.setLayerName(0, QStringLiteral("b")); // the model's top; the renderer still has A there
+    EXPECT_EQ(rendererList(id), "b *B");
+    queue.waitIdle();
+    EXPECT_EQ(list(s), "*b A");
+    EXPECT_EQ(rendererList(id), "B *b") << "the name went to the other layer and moved with it";
+}
+
+TEST_F(ZPaintSurfaceTest, changesOnlyTheModelWithoutATaskQueue) {
+    withTaskQueue = false;
+    nyx::SurfaceId const id = addSurface({"A", "B", "C"});
+    IPainterSurface& s = surface(id);
+    EXPECT_EQ(trace([&] {
+                  s.addLayer(3);
+                  s.setLayerDeleted(0, true);
+                  s.setLayerBlend(1, nyx::ColorBlendMode::Multiply);
+                  s.setLayerVisibility(1, false);
+                  s.moveLayer(1, 2);
+                  EXPECT_TRUE(s.setLayerBackgroundColor(1, red, true));
+                  s.setEditLayer(2);
+              }),
+              "");
+    EXPECT_EQ(list(s), "-A C *~B Layer 1");
+    EXPECT_EQ(s.layers()[2].blend_mode, nyx::ColorBlendMode::Multiply);
+    EXPECT_EQ(s.layers()[1].background.a, 0.5f);
+    EXPECT_EQ(undo.count(), 6);
+    EXPECT_EQ(trace([&] { s.setLayerName(1, QStringLiteral("c")); }),
+              "set_layer_name 1 2 \"c\"; event 1");
+}
+
+TEST_F(ZPaintSurfaceTest, editsWithoutUndoStackOrScene) {
+    withUndoStack = false;
+    IPainterSurface& s = surface(addSurface({"A", "B"}));
+    s.addLayer(0);
+    s.moveLayer(0, 2);
+    s.setLayerVisibility(1, false);
+    EXPECT_EQ(list(s), "*A ~B Layer 1");
+
+    renderer.faults().noScene = true;
+    s.setLayerName(0, QStringLiteral("lost"));
+    EXPECT_EQ(list(s), "*A ~B Layer 1") << "there is nowhere to keep a name";
+    s.setLayerName(0, QString());
+    s.addLayer(3);
+    EXPECT_EQ(list(s), "~B Layer 1 *");
+    renderer.faults().noScene = false;
+}
+
+TEST_F(ZPaintSurfaceTest, takesALayerBackThatTheUndoStackRefuses) {
+    nyx::SurfaceId const id = addSurface({"A"});
+    IPainterSurface& s = surface(id);
+    onPainted = [&] {
+        onPainted = nullptr;
+        s.addLayer(0); // the stack is running the rename
+    };
+    s.setLayerName(0, QStringLiteral("B"));
+    EXPECT_EQ(undo.count(), 1);
+    EXPECT_EQ(list(s), "-Layer 1 *B");
+    queue.waitIdle();
+    EXPECT_EQ(rendererList(id), list(s));
+}
+
+TEST_F(ZPaintSurfaceTest, ignoresUnknownIdsAndKeepsCommandsUsableAfterTheRoot) {
+    nyx::SurfaceId const id = addSurface({"A", "B", "C"});
+    auto& s = dynamic_cast<ZPaintSurface&>(surface(id));
+    EXPECT_EQ(trace([&] {
+                  s.setLayerDeletedInternal(9, true);
+                  s.setLayerBlendInternal(9, nyx::ColorBlendMode::Add);
+                  s.setLayerVisibilityInternal(9, false);
+                  s.setLayerNameInternal(9, QStringLiteral("x"));
+                  s.setLayerBackgroundColorInternal(9, red);
+                  s.moveLayerInternal(9, 1);
+                  s.moveLayerInternal(1, 9);
+              }),
+              "");
+    s.moveLayerInternal(0xFFFFFFFF, 1);
+    EXPECT_EQ(list(s), "*B C A") << "the topmost, to where C (id 1) is";
+    s.moveLayerInternal(1, 0xFFFFFFFF);
+    EXPECT_EQ(list(s), "*C B A");
+    ZPaintSurface const copy = s;
+    EXPECT_EQ(copy.nLayers(), 3u);
+
+    s.setLayerVisibility(0, false);
+    endRoot();
+    s.setLayerVisibilityInternal(1, true); // as a command does that was not cleared
+    EXPECT_EQ(list(s), "*C B A");
+    queue.waitIdle();
+}
+
+} // namespace
