@@ -1,0 +1,230 @@
+#include "painting/PaintModel.h"
+#include "painting/PaintScene.h"
+#include "ztask/ZTask.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <random>
+
+using namespace zsg;
+using nyx::embedded::LayerPixels;
+
+namespace {
+
+std::string text(IPainterSurface& surface) {
+    PaintModel shown;
+    shown.edit = surface.editLayer();
+    for (nyxLayerInfo const& l : surface.layers()) {
+        shown.layers.push_back({l.id, l.name ? l.name : "", static_cast<int>(l.blend_mode),
+                                l.deleted, l.visible, l.background.r});
+    }
+    return shown.text();
+}
+
+std::string text(nyx::embedded::SurfaceInfo const& surface) {
+    PaintModel shown;
+    for (auto const& l : surface.layers) {
+        shown.layers.insert(shown.layers.begin(), {l.id, l.name, static_cast<int>(l.mode),
+                                                   l.deleted, l.visible, l.background.r});
+    }
+    shown.edit = static_cast<unsigned>(surface.layers.size()) - 1 - surface.editLayer;
+    return shown.text();
+}
+
+/// What an entry does, forwards and backwards, as an edit of its surface's model.
+struct Entry {
+    std::function<void()> redo, undo;
+    int background = -1; ///< of a change of background: four times the layer, and the surface
+    float color = 0;
+};
+
+class PaintRandomEditTest : public PaintScene {
+protected:
+    struct PaintTask final : ZTask {
+        PaintTask(std::function<void()> function) : work(std::move(function)) {
+            setDeleteOnDone(true);
+        }
+        void run() override { work(); }
+        std::function<void()> work;
+    };
+};
+
+// 10,000 edits of three surfaces, undone and redone at random, while tasks wait. Names go to the
+// renderer at once, so the queue is drained before each; everything else may wait.
+TEST_F(PaintRandomEditTest, modelRendererAndPixelsAgreeWithAPlainModel) {
+    std::mt19937 random(20261122);
+    auto const below = [&](unsigned n) { return static_cast<unsigned>(random() % n); };
+    std::map<unsigned, PaintModel> models;
+    for (unsigned id = 1; id <= 3; ++id) {
+        renderer.addSurface("", 64);
+        models[id].layers.push_back({1, ""});
+    }
+    nyx::SurfaceId const scratch = renderer.addSurface("", 64);
+    std::vector<Entry> history;
+    std::size_t done = 0;
+    auto const entered = [&](Entry entry) {
+        history.resize(done);
+        entry.redo();
+        if (entry.background >= 0 && done > 0 && history[done - 1].background >= 0) {
+            // The first one's layer gets the later colour.
+            auto const key = static_cast<unsigned>(history[done - 1].background);
+            history[done - 1].redo = [&m = models[key % 4], layer = key / 4, color = entry.color] {
+                m.at(layer).background = color;
+            };
+        } else {
+            history.push_back(std::move(entry));
+            ++done;
+        }
+    };
+
+    for (int step = 0; step < 10000; ++step) {
+        unsigned const id = 1 + below(3);
+        PaintModel& m = models[id];
+        IPainterSurface& s = surface(nyx::SurfaceId(id));
+        if (step == 0) {
+            for (auto& [key, model] : models) {
+                surface(nyx::SurfaceId(key)).setEditLayer(0);
+            }
+        }
+        auto const n = static_cast<unsigned>(m.layers.size());
+        unsigned const i = below(n);
+        unsigned const layer = m.layers[i].id;
+        switch (below(13)) {
+        case 0: {
+            if (n >= 12) {
+                break;
+            }
+            unsigned const at = below(n + 1);
+            s.addLayer(static_cast<int>(at));
+            int largest = 0;
+            for (auto const& l : m.layers) {
+                if (l.name.rfind("Layer ", 0) == 0) {
+                    largest = std::max(largest, std::stoi(l.name.substr(6)));
+                }
+            }
+            unsigned const made = m.nextId++;
+            m.layers.insert(m.layers.begin() + at, {made, "Layer " + std::to_string(largest + 1)});
+            entered({[&m, made] { m.setDeleted(made, false); },
+                     [&m, made] { m.setDeleted(made, true); }});
+            break;
+        }
+        case 1: {
+            bool const flag = below(4) != 0;
+            bool const changes = m.layers[i].deleted != flag;
+            s.setLayerDeleted(i, flag);
+            if (changes) {
+                entered({[&m, layer] { m.setDeleted(layer, true); },
+                         [&m, layer] { m.setDeleted(layer, false); }});
+            }
+            break;
+        }
+        case 2: {
+            int const mode = static_cast<int>(below(14));
+            int const old = m.layers[i].mode;
+            s.setLayerBlend(i, static_cast<nyx::ColorBlendMode>(mode));
+            if (mode != old) {
+                entered({[&m, layer, mode] { m.at(layer).mode = mode; },
+                         [&m, layer, old] { m.at(layer).mode = old; }});
+            }
+            break;
+        }
+        case 3: {
+            bool const visible = !m.layers[i].visible;
+            s.setLayerVisibility(i, visible);
+            entered({[&m, layer, visible] { m.at(layer).visible = visible; },
+                     [&m, layer, visible] { m.at(layer).visible = !visible; }});
+            break;
+        }
+        case 4: {
+            queue.waitIdle();
+            std::string const name = below(5) == 0 ? "" : "Name " + std::to_string(below(50));
+            std::string const old = m.layers[i].name;
+            s.setLayerName(i, QString::fromStdString(name));
+            entered({[&m, layer, name] { m.at(layer).name = name; },
+                     [&m, layer, old] { m.at(layer).name = old; }});
+            break;
+        }
+        case 5: {
+            unsigned const to = below(n);
+            s.moveLayer(i, to);
+            if (to != i) {
+                unsigned const target = m.layers[to].id;
+                unsigned const previous = i == 0 ? 0 : m.layers[i - 1].id;
+                entered({[&m, layer, target] { m.move(layer, target); },
+                         [&m, layer, previous] { m.move(layer, previous); }});
+            }
+            break;
+        }
+        case 6: {
+            float const color = static_cast<float>(below(4)) / 4;
+            float const old = m.layers[i].background;
+            bool const undoable = below(3) != 0;
+            EXPECT_EQ(s.setLayerBackgroundColor(i, {color, 0, 0, 0}, undoable), color != old);
+            if (color != old && undoable) {
+                entered({[&m, layer, color] { m.at(layer).background = color; },
+                         [&m, layer, old] { m.at(layer).background = old; },
+                         static_cast<int>(layer * 4 + id), color});
+            } else {
+                m.layers[i].background = color;
+            }
+            break;
+        }
+        case 7:
+            s.setEditLayer(i);
+            m.edit = i;
+            break;
+        case 8: { // a host paints, on the render thread, on a layer that may not be there yet
+            nyx::embedded::Stroke stroke;
+            stroke.points = {{static_cast<float>(below(64)), static_cast<float>(below(64))}};
+            stroke.color = {1, static_cast<float>(below(2)), 0, 0.5f};
+            queue.addBlockingRenderTask(new PaintTask([this, id, layer, stroke] {
+                EXPECT_TRUE(renderer.painting().paint(nyx::SurfaceId(id), layer, stroke));
+                auto const now = renderer.painting().pixels(nyx::SurfaceId(id), layer);
+                EXPECT_TRUE(now.has_value());
+            }));
+            LayerPixels& expected = m.at(layer).pixels;
+            renderer.painting().setPixels(scratch, 1, expected);
+            renderer.painting().paint(scratch, 1, stroke);
+            expected = renderer.painting().pixels(scratch, 1).value();
+            break;
+        }
+        case 9:
+        case 10:
+            if (done > 0) {
+                queue.waitIdle(); // a name may be among it
+                ASSERT_TRUE(undo.undo());
+                history[--done].undo();
+            }
+            break;
+        case 11:
+            if (done < history.size()) {
+                queue.waitIdle();
+                ASSERT_TRUE(undo.redo());
+                history[done++].redo();
+            }
+            break;
+        default:
+            for (unsigned k = below(5); k > 0; --k) {
+                queue.step();
+            }
+        }
+        ASSERT_EQ(text(s), m.text()) << "step " << step;
+        ASSERT_EQ(undo.index(), static_cast<int>(done)) << "step " << step;
+        if (step % 100 == 99) {
+            queue.waitIdle();
+            for (auto const& [key, model] : models) {
+                nyx::SurfaceId const sid(key);
+                ASSERT_EQ(text(renderer.painting().surface(sid).value()), model.text()) << step;
+                for (auto const& l : model.layers) {
+                    ASSERT_TRUE(renderer.painting().pixels(sid, l.id) == l.pixels) << step;
+                }
+                EXPECT_EQ(renderer.painting().surface(sid)->ignoredCalls, 0u);
+            }
+        }
+    }
+    happened();
+}
+
+} // namespace
