@@ -5,10 +5,15 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QPointer>
 
+#include <atomic>
 #include <functional>
 #include <memory>
+#include <mutex>
+#include <shared_mutex>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -40,6 +45,63 @@ TEST(ZMainThreadCallbackTest, RunsOnceAndDisposesOfItself) {
         QCoreApplication::processEvents();
         EXPECT_EQ(runs, 2) << "the first ended the parent, and the second with it";
         EXPECT_TRUE(ends.isNull() && dropped.isNull());
+    }
+}
+
+struct Case {
+    bool withApi;
+    bool keepParent; ///< else parents come and go meanwhile
+};
+
+TEST(ZMainThreadCallbackTest, ComesFromAnyThread) {
+    for (Case const& run :
+         {Case{false, true}, Case{true, true}, Case{false, false}, Case{true, false}}) {
+        constexpr int workerCount = 4;
+        constexpr int each = 1000;
+        nyx::embedded::Renderer renderer;
+        nyxRT_api* const api = run.withApi ? renderer.api() : nullptr;
+        auto parent = std::make_unique<QObject>();
+        int generation = 0;
+        std::shared_mutex mutex; // over the two
+        int runs = 0;
+        int astray = 0; // on another thread, or for a parent that is no more
+        auto const count = [&, main = std::this_thread::get_id()](int made) {
+            ++runs;
+            astray += std::this_thread::get_id() != main || made != generation ? 1 : 0;
+        };
+        auto const held = std::make_shared<int>();
+        std::atomic<int> working{workerCount};
+        std::vector<std::thread> workers;
+        for (int i = 0; i < workerCount; ++i) {
+            workers.emplace_back([&] {
+                for (int n = 0; n < each; ++n) {
+                    std::shared_lock const guard(mutex);
+                    new ZMainThreadCallback(
+                        api, [&count, held, made = generation] { count(made); }, parent.get());
+                }
+                --working;
+            });
+        }
+        while (working > 0) {
+            QCoreApplication::processEvents();
+            if (!run.keepParent) {
+                std::unique_lock const guard(mutex);
+                parent = std::make_unique<QObject>();
+                ++generation;
+            }
+        }
+        for (std::thread& worker : workers) {
+            worker.join();
+        }
+        for (QDeadlineTimer end(10000); held.use_count() > 1 && !end.hasExpired();) {
+            QCoreApplication::processEvents();
+        }
+        EXPECT_EQ(held.use_count(), 1) << "every function ran or was dropped";
+        EXPECT_EQ(astray, 0);
+        if (run.keepParent) {
+            EXPECT_EQ(runs, workerCount * each);
+            EXPECT_TRUE(parent->children().isEmpty());
+        }
     }
 }
 

@@ -17,11 +17,6 @@ namespace {
 constexpr int turnLimit = 1000;
 constexpr std::chrono::milliseconds heldPollInterval{10};
 
-QEvent::Type turnEvent() {
-    static auto const type = static_cast<QEvent::Type>(QEvent::registerEventType());
-    return type;
-}
-
 template <class Container>
 void prepend(Container& container, Container&& front) {
     container.insert(container.begin(), std::make_move_iterator(front.begin()),
@@ -33,17 +28,19 @@ void prepend(Container& container, Container&& front) {
 /// One turn on its way: what is left of it when it ends goes back to the front.
 class Notifications::Delivery {
 public:
-    explicit Delivery(Notifications& owner)
-        : owner_(owner), turn(std::exchange(owner.waiting_, {})) {
+    explicit Delivery(Notifications& owner) : owner_(owner) {
+        Guard const guard(owner_.mutex_);
+        turn = std::exchange(owner_.waiting_, {});
         owner_.delivering_ = &turn;
         owner_.waitingColors_.clear();
     }
     ~Delivery() {
+        Guard const guard(owner_.mutex_);
         owner_.delivering_ = nullptr;
         prepend(owner_.waiting_.messages, std::move(turn.messages));
         prepend(owner_.waiting_.functions, std::move(turn.functions));
         if (!owner_.waiting_.empty()) {
-            owner_.schedule();
+            owner_.schedule(guard);
         }
     }
     Delivery(Delivery const&) = delete;
@@ -61,23 +58,27 @@ void Notifications::setHandler(std::function<void(nyxMessage const&)> handler) {
 }
 
 void Notifications::colorChanged(nyx::ColorId id) {
+    Guard const guard(mutex_);
     if (waitingColors_.insert(id).second) {
         waiting_.colors.push_back(id);
-        schedule();
+        schedule(guard);
     }
 }
 
 void Notifications::colorwayActivated(nyx::ColorwayId id) {
+    Guard const guard(mutex_);
     waiting_.messages.push_back({nyxMessage::ColorwayActivated, {}, id});
-    schedule();
+    schedule(guard);
 }
 
 void Notifications::callAfterSync(std::function<void()> function) {
+    Guard const guard(mutex_);
     waiting_.functions.push_back(std::move(function));
-    schedule();
+    schedule(guard);
 }
 
 void Notifications::forgetMessages() {
+    Guard const guard(mutex_);
     waiting_.colors.clear();
     waitingColors_.clear();
     waiting_.messages.clear();
@@ -86,37 +87,48 @@ void Notifications::forgetMessages() {
     }
 }
 
-void Notifications::schedule() {
+void Notifications::schedule(Guard const&) {
     if (!posted_ && delivering_ == nullptr && QCoreApplication::instance() != nullptr) {
         posted_ = true;
-        QCoreApplication::postEvent(this, new QEvent(turnEvent()));
+        QCoreApplication::postEvent(this, new QEvent(QEvent::User));
     }
 }
 
-bool Notifications::event(QEvent* event) {
-    if (event->type() == QEvent::Timer) {
-        killTimer(static_cast<QTimerEvent*>(event)->timerId());
-    } else if (event->type() != turnEvent()) {
-        return QObject::event(event);
-    }
+bool Notifications::isIdle() const {
+    Guard const guard(mutex_);
+    return waiting_.empty();
+}
+
+// These two do not look at their event: it may come from another thread.
+void Notifications::customEvent(QEvent*) { turn(); }
+
+void Notifications::timerEvent(QTimerEvent* event) {
+    killTimer(event->timerId());
+    turn();
+}
+
+void Notifications::turn() {
     if (faults_.holdNotifications) {
         // Nobody tells when the hold ends, and posting again at once would keep the loop busy.
         startTimer(heldPollInterval);
-        return true;
+        return;
     }
-    posted_ = false;
-    if (delivering_ == nullptr) {
-        deliverTurn();
+    {
+        Guard const guard(mutex_);
+        posted_ = false;
+        if (delivering_ != nullptr) {
+            return;
+        }
     }
-    return true;
+    deliverTurn();
 }
 
 void Notifications::processEvents() {
-    if (delivering_ != nullptr) {
+    if (delivering_ != nullptr) { // written by this thread alone
         return;
     }
     for (int turn = 0; turn < turnLimit; ++turn) {
-        if (waiting_.empty() || faults_.holdNotifications) {
+        if (isIdle() || faults_.holdNotifications) {
             return;
         }
         deliverTurn();
@@ -126,7 +138,7 @@ void Notifications::processEvents() {
 }
 
 void Notifications::deliverTurn() {
-    if (waiting_.empty()) {
+    if (isIdle()) {
         return;
     }
     Delivery delivery(*this);

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <mutex>
 #include <unordered_set>
 #include <vector>
 
@@ -17,7 +18,7 @@ struct Faults;
 
 /// What the renderer has to tell, until the next turn of the event loop. A turn delivers what
 /// waited when it began; what a receiver causes meanwhile waits for the turn after. When a receiver
-/// throws, the rest of the turn waits on in its order.
+/// throws, the rest of the turn waits on in its order. Main thread, but for callAfterSync().
 class Notifications final : public QObject {
 public:
     explicit Notifications(Faults const& faults) : faults_(faults) {}
@@ -25,6 +26,7 @@ public:
     void setHandler(std::function<void(nyxMessage const&)> handler);
     void colorChanged(nyx::ColorId id);
     void colorwayActivated(nyx::ColorwayId id);
+    /// Any thread.
     void callAfterSync(std::function<void()> function);
     /// Drops colours and messages not yet delivered, those of a turn under way included: the
     /// records that they name are no more.
@@ -33,7 +35,9 @@ public:
     /// gives up with a warning: receivers that always cause more would keep it forever.
     void processEvents();
 
-    bool event(QEvent* event) override;
+protected:
+    void customEvent(QEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     struct Turn {
@@ -46,12 +50,17 @@ private:
     };
     class Delivery;
 
-    void schedule();
+    using Guard = std::lock_guard<std::mutex>;
+
+    void schedule(Guard const& held);
+    [[nodiscard]] bool isIdle() const;
+    void turn();
     void deliverTurn();
     void send(nyxMessage const& message) const;
 
     Faults const& faults_;
     std::function<void(nyxMessage const&)> handler_;
+    mutable std::mutex mutex_; ///< over the members that follow; the turn under way needs none
     Turn waiting_;
     std::unordered_set<nyx::ColorId> waitingColors_;
     bool posted_ = false;

@@ -2,28 +2,69 @@
 
 #include "nyxrender/nyxRT_api.h"
 
-#include <QMetaObject>
-#include <QPointer>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QThread>
 
-#include <memory>
 #include <utility>
+
+namespace {
+
+/// The thread that the function is to run on.
+QThread* mainThread(QObject const* parent) {
+    if (parent != nullptr) {
+        return parent->thread();
+    }
+    QCoreApplication const* const application = QCoreApplication::instance();
+    return application != nullptr ? application->thread() : QThread::currentThread();
+}
+
+} // namespace
 
 ZMainThreadCallback::ZMainThreadCallback(nyxRT_api* api, std::function<void()> function,
                                          QObject* parent)
-    : QObject(parent), function_(std::move(function)) {
-    if (api == nullptr) {
-        QMetaObject::invokeMethod(
-            this, [this] { run(); }, Qt::QueuedConnection);
-        return;
+    : function_(std::move(function)),
+      parentGuard_(parent),
+      hasParent_(parent != nullptr),
+      waitsForApi_(api != nullptr) {
+    QPointer<ZMainThreadCallback> const self(this);
+    QThread* const main = mainThread(parent);
+    bool const isElsewhere = main != QThread::currentThread();
+    if (isElsewhere) {
+        moveToThread(main); // a parent on another thread can be set on that thread only
+    } else {
+        setParent(parent);
     }
-    api->call_after_sync([guard = QPointer<ZMainThreadCallback>(this)] {
-        if (!guard.isNull()) {
-            guard->run();
-        }
-    });
+    if (isElsewhere || api == nullptr) {
+        sent_.store(true, std::memory_order_release);
+        QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+        // From here on, elsewhere, the main thread may run this callback and delete it.
+    }
+    if (api != nullptr) {
+        api->call_after_sync([self] {
+            if (!self.isNull()) {
+                self->run();
+            }
+        });
+    }
 }
 
 ZMainThreadCallback::~ZMainThreadCallback() = default;
+
+bool ZMainThreadCallback::isOrphan() const { return hasParent_ && parentGuard_.isNull(); }
+
+void ZMainThreadCallback::customEvent(QEvent*) {
+    if (!sent_.load(std::memory_order_acquire)) {
+        return;
+    }
+    if (isOrphan()) {
+        delete this;
+    } else if (waitsForApi_) {
+        setParent(parentGuard_);
+    } else {
+        run();
+    }
+}
 
 void ZMainThreadCallback::run() {
     // The function may destroy the parent, and this object and function_ with it.
@@ -32,7 +73,7 @@ void ZMainThreadCallback::run() {
         ~Disposal() { delete self.data(); }
     } const disposal{this};
     std::function<void()> const function = std::move(function_);
-    if (function) {
+    if (function && !isOrphan()) {
         function();
     }
 }

@@ -15,7 +15,8 @@ class nyxBrush_node;
 }
 
 /// The renderer's run-time API: the handle through which an application reaches the current scene.
-/// Called on the application's main thread, except lock() and unlock(), which any thread may call.
+/// Called on the application's main thread, except lock(), unlock() and call_after_sync(), which
+/// any thread may call.
 class NYXRENDER_EXPORT nyxRT_api {
 public:
     virtual ~nyxRT_api();
@@ -60,6 +61,6 @@ public:
     virtual void update_brush_node(nyx::painter::nyxBrush_node* node) = 0;
 
     /// Runs `function` once on the main thread after the renderer has next synchronised with the
-    /// scene; functions run in the order in which they were given.
+    /// scene; functions run in the order in which they were given. Any thread.
     virtual void call_after_sync(std::function<void()> function) = 0;
 };
