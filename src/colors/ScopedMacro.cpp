@@ -11,8 +11,13 @@
 namespace zsg {
 
 ScopedMacro::ScopedMacro(ZUndoStack* undoStack, QString const& text) : undoStack_(undoStack) {
-    if (undoStack_) {
-        undoStack_->beginMacro(text);
+    if (!undoStack_) {
+        return;
+    }
+    bool const refused = undoStack_->isExecuting();
+    undoStack_->beginMacro(text);
+    if (refused) {
+        undoStack_ = nullptr; // else its end could be that of another's macro
     }
 }
 

@@ -26,7 +26,9 @@ private:
 
 ZEventQueue::ZEventQueue() = default;
 
-ZEventQueue::~ZEventQueue() = default;
+ZEventQueue::~ZEventQueue() {
+    Q_ASSERT_X(depth_ == 0, "ZEventQueue", "destroyed by a listener, inside post()");
+}
 
 void ZEventQueue::subscribe(IEventListener* listener, EventType type) {
     if (!listener) {

@@ -217,6 +217,14 @@ TEST_F(ZUndoStackTest, RefusesWhatWouldTearTheHistory) {
     EXPECT_EQ(ending, nullptr);
 }
 
+TEST_F(ZUndoStackTest, TheIndexNeverPassesTheEnd) {
+    auto const look = [this] { EXPECT_LE(stack.index(), stack.count()); };
+    for (char const c : {'a', 'b', 'c', 'm', 'M'}) {
+        during[std::string("~") + c] = look;
+    }
+    run("mab-cL2am(bc)m-L1!abc");
+}
+
 TEST_F(ZUndoStackTest, StaysWholeWhenCommandsThrow) {
     auto const fails = [this](char const* moment, char const* script) {
         during = {{moment, [] { throw std::runtime_error("no"); }}, {"~c", [this] { act("-"); }}};
@@ -226,15 +234,29 @@ TEST_F(ZUndoStackTest, StaysWholeWhenCommandsThrow) {
         return std::exchange(trace, {});
     };
     run("ab-");
-    EXPECT_EQ(fails("+c", "c"), "+c~c?") << "its destructor must not undo either";
+    EXPECT_EQ(fails("+c", "c"), "+c-c~c?") << "its destructor must not undo either";
     EXPECT_EQ(entries(), "*a|b");
+    EXPECT_EQ(fails("+b", "+"), "+b-b");
+    EXPECT_EQ(entries(), "*a|b") << "what was taken back can still be redone";
     fails("<c", "c");
     EXPECT_EQ(entries(), "*ac|") << "it was done, so it has to stay undoable";
     run("(def)");
     EXPECT_EQ(fails("-e", "-"), "-f-e-d");
     EXPECT_EQ(fails("-c", "0"), "-c");
     EXPECT_EQ(entries(), "*a|cM");
-    EXPECT_EQ(run("3"), "+c+d+e+f");
+    EXPECT_EQ(run("2"), "+c");
+    EXPECT_EQ(fails("+e", "+"), "+d+e+f-f-e-d") << "nothing is left of a macro half done";
+    EXPECT_EQ(run("3"), "+d+e+f");
+
+    during = {{"+a", [] { throw 1; }}, {"-a", [] { throw 2; }}};
+    try {
+        run("a");
+    } catch (int first) {
+        EXPECT_EQ(first, 1);
+    }
+    stack.setChangeCallback([] { throw std::runtime_error("no"); });
+    EXPECT_THROW(stack.beginMacro("M"), std::runtime_error);
+    EXPECT_EQ(stack.macroDepth(), 0) << "nobody would end it";
 }
 
 } // namespace

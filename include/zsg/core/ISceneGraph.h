@@ -20,7 +20,8 @@ class IPainterManager;
 
 /// The root: the one object that an application creates. It owns one object of every subsystem for
 /// its whole life, and everything else is reached through its accessors. Main thread only; destroy
-/// it on the thread that created it.
+/// it on the thread that created it, from outside of listeners and commands, when the undo stack
+/// was cleared of commands that refer to it.
 ///
 /// What the accessors return stays the root's. A subsystem that this version does not have is null.
 class ZSG_EXPORT ISceneGraph {

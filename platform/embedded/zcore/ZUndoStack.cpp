@@ -26,6 +26,28 @@ void shrink(Level& level, std::size_t count) {
     }
 }
 
+/// Makes room for one command more, so that keeping one that has been done cannot fail.
+template <class Level>
+void makeRoom(Level& level) {
+    if (level.size() == level.capacity()) {
+        level.reserve(std::max<std::size_t>(8, 2 * level.size()));
+    }
+}
+
+/// Runs a redo(). When it throws, no entry may stand for what it had changed by then, and nobody
+/// else could take that back: its undo() does.
+bool redoOrTakeBack(ZUndoCommand& command) {
+    try {
+        return command.redo();
+    } catch (...) {
+        try {
+            command.undo();
+        } catch (...) { // the first exception says what went wrong
+        }
+        throw;
+    }
+}
+
 /// Several commands that are one entry.
 class Macro final : public ZUndoCommand {
 public:
@@ -43,7 +65,7 @@ public:
 
     /// Takes over what an inner macro held. Macros hold no macros, so however deep they were
     /// nested, no call on one goes deep.
-    void absorb(std::vector<CommandPtr> inner) {
+    void absorb(std::vector<CommandPtr>&& inner) {
         if (children.empty()) {
             children = std::move(inner);
         } else {
@@ -149,10 +171,20 @@ public:
         dropBack(std::max(limit, index));
     }
 
+    /// In the level that it will come to.
+    void makeRoomForNext() {
+        if (open.empty()) {
+            makeRoom(entries);
+        } else {
+            makeRoom(open.back()->children);
+        }
+    }
+
     /// Takes a command that has just been done into the innermost open level.
     void append(CommandPtr command) {
         dropBack(index);
         // Kept before it is offered: when mergeWith throws, the command stays undoable on its own.
+        // There is room for it.
         if (!open.empty()) {
             Macro& macro = *open.back();
             macro.children.push_back(std::move(command));
@@ -166,13 +198,14 @@ public:
         entries.push_back(std::move(command));
         ++index;
         if (mayMerge && mergesNewest(entries)) {
+            --index; // first, for a command that asks while it is deleted
             entries.pop_back();
-            --index;
         }
         trim();
     }
 
-    /// Runs entries until the index is `target`. Every step moves the index, whatever comes of it.
+    /// Runs entries until the index is `target`. Every step moves the index, whatever comes of it,
+    /// but for a redo() that throws.
     bool move(int target) {
         bool ok = true;
         try {
@@ -213,13 +246,17 @@ private:
     }
 
     bool step(bool forward) {
+        Raised const running(executing);
+        if (forward) {
+            bool const ok = redoOrTakeBack(entry(index));
+            ++index;
+            return ok;
+        }
         struct Move {
             int& index;
-            int by;
-            ~Move() { index += by; }
-        } const move{index, forward ? 1 : -1};
-        Raised const running(executing);
-        return forward ? entry(index).redo() : entry(index - 1).undo();
+            ~Move() { --index; }
+        } const move{index};
+        return entry(index - 1).undo();
     }
 };
 
@@ -227,6 +264,7 @@ ZUndoStack::ZUndoStack() : impl_(std::make_unique<Impl>()) {}
 
 ZUndoStack::~ZUndoStack() {
     impl_->executing = true; // for commands that call the stack while they are deleted
+    impl_->index = 0;
     shrink(impl_->open, 0);
     shrink(impl_->entries, 0);
 }
@@ -240,7 +278,8 @@ bool ZUndoStack::push(ZUndoCommand* command) {
         Raised const running(impl_->executing);
         // Ends before `running` does: what its destructor asks of the stack is refused.
         CommandPtr doing = std::move(owned);
-        if (!doing->redo()) {
+        impl_->makeRoomForNext();
+        if (!redoOrTakeBack(*doing)) {
             return false;
         }
         impl_->append(std::move(doing));
@@ -276,18 +315,24 @@ void ZUndoStack::endMacro(QString const& text) {
         qCWarning(undoLog, "endMacro ignored: no macro is open");
         return;
     }
-    std::unique_ptr<Macro> macro = std::move(impl_->open.back());
-    impl_->open.pop_back();
+    Macro& ending = *impl_->open.back();
     if (!text.isEmpty()) {
-        macro->setText(text);
+        ending.setText(text);
     }
-    if (!impl_->open.empty()) {
-        if (!macro->children.empty()) {
-            impl_->open.back()->absorb(std::move(macro->children));
+    // The macro stays open until nothing can fail any more that would lose its commands.
+    if (impl_->open.size() > 1) {
+        if (!ending.children.empty()) {
+            impl_->open[impl_->open.size() - 2]->absorb(std::move(ending.children));
         }
-    } else if (!macro->children.empty()) {
-        Raised const running(impl_->executing);
-        impl_->append(std::move(macro));
+        impl_->open.pop_back();
+    } else {
+        makeRoom(impl_->entries);
+        std::unique_ptr<Macro> macro = std::move(impl_->open.back());
+        impl_->open.pop_back();
+        if (!macro->children.empty()) {
+            Raised const running(impl_->executing);
+            impl_->append(std::move(macro));
+        }
     }
     impl_->notify();
 }

@@ -18,9 +18,13 @@ class ZUndoCommand;
 /// writes one warning to the logging category "zcore.undo" and yields false where there is a
 /// result.
 ///
-/// What a command throws passes through to the caller. The stack stays usable: a command that
-/// throws in push() counts as failed there; an entry that throws in undo() or redo() moves the
-/// index as one that fails does.
+/// What a command throws passes through to the caller. The stack stays usable. After a throw in
+/// redo() the stack runs the command's undo() (whose own exception is dropped), so that no change
+/// is left without an entry; a command that was being pushed is then deleted, an entry stays where
+/// it is, to be redone. An entry that throws in undo() moves the index as one that fails does.
+///
+/// Commands refer to what they edit: clear the stack before that goes. What keeps a macro open must
+/// end it before the stack goes.
 class ZCORE_EXPORT ZUndoStack {
 public:
     ZUndoStack();
