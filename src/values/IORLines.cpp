@@ -1,19 +1,16 @@
 #include "values/IORLines.h"
 
+#include "values/IORPattern.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 namespace zsg {
 
 namespace {
-
-constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
-constexpr bool isSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
-constexpr bool isMark(char c) { return c == ',' || c == ';'; }
 
 /// The leading number of a text, 0 when there is none or no double holds it.
 double leadingNumber(std::string_view text) {
@@ -62,110 +59,9 @@ private:
     }
 };
 
-/// One of the regular expressions, as a row of steps:
-///   s = \s*   d = \d*   D = \d   . = .?   , = [,;\t]?   ; = [,;\t]   u = [1234]   ( ) = a group
-template <std::size_t Groups>
-class Pattern {
-public:
-    using Texts = std::array<std::string_view, Groups>;
-
-    consteval explicit Pattern(std::string_view steps) {
-        std::size_t group = 0;
-        for (char const step : steps) {
-            if (step == '(') {
-                begin_[group] = count_;
-                continue;
-            }
-            if (step == ')') {
-                end_[group++] = count_;
-                continue;
-            }
-            Set const bit = Set{1} << count_++;
-            for (unsigned byte = 0; byte < 256; ++byte) {
-                accepting_[byte] |= accepts(step, static_cast<char>(byte)) ? bit : 0;
-            }
-            repeated_ |= step == 's' || step == 'd' ? bit : 0;
-            skippable_[0] |= step == 's' || step == 'd' || step == '.' || step == ',' ? bit : 0;
-        }
-        for (std::size_t i = 1; i < skippable_.size(); ++i) {
-            skippable_[i] = skippable_[i - 1] & (skippable_[i - 1] >> (1u << (i - 1)));
-        }
-    }
-
-    /// The groups as a backtracking matcher that prefers the longest finds them, without its
-    /// exponential time: going backwards, note for every place the steps from which the end can be
-    /// reached; going forwards, take the first choice that is among them.
-    [[nodiscard]] std::optional<Texts> match(std::string_view line) const {
-        std::vector<Set> open(line.size() + 1);
-        open[line.size()] = withSkips(Set{1} << count_);
-        for (std::size_t i = line.size(); i-- > 0;) {
-            Set const taking = accepting_[static_cast<unsigned char>(line[i])];
-            Set const next = open[i + 1];
-            open[i] = withSkips(taking & ((next & repeated_) | ((next >> 1) & ~repeated_)));
-        }
-        if ((open[0] & 1) == 0) {
-            return {};
-        }
-        std::array<std::size_t, 33> reached{}; // place at which each step begins
-        std::size_t place = 0;
-        for (unsigned step = 0; step < count_;) {
-            Set const bit = Set{1} << step;
-            unsigned const after = (repeated_ & bit) != 0 ? step : step + 1;
-            bool const takes = place < line.size() &&
-                               (accepting_[static_cast<unsigned char>(line[place])] & bit) != 0 &&
-                               (open[place + 1] >> after & 1) != 0;
-            place += takes ? 1u : 0u;
-            if (!takes || after != step) {
-                reached[++step] = place;
-            }
-        }
-        Texts texts;
-        for (std::size_t i = 0; i < Groups; ++i) {
-            std::size_t const first = reached[begin_[i]];
-            texts[i] = line.substr(first, reached[end_[i]] - first);
-        }
-        return texts;
-    }
-
-private:
-    using Set = std::uint32_t; ///< of steps; the one after the last stands for the end
-
-    static constexpr bool accepts(char step, char c) {
-        switch (step) {
-        case 's':
-            return isSpace(c);
-        case 'd':
-        case 'D':
-            return isDigit(c);
-        case 'u':
-            return c >= '1' && c <= '4';
-        case '.':
-            return c != '\n' && c != '\r';
-        default:
-            return isMark(c) || c == '\t';
-        }
-    }
-
-    /// Adds the steps from which a member is reached by skipping.
-    [[nodiscard]] Set withSkips(Set set) const {
-        for (std::size_t i = 0; i < skippable_.size(); ++i) {
-            set |= skippable_[i] & (set >> (1u << i));
-        }
-        return set;
-    }
-
-    unsigned count_ = 0;
-    Set repeated_ = 0;
-    /// Element i: steps that, with those that follow, are 2^i skippable ones in a row.
-    std::array<Set, 4> skippable_{};
-    std::array<unsigned, Groups> begin_{};
-    std::array<unsigned, Groups> end_{};
-    std::array<Set, 256> accepting_{};
-};
-
-constexpr Pattern<4> headerPattern("s(u)s,s(d.Dd)s,s(d.Dd)s,s(Dd)s");
-constexpr Pattern<2> pairPattern("s(d.d)s,s(d.d)s");
-constexpr Pattern<3> columnsPattern("s(d.d)s;s(d.d)s;s(d.d)");
+constexpr IORPattern<4> headerPattern("s(u)s,s(d.Dd)s,s(d.Dd)s,s(Dd)s");
+constexpr IORPattern<2> pairPattern("s(d.d)s,s(d.d)s");
+constexpr IORPattern<3> columnsPattern("s(d.d)s;s(d.d)s;s(d.d)");
 
 /// White space, commas and semicolons around the numbers of a line.
 struct Gap {
@@ -223,8 +119,8 @@ struct Split {
 /// The numbers of an accepted line. `surely` tells that the pattern accepts a line that was split,
 /// so that ordinary lines need no matching.
 template <std::size_t Count, class Surely>
-std::optional<std::array<double, Count>> numbersOf(std::string_view line,
-                                                   Pattern<Count> const& pattern, Surely surely) {
+std::optional<std::array<double, Count>>
+numbersOf(std::string_view line, IORPattern<Count> const& pattern, Surely surely) {
     Split<Count> split;
     bool const isSplit = split.read(line);
     if (isSplit && surely(split)) {
@@ -242,27 +138,47 @@ std::optional<std::array<double, Count>> numbersOf(std::string_view line,
     return values;
 }
 
-/// Only absurd files have units and counts of intervals that do not fit; these read as 0.
-std::int64_t wholeNumber(double value) {
-    return value < 0x1p63 ? static_cast<std::int64_t>(value) : 0;
+/// The leading whole number of a text. Only absurd files have one that does not fit; it reads as 0.
+std::int64_t wholeNumber(std::string_view text) {
+    std::int64_t number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+/// Whether a line that consists of four numbers means these: the first must name a unit.
+bool isHeader(Split<4> const& split) {
+    double const unit = split.numbers[0].value();
+    return unit == 1 || unit == 2 || unit == 3 || unit == 4;
+}
+
+/// Whether the header's pattern surely accepts such a line.
+bool isPlainHeader(Split<4> const& split) {
+    auto const& [unit, start, end, intervals] = split.numbers;
+    auto const& gaps = split.gaps;
+    return unit.text.size() == 1 && start.text.back() != '.' && end.text.back() != '.' &&
+           intervals.text.size() == intervals.count && gaps[0].marks == 0 && gaps[1].marks <= 1 &&
+           gaps[2].marks <= 1 && gaps[3].marks <= 1 && gaps[4].marks == 0;
 }
 
 } // namespace
 
 std::optional<IORHeader> readIORHeader(std::string_view line) {
-    auto const numbers = numbersOf(line, headerPattern, [](Split<4> const& split) {
-        auto const& [unit, start, end, intervals] = split.numbers;
-        auto const& gaps = split.gaps;
-        return unit.text.size() == 1 && unit.digits >= 1 && unit.digits <= 4 &&
-               start.text.back() != '.' && end.text.back() != '.' &&
-               intervals.text.size() == intervals.count && gaps[0].marks == 0 &&
-               gaps[1].marks <= 1 && gaps[2].marks <= 1 && gaps[3].marks <= 1 && gaps[4].marks == 0;
-    });
-    if (!numbers) {
-        return {};
+    Split<4> split;
+    bool const isSplit = split.read(line) && isHeader(split);
+    if (!isSplit || !isPlainHeader(split)) {
+        auto const groups = headerPattern.match(line);
+        if (!groups) {
+            return {};
+        }
+        if (!isSplit) {
+            auto const& [unit, start, end, intervals] = *groups;
+            return IORHeader{wholeNumber(unit), leadingNumber(start), leadingNumber(end),
+                             wholeNumber(intervals)};
+        }
     }
-    auto const& [unit, start, end, intervals] = *numbers;
-    return IORHeader{wholeNumber(unit), start, end, wholeNumber(intervals)};
+    auto const& [unit, start, end, intervals] = split.numbers;
+    return IORHeader{wholeNumber(unit.text), start.value(), end.value(),
+                     wholeNumber(intervals.text)};
 }
 
 std::optional<IORPair> readIORPair(std::string_view line) {

@@ -15,13 +15,13 @@
 ///
 /// Their dots match any character, so by the letter "4 400 700 3" would be the numbers 4, "400 70",
 /// 0 and 3. Therefore an accepted line that consists of exactly as many plain decimal numbers as
-/// its layout has groups, parted by white space, commas and semicolons, means just these numbers.
-/// From a group that is no number the leading number counts, or 0. Time is linear in the length of
-/// the line.
+/// its layout has groups, parted by white space, commas and semicolons, means just these numbers;
+/// of a header the first one has to be 1, 2, 3 or 4. From a group that is no number the leading
+/// number counts, or 0. Time is linear in the length of the line.
 namespace zsg {
 
 struct IORHeader {
-    std::int64_t unit = 0; ///< 1 to 4 in a sensible file
+    std::int64_t unit = 0; ///< 1 to 4
     double start = 0;
     double end = 0;
     std::int64_t intervals = 0;

@@ -1,11 +1,12 @@
 #include "values/WeaveJson.h"
 
+#include "values/WeaveMask.h"
+
 #include <nlohmann/json.hpp>
 
 #include <QByteArray>
 #include <QStringView>
 
-#include <charconv>
 #include <cmath>
 #include <limits>
 #include <string>
@@ -19,37 +20,8 @@ namespace {
 using Json = nlohmann::json;
 using Members = Json::object_t;
 
-constexpr QStringView maskKey = u"\"pattern_mask\"";
-
 void append(QString& text, std::string_view ascii) {
     text += QLatin1StringView(ascii.data(), static_cast<qsizetype>(ascii.size()));
-}
-
-/// The cells, separated by commas.
-void appendMask(QString& text, WeaveGrid const& grid) {
-    WeaveGrid::Cell const* const cells = grid.cells();
-    std::size_t const count = grid.count();
-    std::uint32_t largest = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        largest = std::max(largest, static_cast<std::uint32_t>(cells[i]));
-    }
-    if (largest > 9) {
-        for (std::size_t i = 0; i < count; ++i) {
-            char digits[16];
-            auto const end = std::to_chars(digits, digits + sizeof digits, cells[i]).ptr;
-            append(text, i == 0 ? "" : ",");
-            append(text, {digits, end});
-        }
-        return;
-    }
-    qsizetype const start = text.size();
-    text.resize(start + static_cast<qsizetype>(2 * count));
-    char16_t* const out = reinterpret_cast<char16_t*>(text.data()) + start;
-    for (std::size_t i = 0; i < count; ++i) {
-        out[2 * i] = static_cast<char16_t>(u'0' + cells[i]);
-        out[2 * i + 1] = u',';
-    }
-    text.chop(1);
 }
 
 /// A number as an int in the library's own way. False for one beyond the range of an int: the
@@ -83,7 +55,7 @@ Json::array_t const& readArray(Members const& members, char const* key) {
     return found == members.end() ? none : found->second.get_ref<Json::array_t const&>();
 }
 
-/// Sets `yarns` when all its arrays have two elements. False when an integer cannot be read.
+/// Sets `out` when all four arrays have two elements. False when a kind that counts is no int.
 bool readYarns(Members const& members, std::optional<WeaveYarns>& out) {
     WeaveYarns yarns;
     bool complete = true;
@@ -101,7 +73,7 @@ bool readYarns(Members const& members, std::optional<WeaveYarns>& out) {
     complete = complete && kinds.size() == 2;
     for (std::size_t i = 0; i < kinds.size(); ++i) {
         int kind = 0;
-        if (!readInt(kinds[i], kind)) {
+        if (!readInt(kinds[i], kind) && complete) {
             return false;
         }
         yarns.kind[i & 1] = static_cast<WeavePattern::YarnKind>(kind);
@@ -110,46 +82,6 @@ bool readYarns(Members const& members, std::optional<WeaveYarns>& out) {
         out = yarns;
     }
     return true;
-}
-
-/// Where a mask in the form that toJson() writes stands in a text.
-struct PlainMask {
-    qsizetype first = 0; ///< its first digit
-    qsizetype length = 0;
-};
-
-/// True for single digits 0 and 1, separated by commas alone.
-bool isPlain(QStringView mask) {
-    if (mask.size() % 2 == 0) {
-        return false;
-    }
-    char16_t const* const text = mask.utf16();
-    auto const last = static_cast<std::size_t>(mask.size() - 1);
-    unsigned odd = (text[last] & ~1u) ^ u'0';
-    for (std::size_t i = 0; i < last; i += 2) {
-        odd |= ((text[i] & ~1u) ^ u'0') | (static_cast<unsigned>(text[i + 1]) ^ u',');
-    }
-    return odd == 0;
-}
-
-/// Finds the only mask of a text. A backslash could spell the key, or hide quotes inside a string,
-/// so then nothing is found.
-std::optional<PlainMask> findPlainMask(QStringView text) {
-    qsizetype const key = text.indexOf(maskKey);
-    if (key < 0) {
-        return {};
-    }
-    qsizetype const open = key + maskKey.size();
-    if (!text.sliced(open).startsWith(u":[")) {
-        return {};
-    }
-    qsizetype const first = open + 2;
-    qsizetype const close = text.indexOf(u']', first);
-    if (close < 0 || text.first(key).contains(u'\\') || text.sliced(close).contains(u'\\') ||
-        text.sliced(close).contains(maskKey) || !isPlain(text.sliced(first, close - first))) {
-        return {};
-    }
-    return PlainMask{first, close - first};
 }
 
 /// Reads a pattern whose mask has `count` elements. `fill` puts them into a grid of that many
@@ -184,13 +116,8 @@ std::optional<WeaveText> readAroundMask(QStringView text) {
     if (!json.is_object() || !json.contains("pattern_mask")) {
         return {}; // not JSON, or the mask is that of an inner object
     }
-    auto const count = static_cast<std::size_t>((mask->length + 1) / 2);
-    return readPattern(json.get_ref<Members const&>(), count, [&](WeaveGrid& grid) {
-        char16_t const* const digits = text.utf16() + mask->first;
-        WeaveGrid::Cell* const cells = grid.cells();
-        for (std::size_t i = 0; i < count; ++i) {
-            cells[i] = digits[2 * i] & 1;
-        }
+    return readPattern(json.get_ref<Members const&>(), mask->count(), [&](WeaveGrid& grid) {
+        readPlainMask(text.sliced(mask->first, mask->length), grid);
     });
 }
 
@@ -244,11 +171,10 @@ std::optional<WeaveText> weaveFromJson(QString const& text) {
     std::vector<WeaveGrid::Cell> cells; // read before counting: a wrong type throws in any case
     cells.reserve(mask.size());
     for (Json const& value : mask) {
+        // Beyond the range of an int the library would let integers wrap around, to 0 for instance.
         int cell = 0;
-        if (!readInt(value, cell)) {
-            return {};
-        }
-        cells.push_back(cell != 0 ? WeavePattern::Weft : WeavePattern::Warp);
+        bool const fits = readInt(value, cell);
+        cells.push_back(!fits || cell != 0 ? WeavePattern::Weft : WeavePattern::Warp);
     }
     return readPattern(members, cells.size(), [&cells](WeaveGrid& grid) {
         std::copy(cells.begin(), cells.end(), grid.cells());

@@ -241,12 +241,12 @@ std::uint64_t WeavePattern::hash() const noexcept {
     h = combine(h, hash_int(numWeft()));
     // Nearly all cells are one of two values; each link of the chain waits for the one before, so a
     // look-up costs nothing beside it.
-    std::uint64_t const known[] = {hash_int(Warp), hash_int(Weft)};
+    std::uint64_t const known[] = {prepared(hash_int(Warp)), prepared(hash_int(Weft))};
     WeaveGrid::Cell const* const cells = d_->grid.cells();
     std::size_t const count = d_->grid.count();
     for (std::size_t i = 0; i < count; ++i) {
         auto const cell = static_cast<std::uint32_t>(cells[i]);
-        h = combine(h, cell <= 1 ? known[cell] : hash_int(cells[i]));
+        h = combinePrepared(h, cell <= 1 ? known[cell] : prepared(hash_int(cells[i])));
     }
     return h;
 }

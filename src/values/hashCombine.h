@@ -10,8 +10,19 @@
 /// keep hashes. All arithmetic wraps around.
 namespace zsg {
 
+/// The part of combine() that does not wait for the seed, and the part that does. A long chain
+/// over few different values is faster with the first done ahead: in one expression, compilers put
+/// the constant into the chain.
+[[nodiscard]] constexpr std::uint64_t prepared(std::uint64_t value) noexcept {
+    return value + 0x9e3779b9;
+}
+[[nodiscard]] constexpr std::uint64_t combinePrepared(std::uint64_t seed,
+                                                      std::uint64_t preparedValue) noexcept {
+    return seed ^ (preparedValue + (seed << 6) + (seed >> 2));
+}
+
 [[nodiscard]] constexpr std::uint64_t combine(std::uint64_t seed, std::uint64_t value) noexcept {
-    return seed ^ (value + 0x9e3779b9 + (seed << 6) + (seed >> 2));
+    return combinePrepared(seed, prepared(value));
 }
 
 inline constexpr std::uint64_t fnvStart = 0xcbf29ce484222325;

@@ -4,6 +4,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <random>
 #include <regex>
 #include <string>
@@ -25,6 +26,7 @@ double leading(std::string const& text) {
 
 /// What a line means by the regular expression and the rule for plain numbers; empty when refused.
 Numbers expected(std::string const& line, std::regex const& pattern, std::size_t count) {
+    bool const isHeader = count == 4;
     static std::regex const plainNumber(R"(\d+\.?\d*|\.\d+)");
     static std::regex const gap(R"([\s,;]+)");
     std::smatch match;
@@ -42,6 +44,10 @@ Numbers expected(std::string const& line, std::regex const& pattern, std::size_t
             plain = plain && std::regex_match(it->first, it->second, plainNumber);
             fields.push_back(it->str());
         }
+    }
+    if (plain && isHeader && fields.size() == count) {
+        double const unit = leading(fields[0]);
+        plain = unit == 1 || unit == 2 || unit == 3 || unit == 4;
     }
     Numbers numbers;
     for (std::string const& text : plain&& fields.size() == count ? fields : groups) {
@@ -103,7 +109,11 @@ TEST(IORLines, PlainNumbersWinOverTheDotThatMatchesABlank) {
     EXPECT_EQ(numbersOf(readIORHeader(" 2;0.4,.7\t10 \r")), (Numbers{2, 0.4, 0.7, 10}));
     EXPECT_EQ(numbersOf(readIORHeader("1 0.64 6.60")), (Numbers{1, 0.64, 6.6, 0}));
     EXPECT_EQ(numbersOf(readIORHeader("5 400 700 3")), Numbers());
-    EXPECT_EQ(numbersOf(readIORHeader("12 3 4 5")), (Numbers{12, 3, 4, 5}));
+    EXPECT_EQ(numbersOf(readIORHeader("12 3 4 5")), (Numbers{1, 2, 4, 5})); // 1, "2 3", 4, 5
+    EXPECT_EQ(numbersOf(readIORHeader("4.0 400 700 3")), (Numbers{4, 400, 700, 3}));
+    EXPECT_EQ(readIORHeader("4 400 700 9223372036854775807")->intervals,
+              std::numeric_limits<std::int64_t>::max());
+    EXPECT_EQ(readIORHeader("4 400 700 9223372036854775808")->intervals, 0);
     EXPECT_EQ(numbersOf(readIORPair("1.5 2")), (Numbers{1.5, 2}));
     EXPECT_EQ(numbersOf(readIORPair("1 2 3")), (Numbers{1, 3})); // "1 2" and "3"
     EXPECT_EQ(numbersOf(readIORPair("1,2,3")), (Numbers{1, 3}));

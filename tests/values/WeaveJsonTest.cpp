@@ -101,9 +101,11 @@ TEST(WeaveJson, ReadsWhatItCan) {
         {document({{"pattern_warps", "1e300"}}), false, false, false},
         {document({{"pattern_warps", "4294967298"}}), false, false, false}, // 2 if it wrapped
         {document({{"pattern_wefts", "-2147483649"}}), false, false, false},
-        {document({{"pattern_mask", "[0,1,-1e300,0]"}}), false, false, false},
-        {document({{"pattern_mask", "[0,18446744073709551615,1,0]"}}), false, false, false},
+        {document({{"pattern_mask", "[0.9,-1e300,18446744073709551615,-0.9]"}}), true, true, true},
+        {document({{"pattern_mask", "[0,4294967296,-2147483649,0]"}}), true, true, true},
         {document({{"kind", "[1,2147483648.0]"}}), false, false, false},
+        {document({{"kind", "[1,2147483648.0,1]"}}), true, true, false},
+        {document({{"kind", "[4294967296,1]"}, {"width", "[1]"}}), true, true, false},
     };
     WeavePattern wanted;
     ASSERT_TRUE(wanted.setFromJson(document()));

@@ -78,9 +78,9 @@ TEST_F(LoadIORFile, PairsGetEquallySpacedWavelengths) {
     // Blank lines are pairs as well; white space at the end of a line, such as CR, is none.
     EXPECT_EQ(load("b.nk", "4 400 600 2\r\n\r\n1 2\r\n 3;4 \r\n").values,
               (FloatArray{400, 0, 0, 500, 1, 2, 600, 3, 4}));
-    Result const unknown = load("b.nk", "12 3 4 1\n1 2\n1 2\n");
-    EXPECT_EQ(unknown.messages, "Unknown unit\n");
-    EXPECT_EQ(unknown.wavelengths(), (std::vector<float>{3, 4}));
+    Result const few = load("b.nk", "4 300 400 9223372036854775807\n1 2\n");
+    EXPECT_EQ(few.messages, "Found 1 samples but expected 9223372036854775808.\n");
+    EXPECT_EQ(few.wavelengths(), (std::vector<float>{300}));
 }
 
 TEST_F(LoadIORFile, PathsAreUtf8) {

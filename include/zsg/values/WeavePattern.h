@@ -83,8 +83,9 @@ public:
     [[nodiscard]] QString toJson() const;
     /// Reads what toJson() wrote; unknown members are ignored. False, and nothing changes, when the
     /// text is empty, the mask does not hold one value per crossing, the size is one that setSize()
-    /// ignores, or a number is beyond the range of an int where one is wanted. The yarns change
-    /// only when all four of their arrays have two elements, otherwise just the grid does.
+    /// ignores, or a size or a kind is beyond the range of an int. A number of the mask is cut to a
+    /// whole one, however large; what is not 0 then counts as Weft. The yarns change only when all
+    /// four of their arrays have two elements, otherwise just the grid does.
     /// Throws nlohmann::json::exception for text that is not JSON, for a document that is not an
     /// object and for values of a wrong type; the pattern is then unchanged.
     bool setFromJson(QString const& text);
