@@ -1,9 +1,10 @@
+#include "require.h"
+
 #include "zsg/values/AnimationCurve.h"
 
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
 #include <string>
 
@@ -32,12 +33,6 @@ private:
     std::uint8_t const* data_;
     std::size_t size_;
 };
-
-void require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
 
 } // namespace
 
