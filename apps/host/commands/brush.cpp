@@ -1,0 +1,250 @@
+#include "host/BrushPreset.h"
+#include "host/BrushSheet.h"
+#include "host/Command.h"
+#include "host/CurrentBrush.h"
+#include "host/Host.h"
+#include "host/ValueText.h"
+
+#include "zsg/core/ISceneGraph.h"
+#include "zsg/painting/IPainterManager.h"
+#include "zsg/values/ValueVariant.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cmath>
+#include <iomanip>
+#include <ostream>
+
+namespace app {
+
+namespace {
+
+using zsg::Parameter;
+using zsg::Type;
+
+/// Larger files are no presets.
+constexpr qint64 longestPreset = 1 << 20;
+
+Parameter take(Host& host, Arguments& arguments) {
+    QString const name = QString::fromStdString(arguments.word("a parameter"));
+    Parameter const parameter = currentBrush(host).parameter(name);
+    if (!parameter.isValid()) {
+        throw CommandError("the brush has no parameter \"" + name.toStdString() + "\"");
+    }
+    return parameter;
+}
+
+/// The value in words: of a choice its id and label.
+void printValue(std::ostream& out, Parameter const& p) {
+    switch (p.type()) {
+    case Type::Boolean:
+        out << (*p.value<bool>() ? "on" : "off");
+        break;
+    case Type::Integer:
+        out << *p.value<int>();
+        break;
+    case Type::Float:
+        out << *p.value<float>();
+        break;
+    case Type::String:
+        out << '"' << p.value<QString>()->toStdString() << '"';
+        break;
+    case Type::Color: {
+        nyxColor_rgba const c = p.getColor().rgba();
+        out << c.r << ' ' << c.g << ' ' << c.b;
+        break;
+    }
+    case Type::Enumerable: {
+        auto const choice = *p.value<zsg::Enumerable>();
+        int const id = choice.getSelection();
+        auto const found =
+            std::ranges::find_if(choice, [id](auto const& option) { return option.first == id; });
+        out << id << ' ' << (found == choice.end() ? "?" : found->second.toStdString());
+        break;
+    }
+    default:
+        out << (p.value<nyxShader*>().value_or(nullptr) == nullptr ? "none" : "a shader");
+    }
+}
+
+char const* unitOf(Parameter const& p) {
+    switch (p.quantity()) {
+    case zsg::Quantity::WorldLength:
+        return " units";
+    case zsg::Quantity::Angle:
+        return " degrees";
+    case zsg::Quantity::Pixels:
+        return " pixels";
+    case zsg::Quantity::Percent:
+        return " %";
+    default:
+        return "";
+    }
+}
+
+/// The line of a parameter: name, type, value with its unit, limits, label, tool tip.
+void print(std::ostream& out, Parameter const& p) {
+    out << "  " << std::left << std::setw(27) << p.name().toStdString() << std::setw(11)
+        << zsg::typeName(p.type());
+    printValue(out, p);
+    out << unitOf(p);
+    float low = 0;
+    float high = 0;
+    int lowest = 0;
+    int highest = 0;
+    if (p.limits(low, high)) {
+        out << ", " << low << " to " << high;
+    } else if (p.limits(lowest, highest)) {
+        out << ", " << lowest << " to " << highest;
+    }
+    QString toolTip = p.toolTip();
+    out << " | " << p.displayName().toStdString() << (toolTip.isEmpty() ? "" : ": ")
+        << toolTip.replace('\n', ' ').toStdString() << '\n';
+}
+
+void create(Host& host, Arguments& arguments) {
+    double const size = arguments.empty() ? 20 : arguments.real("a size");
+    nyx::MaterialId const material(
+        arguments.empty() ? nyx::MaterialId() : nyx::MaterialId(arguments.number("a material id")));
+    arguments.done();
+    host.state<CurrentBrush>().brush =
+        host.root().painterManager()->createBrush(static_cast<float>(size), material);
+}
+
+void reload(Host& host, Arguments&) {
+    zsg::IPainterBrush const& old = currentBrush(host);
+    host.state<CurrentBrush>().brush =
+        host.root().painterManager()->loadBrush(old.brushNode(), old.materialId());
+}
+
+void list(Host& host, Arguments&) {
+    QList<Parameter> parameters = currentBrush(host).parameters();
+    std::ranges::sort(parameters, {}, &Parameter::name);
+    for (Parameter const& parameter : parameters) {
+        print(host.out(), parameter);
+    }
+}
+
+void show(Host& host, Arguments& arguments) {
+    Parameter const parameter = take(host, arguments);
+    arguments.done();
+    print(host.out(), parameter);
+}
+
+void set(Host& host, Arguments& arguments) {
+    Parameter parameter = take(host, arguments);
+    bool changed = false;
+    if (parameter.type() == Type::Enumerable) {
+        auto choice = *parameter.value<zsg::Enumerable>();
+        QString const wanted = QString::fromStdString(arguments.word("an option or its id"));
+        arguments.done();
+        auto const found = std::ranges::find_if(choice, [&wanted](auto const& option) {
+            return option.second == wanted || QString::number(option.first) == wanted;
+        });
+        if (found == choice.end()) {
+            throw CommandError("\"" + wanted.toStdString() + "\" is none of the choices");
+        }
+        changed = choice.getSelection() != found->first;
+        choice.setSelection(found->first);
+        parameter.setValue(choice); // which compares the options only
+    } else {
+        withValue(host, parameter.type(), arguments, [&](void const* value) {
+            switch (parameter.type()) {
+#define APP_SET(member, number, T)                                                                 \
+    case Type::member:                                                                             \
+        changed = parameter.setValue(*static_cast<T const*>(value));                               \
+        break;
+                ZSG_VALUE_TYPES(APP_SET)
+#undef APP_SET
+            default:
+                break;
+            }
+        });
+    }
+    host.out() << (changed ? "  changed\n" : "  unchanged\n");
+}
+
+void apply(Host& host, Arguments&) { currentBrush(host).applyToNode(); }
+
+void update(Host& host, Arguments&) { currentBrush(host).updateFromNode(); }
+
+void save(Host& host, Arguments& arguments) {
+    zsg::IPainterBrush const& brush = currentBrush(host);
+    QString const path = QString::fromStdString(arguments.word("a path"));
+    arguments.done();
+    std::string const text = brushPreset(brush, QFileInfo(path).absolutePath().toStdString());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) ||
+        file.write(text.data(), static_cast<qint64>(text.size())) !=
+            static_cast<qint64>(text.size()) ||
+        !file.flush()) {
+        throw CommandError(path.toStdString() + ": " + file.errorString().toStdString());
+    }
+}
+
+std::unique_ptr<zsg::IPainterBrush> loaded(Host& host, QString const& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw CommandError(path.toStdString() + ": " + file.errorString().toStdString());
+    }
+    QByteArray const bytes = file.read(longestPreset + 1);
+    auto brush = freshBrush(host);
+    try {
+        if (bytes.size() > longestPreset) {
+            throw CommandError("larger than a preset can be");
+        }
+        setBrushPreset(*brush, bytes.toStdString(), QFileInfo(path).path().toStdString());
+    } catch (CommandError const& error) {
+        throw CommandError(path.toStdString() + ": " + error.what());
+    }
+    brush->applyToNode();
+    return brush;
+}
+
+void load(Host& host, Arguments& arguments) {
+    QString const path = QString::fromStdString(arguments.word("a path"));
+    arguments.done();
+    host.state<CurrentBrush>().brush = loaded(host, path);
+}
+
+void sheet(Host& host, Arguments& arguments) {
+    QString const path = QString::fromStdString(arguments.word("a path"));
+    std::vector<nyx::embedded::BrushSettings> brushes;
+    auto const add = [&](zsg::IPainterBrush const& brush) {
+        if (auto settings =
+                nyx::embedded::brushSettings(*host.renderer().scene(), brush.brushNode())) {
+            brushes.push_back(std::move(*settings));
+        }
+    };
+    if (arguments.empty()) {
+        add(currentBrush(host));
+    }
+    for (std::string const& preset : arguments.rest()) {
+        add(*loaded(host, QString::fromStdString(preset)));
+    }
+    if (!brushSheet(brushes).save(path, "PNG")) {
+        throw CommandError(path.toStdString() + ": cannot be written");
+    }
+}
+
+constexpr Command table[] = {
+    {"brush create", "[SIZE [MATERIAL]]", "a brush over new nodes becomes the current one", create},
+    {"brush reload", "", "a new brush over the nodes of the current one", reload},
+    {"brush list", "", "every parameter: type, value, limits, label, tool tip", list},
+    {"brush show", "PARAM", "the same of one parameter", show},
+    {"brush set", "PARAM WORDS...", "set its value and say whether it changed", set},
+    {"brush apply", "", "write the brush's fields into its nodes and tell the renderer", apply},
+    {"brush update", "", "read the fields from the nodes", update},
+    {"brush save", "PATH", "write the settings as JSON", save},
+    {"brush load", "PATH", "a new brush with the settings of such a file, applied", load},
+    {"brush sheet", "PATH [PRESET...]", "a PNG with a stroke of the current brush, or of presets",
+     sheet},
+};
+
+} // namespace
+
+Family brushFamily() { return {"brushes for 3D painting", table}; }
+
+} // namespace app
