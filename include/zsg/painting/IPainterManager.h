@@ -23,10 +23,12 @@ public:
 
     /// Never null; the manager's own.
     [[nodiscard]] virtual IPainter* painter() = 0;
-    /// A brush over nodes that exist; `node` stays the renderer's.
+    /// A brush over nodes that exist; `node` stays the renderer's. It does not read them: see
+    /// IPainterBrush::updateFromNode.
     [[nodiscard]] virtual std::unique_ptr<IPainterBrush>
     loadBrush(nyx::painter::nyxBrush_node* node, nyx::MaterialId material) = 0;
-    /// A brush over a new graph of nodes; `size` is its diameter in the interface's world units.
+    /// A brush over a new graph of nodes. Its diameter is 5 % of `size` in scene units, its spacing
+    /// 1 %. Never null; without a scene the brush has no nodes.
     [[nodiscard]] virtual std::unique_ptr<IPainterBrush> createBrush(float size,
                                                                      nyx::MaterialId material) = 0;
 
