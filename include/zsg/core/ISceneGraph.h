@@ -23,7 +23,7 @@ class IPainterManager;
 /// it on the thread that created it, from outside of listeners and commands, when the undo stack
 /// was cleared of commands that refer to it.
 ///
-/// What the accessors return stays the root's. A subsystem that this version does not have is null.
+/// What the accessors return stays the root's.
 class ZSG_EXPORT ISceneGraph {
 public:
     /// Builds the root and all subsystems. What a subsystem's construction throws passes on, after
