@@ -2,6 +2,7 @@
 
 #include "Rows.h"
 
+#include "nyxembedded/MaterialManager.h"
 #include "nyxembedded/Renderer.h"
 #include "nyxrender/nyxRT_api.h"
 #include "zcore/ZUndoCommand.h"
@@ -12,7 +13,6 @@
 #include "zsg/core/IEventListener.h"
 #include "zsg/core/IEventQueue.h"
 #include "zsg/core/ISceneGraph.h"
-#include "zsg/materials/ISceneMaterialManager.h"
 
 #include <QCoreApplication>
 
@@ -77,8 +77,8 @@ struct Studio {
     std::vector<ColorId> colors, multis;
     std::vector<ColorwayId> colorways;
     ZUndoStack stack;
-    std::unique_ptr<zsg::ISceneMaterialManager> const materials = renderer.materialManager(&stack);
-    zsg::ColorController controller{&db, materials.get(), &stack};
+    nyx::embedded::MaterialManager materials{renderer, &stack};
+    zsg::ColorController controller{&db, &materials, &stack};
 };
 
 class NoEdit final : public ZUndoCommand {

@@ -17,8 +17,8 @@ install(DIRECTORY platform/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
     FILES_MATCHING PATTERN "*.h")
 
 if(ZSG_PLATFORM STREQUAL "embedded")
-    # Their targets keep the names that adapters of the real libraries have.
-    foreach(name IN ITEMS nyxrender zcore ztask)
+    # The first three keep the names that adapters of the real libraries have.
+    foreach(name IN ITEMS nyxrender zcore ztask nyxembedded)
         install(TARGETS ${name} EXPORT ${name}Targets
             LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
             ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}

@@ -38,7 +38,7 @@ gate_asan() { workflow asan; }
 gate_tsan() {
     cmake --preset tsan >/dev/null &&
         cmake --build --preset tsan -j "$jobs" \
-            --target zsg_ztask_test zsg_zcore_test zsg_nyxrender_test zsg_values_test \
+            --target zsg_nyxembedded_test zsg_zcore_test zsg_nyxrender_test zsg_values_test \
             zsg_painting_test &&
         ctest --preset tsan
 }

@@ -39,8 +39,9 @@ ROWS = [
     ("ztask", "platform/embedded/ztask/*", "declarations"),
     ("nyxembedded headers",
      "platform/embedded/include/nyxembedded/Host.h"
+     " platform/embedded/include/nyxembedded/MaterialManager.h"
      " platform/embedded/include/nyxembedded/RenderTaskQueue.h",
-     "declarations export core|facade headers"),
+     "declarations export core|material manager|facade headers"),
     ("nyxembedded", "platform/embedded/nyxembedded/*",
      "declarations export core colors materials lightlayers painting|material manager"
      "|facade headers|nyxembedded headers"),

@@ -11,10 +11,7 @@
 namespace app {
 
 Host::Host(std::ostream& out)
-    : out_(&out),
-      taskQueue_(nyx::embedded::RenderTaskQueue::Mode::Threaded),
-      materialManager_(renderer_.materialManager(&undoStack_)) {
-    renderer_.recordJournal(false);
+    : out_(&out), taskQueue_(nyx::embedded::RenderTaskQueue::Mode::Threaded) {
     renderer_.setMessageHandler([this](nyxMessage const& message) {
         if (root_) {
             root_->handleRendererMessage(message);
@@ -39,7 +36,7 @@ void Host::buildRoot() {
 
     zsg::SceneGraphPars pars;
     pars.rtApi = renderer_.api();
-    pars.sceneMaterialManager = materialManager_.get();
+    pars.sceneMaterialManager = &materialManager_;
     pars.taskQueue = &taskQueue_;
     pars.undoStack = &undoStack_;
     root_ = zsg::ISceneGraph::create(pars);

@@ -2,10 +2,10 @@
 
 #include "host/EventLog.h"
 
+#include "nyxembedded/MaterialManager.h"
 #include "nyxembedded/RenderTaskQueue.h"
 #include "nyxembedded/Renderer.h"
 #include "zcore/ZUndoStack.h"
-#include "zsg/materials/ISceneMaterialManager.h"
 
 #include <any>
 #include <iosfwd>
@@ -42,7 +42,7 @@ public:
     [[nodiscard]] nyx::embedded::Renderer& renderer() { return renderer_; }
     [[nodiscard]] ZUndoStack& undoStack() { return undoStack_; }
     [[nodiscard]] nyx::embedded::RenderTaskQueue& taskQueue() { return taskQueue_; }
-    [[nodiscard]] zsg::ISceneMaterialManager& materialManager() { return *materialManager_; }
+    [[nodiscard]] zsg::ISceneMaterialManager& materialManager() { return materialManager_; }
     [[nodiscard]] zsg::ISceneGraph& root() { return *root_; }
     [[nodiscard]] EventLog& events() { return *events_; }
 
@@ -70,7 +70,7 @@ private:
     nyx::embedded::Renderer renderer_;
     ZUndoStack undoStack_;
     nyx::embedded::RenderTaskQueue taskQueue_;
-    std::unique_ptr<zsg::ISceneMaterialManager> materialManager_;
+    nyx::embedded::MaterialManager materialManager_{renderer_, &undoStack_};
     std::unique_ptr<zsg::ISceneGraph> root_;
     std::unique_ptr<EventLog> events_;
     std::map<std::type_index, std::any> states_;

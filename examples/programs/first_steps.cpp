@@ -1,56 +1,59 @@
-// The README's example, whole: rename a colour, hear about it, take it back.
+// The README's example, whole: load a scene, hear the renderer, rename a colour, take it back.
 
-#include "nyxembedded/Renderer.h"
-#include "zcore/ZUndoStack.h"
+#include "nyxembedded/Host.h"
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/Events.h"
 #include "zsg/core/IEventListener.h"
 #include "zsg/core/ISceneGraph.h"
-#include "zsg/core/SceneGraphPars.h"
 #include "zsg/core/Subscription.h"
-#include "zsg/materials/ISceneMaterialManager.h"
 
 #include <iostream>
 
 namespace {
 
-class Printer final : public zsg::IEventListener {
+class Listener final : public zsg::IEventListener {
 public:
-    void onEvent(zsg::Event const* event) override {
-        std::cout << zsg::eventTypeString(event->type()) << '\n';
+    explicit Listener(zsg::IEventQueue& queue)
+        : subscription_(queue, *this, {zsg::EventType::ColorUpdated, zsg::EventType::ColorSynced}) {
     }
+
+    void onEvent(zsg::Event const* event) override {
+        if (event->type() == zsg::EventType::ColorSynced) {
+            ++synced;
+        } else {
+            std::cout << zsg::eventTypeString(event->type()) << '\n';
+        }
+    }
+
+    int synced = 0;
+
+private:
+    zsg::Subscription subscription_; // last: it ends first
 };
 
 } // namespace
 
 int main(int argc, char** argv) {
-    nyx::embedded::Renderer renderer; // or adapters of the real renderer
-    std::string const error = renderer.loadScene(argc > 1 ? argv[1] : "showroom.json");
+    nyx::embedded::Host host; // a renderer in memory, an undo stack, and the root over them
+    std::string const error = host.loadScene(argc > 1 ? argv[1] : "showroom.json");
     if (!error.empty()) {
         std::cerr << error << '\n';
         return 1;
     }
-    ZUndoStack undo;
-    auto const materials = renderer.materialManager(&undo);
+    zsg::ISceneGraph& root = host.root(); // owns every subsystem
+    zsg::ColorDB& db = *root.colorDB();
+    Listener listener(*root.eventQueue());
 
-    zsg::SceneGraphPars pars;
-    pars.rtApi = renderer.api();
-    pars.sceneMaterialManager = materials.get();
-    pars.undoStack = &undo;
-    auto const root = zsg::ISceneGraph::create(pars); // owns every subsystem
+    host.renderer().processEvents(); // what a Qt event loop does by itself
+    std::cout << listener.synced << " colours synchronised\n";
 
-    Printer printer;
-    zsg::Subscription const subscription(*root->eventQueue(), printer,
-                                         {zsg::EventType::ColorUpdated});
-    nyx::ColorId const id = root->colorDB()->colors()[0];
-    auto const name = [&] { return root->colorDB()->colorFromId(id).getColorName(); };
-
-    std::cout << name() << '\n';
-    root->colorController()->setDisplayName(id, "Walnut"); // pushed, and announced as an event
-    std::cout << name() << " after: " << undo.text(undo.index() - 1).toStdString() << '\n';
-    undo.undo();
-    std::cout << name() << '\n';
-    undo.clear(); // commands refer to the root's colour database
+    nyx::ColorId const id = db.colors()[0];
+    std::cout << db.colorFromId(id).getColorName() << '\n';
+    root.colorController()->setDisplayName(id, "Walnut"); // pushed, and announced as an event
+    std::cout << db.colorFromId(id).getColorName()
+              << " after: " << host.undoStack().text(0).toStdString() << '\n';
+    host.undoStack().undo();
+    std::cout << db.colorFromId(id).getColorName() << '\n';
     return 0;
 }

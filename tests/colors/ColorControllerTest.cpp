@@ -203,7 +203,7 @@ TEST_F(ColorControllerTest, WithoutStackAndMaterialsEditsAreMadeOnce) {
 }
 
 TEST_F(ColorControllerTest, ItsOwnOperationsGoThroughTheOverriddenOnes) {
-    Derived derived(db.get(), materials.get(), &stack);
+    Derived derived(db.get(), &materials, &stack);
     derived.addOrSwitchSubColor(cover, blue, true);
     derived.addOrSwitchSubColor(cover, green, false);
     derived.addSubKColors(cover, std::vector<ZColor>(2));

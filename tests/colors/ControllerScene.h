@@ -1,10 +1,10 @@
 #pragma once
 
 #include "colors/ColorScene.h"
+#include "nyxembedded/MaterialManager.h"
 #include "support/UndoRoundTrip.h"
 #include "zcore/ZUndoCommand.h"
 #include "zsg/colors/ColorController.h"
-#include "zsg/materials/ISceneMaterialManager.h"
 
 #include <algorithm>
 
@@ -35,8 +35,8 @@ protected:
     }
 
     ZUndoStack stack;
-    std::unique_ptr<zsg::ISceneMaterialManager> const materials = renderer.materialManager(&stack);
-    zsg::ColorController edit{db.get(), materials.get(), &stack};
+    nyx::embedded::MaterialManager materials{renderer, &stack};
+    zsg::ColorController edit{db.get(), &materials, &stack};
 
     std::vector<zsg::MultiColorPair> const coverRed{{cover, red}};
     nyx::ColorId const noColor{77}; ///< valid, but there is no record

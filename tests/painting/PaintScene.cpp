@@ -49,7 +49,7 @@ void PaintScene::endRoot() {
 
 void PaintScene::takeCalls(std::string const& prefix, char const* separator) {
     std::string calls;
-    for (std::string const& call : renderer.takeJournal()) {
+    for (std::string const& call : renderer.journal().take()) {
         calls += (calls.empty() ? "" : separator) + call;
     }
     if (!calls.empty()) {

@@ -182,9 +182,9 @@ TEST_F(RendererBlocks, JournalNamesEveryCallInOrder) {
                              "nyx_color_from_name null");
     EXPECT_TRUE(renderer.isModified());
     EXPECT_EQ(renderer.refreshCount(), 1u);
-    renderer.recordJournal(false);
+    renderer.journal().setRecording(false);
     api()->refresh(3);
-    EXPECT_TRUE(renderer.takeJournal().empty());
+    EXPECT_TRUE(renderer.journal().take().empty());
 }
 
 TEST_F(RendererBlocks, TheLockIsRecursiveAndAStrayUnlockIsReported) {

@@ -15,9 +15,9 @@ TestScene::~TestScene() {
 }
 
 std::string TestScene::takeJournal() {
-    renderer.recordJournal(true);
+    renderer.journal().setRecording(true);
     std::string text;
-    for (std::string const& line : renderer.takeJournal()) {
+    for (std::string const& line : renderer.journal().take()) {
         text += text.empty() ? line : '\n' + line;
     }
     return text;

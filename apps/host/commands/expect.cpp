@@ -108,7 +108,7 @@ void journal(Host& host, Arguments& arguments) {
     int const expected = arguments.integer("a number of calls");
     arguments.done();
     compare("calls to the renderer", expected,
-            static_cast<long long>(host.renderer().takeJournal().size()));
+            static_cast<long long>(host.renderer().journal().take().size()));
 }
 
 void failure(Host& host, Arguments& arguments) {

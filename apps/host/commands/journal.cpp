@@ -10,11 +10,11 @@ namespace {
 void record(Host& host, Arguments& arguments) {
     bool const on = arguments.onOff();
     arguments.done();
-    host.renderer().recordJournal(on);
+    host.renderer().journal().setRecording(on);
 }
 
 void show(Host& host, Arguments&) {
-    for (std::string const& line : host.renderer().takeJournal()) {
+    for (std::string const& line : host.renderer().journal().take()) {
         host.out() << line << '\n';
     }
 }

@@ -2,7 +2,7 @@
 
 #include "nyxrender/nyxLight_layer_db.h"
 
-#include "store/Journal.h"
+#include "nyxembedded/Journal.h"
 #include "store/LightLayers.h"
 #include "store/Scene.h"
 #include "store/SceneLights.h"

@@ -16,3 +16,11 @@ double nyx_scene_unit_scale(nyxScene const& scene) {
 char* nyx_string_dup(nyxScene& scene, char const* text) {
     return text == nullptr ? nullptr : scene.strings().duplicate(text);
 }
+
+nyxGroup_item* nyx_group_item_from_id(nyxScene* scene, nyx::GroupItemId id) {
+    return scene == nullptr ? nullptr : scene->item(id);
+}
+
+nyxScene_hierarchy* nyx_scene_hierarchy_get(nyxScene* scene) {
+    return scene == nullptr ? nullptr : scene->hierarchy();
+}

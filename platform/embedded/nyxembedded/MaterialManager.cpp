@@ -1,13 +1,16 @@
 #include "nyxembedded/MaterialManager.h"
 
-#include "store/Scene.h"
+#include "nyxembedded/Renderer.h"
 #include "zcore/ZUndoCommand.h"
 #include "zcore/ZUndoStack.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <optional>
+#include <unordered_map>
 #include <utility>
+#include <vector>
 
 namespace nyx::embedded {
 
@@ -23,10 +26,10 @@ struct Rebinding {
 /// material that is gone by then makes the step fail, the others are still bound.
 class EditMaterialCommand final : public ZUndoCommand {
 public:
-    EditMaterialCommand(nyxScene& scene, nyx::MaterialId material, std::vector<Rebinding> changes,
-                        QString const& text)
+    EditMaterialCommand(Renderer& renderer, nyx::MaterialId material,
+                        std::vector<Rebinding> changes, QString const& text)
         : ZUndoCommand(ZCommandId::EditMaterial, text),
-          scene_(scene),
+          renderer_(renderer),
           material_(material),
           changes_(std::move(changes)) {}
 
@@ -37,28 +40,28 @@ private:
     bool bindAll(nyx::ColorId Rebinding::*color) {
         bool done = true;
         for (Rebinding const& change : changes_) {
-            done &= scene_.bindColor(material_, change.place.node, change.place.parameter,
-                                     change.*color, false);
+            done &= renderer_.rebindColor(material_, change.place.node, change.place.parameter,
+                                          change.*color);
         }
         return done;
     }
 
-    nyxScene& scene_;
+    Renderer& renderer_;
     nyx::MaterialId material_;
     std::vector<Rebinding> changes_;
 };
 
 class MaterialEdit final : public zsg::IMaterialEdit {
 public:
-    MaterialEdit(nyxScene& scene, nyx::MaterialId material, ZUndoStack* undoStack)
-        : scene_(scene), material_(material), undoStack_(undoStack) {}
+    MaterialEdit(Renderer& renderer, nyx::MaterialId material, ZUndoStack* undoStack)
+        : renderer_(renderer), material_(material), undoStack_(undoStack) {}
 
     [[nodiscard]] std::vector<zsg::MaterialColorPlace>
     colorPlaces(nyx::ColorId color) const override {
-        scene_.journal().write("material_color_places", material_, color);
+        renderer_.journal().write("material_color_places", material_, color);
         std::vector<zsg::MaterialColorPlace> places;
-        if (nyxMaterial const* const material = std::as_const(scene_).material(material_)) {
-            for (MaterialPlace const& place : material->places) {
+        if (auto const material = renderer_.material(material_)) {
+            for (PlaceInfo const& place : material->places) {
                 if (place.color == color) {
                     places.push_back({place.node, place.parameter});
                 }
@@ -68,14 +71,14 @@ public:
     }
 
     void beginEdit() override {
-        scene_.journal().write("material_begin_edit", material_);
+        renderer_.journal().write("material_begin_edit", material_);
         open_ = true;
     }
 
     void bindColor(zsg::MaterialColorPlace const& place, nyx::ColorId color) override {
-        scene_.journal().write("material_bind_color", material_, place.node, place.parameter,
-                               color);
-        auto const bound = scene_.boundColor(material_, place.node, place.parameter);
+        renderer_.journal().write("material_bind_color", material_, place.node, place.parameter,
+                                  color);
+        auto const bound = boundColor(place);
         if (!open_ || !bound) {
             return;
         }
@@ -90,19 +93,19 @@ public:
     }
 
     void endEdit() override {
-        scene_.journal().write("material_end_edit", material_);
+        renderer_.journal().write("material_end_edit", material_);
         if (!std::exchange(open_, false)) {
             return;
         }
         std::vector<Rebinding> changes = std::exchange(changes_, {});
         std::erase_if(changes,
                       [](Rebinding const& change) { return change.before == change.after; });
-        nyxMaterial const* const material = std::as_const(scene_).material(material_);
-        if (changes.empty() || material == nullptr) {
+        auto const material = renderer_.material(material_);
+        if (changes.empty() || !material) {
             return;
         }
         auto command = std::make_unique<EditMaterialCommand>(
-            scene_, material_, std::move(changes),
+            renderer_, material_, std::move(changes),
             QCoreApplication::translate("ZEditMaterialCommand", "Edit Material %1")
                 .arg(QString::fromStdString(material->name)));
         if (undoStack_ != nullptr) {
@@ -113,7 +116,19 @@ public:
     }
 
 private:
-    nyxScene& scene_;
+    /// Nothing for an unknown place.
+    [[nodiscard]] std::optional<nyx::ColorId> boundColor(zsg::MaterialColorPlace const& at) const {
+        if (auto const material = renderer_.material(material_)) {
+            for (PlaceInfo const& place : material->places) {
+                if (place.node == at.node && place.parameter == at.parameter) {
+                    return place.color;
+                }
+            }
+        }
+        return std::nullopt;
+    }
+
+    Renderer& renderer_;
     nyx::MaterialId material_;
     ZUndoStack* undoStack_;
     bool open_ = false;
@@ -122,27 +137,40 @@ private:
 
 } // namespace
 
+class MaterialManager::Impl {
+public:
+    Renderer& renderer;
+    ZUndoStack* undoStack;
+    std::unordered_map<nyx::MaterialId, std::unique_ptr<zsg::IMaterialEdit>> edits;
+};
+
+MaterialManager::MaterialManager(Renderer& renderer, ZUndoStack* undoStack)
+    : impl_(new Impl{renderer, undoStack, {}}) {}
+
+MaterialManager::~MaterialManager() = default;
+
 zsg::IMaterialEdit* MaterialManager::materialEdit(nyx::MaterialId material) {
-    scene_.journal().write("material_edit", material);
-    auto const edit = edits_.find(material);
-    return edit == edits_.end() ? nullptr : edit->second.get();
+    impl_->renderer.journal().write("material_edit", material);
+    auto const edit = impl_->edits.find(material);
+    return edit == impl_->edits.end() ? nullptr : edit->second.get();
 }
 
 zsg::IMaterialEdit* MaterialManager::createMaterialEdit(nyx::MaterialId material) {
-    scene_.journal().write("create_material_edit", material);
-    if (std::as_const(scene_).material(material) == nullptr) {
+    impl_->renderer.journal().write("create_material_edit", material);
+    if (!impl_->renderer.material(material)) {
         return nullptr;
     }
-    std::unique_ptr<zsg::IMaterialEdit>& edit = edits_[material];
+    std::unique_ptr<zsg::IMaterialEdit>& edit = impl_->edits[material];
     if (edit == nullptr) {
-        edit = std::make_unique<MaterialEdit>(scene_, material, undoStack_);
+        edit = std::make_unique<MaterialEdit>(impl_->renderer, material, impl_->undoStack);
     }
     return edit.get();
 }
 
 bool MaterialManager::isMaterialInUse(nyx::MaterialId material) const {
-    scene_.journal().write("is_material_in_use", material);
-    return scene_.isMaterialUsed(material);
+    impl_->renderer.journal().write("is_material_in_use", material);
+    auto const info = impl_->renderer.material(material);
+    return info && info->inUse;
 }
 
 } // namespace nyx::embedded

@@ -3,7 +3,7 @@
 #include "api/Notifications.h"
 #include "api/Painter.h"
 #include "api/RtApi.h"
-#include "nyxembedded/MaterialManager.h"
+#include "api/SceneApi.h"
 #include "nyxembedded/Painting.h"
 #include "scenefile/SceneDump.h"
 #include "scenefile/SceneFile.h"
@@ -18,15 +18,34 @@ namespace nyx::embedded {
 
 class Renderer::Impl {
 public:
+    Impl() {
+        scene.setApi(&sceneApi);
+        scene.setPainterFactory(&painters);
+    }
+
     nyxScene scene;
+    SceneApi sceneApi{scene};
+    PainterFactory painters{scene};
     Notifications notifications{scene.faults()};
     RtApi api{scene, notifications};
     Painting painting{scene.surfaces()};
 
-    /// What waits to be told is about records that are no more.
-    void sceneLoaded() {
-        notifications.forgetMessages();
+    void replaceScene(nyxScene& fresh, std::function<void()> const& beforeReplacing) {
+        if (beforeReplacing) {
+            beforeReplacing();
+        }
+        scene.takeContents(fresh);
+        notifications.forgetMessages(); // they name records that are no more
         api.setUnmodified();
+        announceColors();
+    }
+
+    void announceColors() {
+        scene.forEachColor([this](ColorRecord const& color) {
+            if (!color.isTemporary()) {
+                notifications.colorChanged(color.head.id);
+            }
+        });
     }
 };
 
@@ -74,6 +93,11 @@ nyx::MaterialId Renderer::addMaterial(std::string const& name) {
 bool Renderer::bindColor(nyx::MaterialId material, std::uint32_t node, std::string const& parameter,
                          nyx::ColorId color) {
     return impl_->scene.bindColor(material, node, parameter, color, true);
+}
+
+bool Renderer::rebindColor(nyx::MaterialId material, std::uint32_t node,
+                           std::string const& parameter, nyx::ColorId color) {
+    return impl_->scene.bindColor(material, node, parameter, color, false);
 }
 
 bool Renderer::setMaterialItems(nyx::MaterialId material, std::vector<unsigned> items) {
@@ -176,13 +200,7 @@ bool Renderer::activateColorway(nyx::ColorwayId id) {
     return true;
 }
 
-void Renderer::announceColors() {
-    impl_->scene.forEachColor([this](ColorRecord const& color) {
-        if (!color.isTemporary()) {
-            impl_->notifications.colorChanged(color.head.id);
-        }
-    });
-}
+void Renderer::announceColors() { impl_->announceColors(); }
 
 void Renderer::setMessageHandler(std::function<void(nyxMessage const&)> handler) {
     impl_->notifications.setHandler(std::move(handler));
@@ -190,9 +208,7 @@ void Renderer::setMessageHandler(std::function<void(nyxMessage const&)> handler)
 
 void Renderer::processEvents() { impl_->notifications.processEvents(); }
 
-void Renderer::recordJournal(bool on) { impl_->scene.journal().setRecording(on); }
-
-std::vector<std::string> Renderer::takeJournal() { return impl_->scene.journal().take(); }
+Journal& Renderer::journal() { return impl_->scene.journal(); }
 
 std::string Renderer::dump() const { return dumpScene(impl_->scene); }
 
@@ -304,7 +320,7 @@ Ledger Renderer::ledger() const {
     ledger.arrays = accounts().arrays;
     ledger.alignedBlocks = accounts().alignedBlocks;
     ledger.texts = accounts().texts;
-    ledger.painters = impl_->scene.painterFactory()->count();
+    ledger.painters = impl_->painters.count();
     ledger.lockDepth = impl_->api.lockDepth();
     ledger.strings = impl_->scene.strings().count();
     return ledger;
@@ -314,20 +330,22 @@ bool Renderer::isModified() const { return impl_->api.isModified(); }
 
 unsigned Renderer::refreshCount() const { return impl_->api.refreshCount(); }
 
-std::string Renderer::loadScene(std::string const& path) {
-    std::string error = loadSceneFile(impl_->scene, path);
+std::string Renderer::loadScene(std::string const& path,
+                                std::function<void()> const& beforeReplacing) {
+    nyxScene fresh;
+    std::string error = loadSceneFile(fresh, path);
     if (error.empty()) {
-        impl_->sceneLoaded();
-        announceColors();
+        impl_->replaceScene(fresh, beforeReplacing);
     }
     return error;
 }
 
-std::string Renderer::loadSceneText(std::string const& json) {
-    std::string error = embedded::loadSceneText(impl_->scene, json);
+std::string Renderer::loadSceneText(std::string const& json,
+                                    std::function<void()> const& beforeReplacing) {
+    nyxScene fresh;
+    std::string error = embedded::loadSceneText(fresh, json);
     if (error.empty()) {
-        impl_->sceneLoaded();
-        announceColors();
+        impl_->replaceScene(fresh, beforeReplacing);
     }
     return error;
 }
@@ -341,9 +359,5 @@ std::string Renderer::saveScene(std::string const& path) {
 }
 
 std::string Renderer::saveSceneText() const { return embedded::saveSceneText(impl_->scene); }
-
-std::unique_ptr<zsg::ISceneMaterialManager> Renderer::materialManager(ZUndoStack* undoStack) {
-    return std::make_unique<MaterialManager>(impl_->scene, undoStack);
-}
 
 } // namespace nyx::embedded

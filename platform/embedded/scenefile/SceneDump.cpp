@@ -1,7 +1,7 @@
 #include "scenefile/SceneDump.h"
 
-#include "scenefile/SceneText.h"
 #include "store/Scene.h"
+#include "store/jsonText.h"
 
 #include <algorithm>
 #include <array>

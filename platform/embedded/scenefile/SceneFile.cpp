@@ -21,13 +21,11 @@ std::string problem(std::string const& path, QString const& reason) {
 } // namespace
 
 std::string loadSceneText(nyxScene& scene, std::string const& json) {
-    nyxScene fresh;
     try {
-        readScene(parseStrictly(json), fresh);
+        readScene(parseStrictly(json), scene);
     } catch (SceneFileError const& error) {
         return error.what();
     }
-    scene.takeContents(fresh);
     return {};
 }
 

@@ -7,10 +7,9 @@ class nyxScene;
 namespace nyx::embedded {
 
 // The scene file, described in docs/formats.md. What these return is a message for people, empty on
-// success; a scene that could not be loaded or a file that could not be saved is as it was before.
-// Main thread.
+// success. Main thread.
 
-/// Replaces the contents of `scene` by those of a JSON text.
+/// Fills an empty scene from a JSON text; on failure it is left half filled.
 [[nodiscard]] std::string loadSceneText(nyxScene& scene, std::string const& json);
 /// The same from a file. `path` is UTF-8; the message begins with it.
 [[nodiscard]] std::string loadSceneFile(nyxScene& scene, std::string const& path);

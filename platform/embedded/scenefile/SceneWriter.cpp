@@ -1,7 +1,7 @@
 #include "scenefile/SceneWriter.h"
 
-#include "scenefile/SceneText.h"
 #include "store/Scene.h"
+#include "store/jsonText.h"
 
 #include <cstdint>
 #include <map>

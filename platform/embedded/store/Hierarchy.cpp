@@ -34,11 +34,3 @@ nyxShader* GroupItem::shader() const { return is_light() ? &lightShader : nullpt
 std::uint32_t GroupItem::light_layer_mask() const { return is_light() ? lightShader.mask : 0; }
 
 } // namespace nyx::embedded
-
-nyxGroup_item* nyx_group_item_from_id(nyxScene* scene, nyx::GroupItemId id) {
-    return scene == nullptr ? nullptr : scene->item(id);
-}
-
-nyxScene_hierarchy* nyx_scene_hierarchy_get(nyxScene* scene) {
-    return scene == nullptr ? nullptr : scene->hierarchy();
-}

@@ -1,6 +1,6 @@
-#include "store/Journal.h"
+#include "nyxembedded/Journal.h"
 
-#include "scenefile/SceneText.h"
+#include "store/jsonText.h"
 
 #include <cstdio>
 

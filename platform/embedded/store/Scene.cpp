@@ -1,7 +1,5 @@
 #include "store/Scene.h"
 
-#include "api/Painter.h"
-#include "api/SceneApi.h"
 #include "store/Hierarchy.h"
 
 #include <algorithm>
@@ -23,9 +21,7 @@ IdType idFor(RecordStore<Record> const& store, IdType wanted) {
 } // namespace
 
 nyxScene::nyxScene()
-    : api_(std::make_unique<SceneApi>(*this)),
-      painters_(std::make_unique<PainterFactory>(*this)),
-      hierarchy_(std::make_unique<Hierarchy>(*this)),
+    : hierarchy_(std::make_unique<Hierarchy>(*this)),
       lights_(std::make_unique<SceneLights>(
           *this, std::unique_ptr<nyxLight_layer_db>(new nyxLight_layer_db(*this)))) {}
 

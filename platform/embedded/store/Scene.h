@@ -1,11 +1,11 @@
 #pragma once
 
 #include "nyxembedded/Faults.h"
+#include "nyxembedded/Journal.h"
 #include "nyxrender/nyxScene.h"
 #include "nyxrender/nyxScene_hierarchy.h"
 #include "store/BrushGraph.h"
 #include "store/IdList.h"
-#include "store/Journal.h"
 #include "store/LightLayers.h"
 #include "store/NameIndex.h"
 #include "store/RecordStore.h"
@@ -22,9 +22,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace nyx::embedded {
-class PainterFactory;
-}
+class nyxPainter_factory;
 
 /// The scene of the embedded renderer: records under ids, with the indexes over them. A
 /// default-made scene is empty and can be filled on its own, then be handed to takeContents(). Main
@@ -162,10 +160,13 @@ public:
     [[nodiscard]] nyx::embedded::BrushGraph& brushes() { return brushes_; }
     [[nodiscard]] nyx::embedded::Journal& journal() const { return journal_; }
     [[nodiscard]] nyx::embedded::Faults& faults() { return faults_; }
-    [[nodiscard]] nyxScene_api* api() { return api_.get(); }
+    /// What makes records in this scene; borrowed, null while the scene stands alone.
+    [[nodiscard]] nyxScene_api* api() { return api_; }
+    void setApi(nyxScene_api* api) { api_ = api; }
+    [[nodiscard]] nyxPainter_factory* painterFactory() { return painters_; }
+    void setPainterFactory(nyxPainter_factory* painters) { painters_ = painters; }
     [[nodiscard]] nyx::embedded::Surfaces& surfaces() { return surfaces_; }
     [[nodiscard]] nyx::embedded::Surfaces const& surfaces() const { return surfaces_; }
-    [[nodiscard]] nyx::embedded::PainterFactory* painterFactory() { return painters_.get(); }
     [[nodiscard]] nyxScene_hierarchy* hierarchy() { return hierarchy_.get(); }
 
 private:
@@ -209,8 +210,8 @@ private:
     mutable nyx::embedded::Journal journal_; ///< also of calls that only look
     nyx::embedded::Faults faults_;
     nyx::embedded::Surfaces surfaces_{strings_, journal_};
-    std::unique_ptr<nyxScene_api> api_;
-    std::unique_ptr<nyx::embedded::PainterFactory> painters_;
+    nyxScene_api* api_ = nullptr;
+    nyxPainter_factory* painters_ = nullptr;
     std::unique_ptr<nyxScene_hierarchy> hierarchy_;
     std::unique_ptr<nyx::embedded::SceneLights> lights_;
 };

@@ -1,8 +1,8 @@
 #include "store/Surface.h"
 
+#include "nyxembedded/Journal.h"
 #include "paint/composite.h"
 #include "paint/paintStroke.h"
-#include "store/Journal.h"
 #include "store/StringPool.h"
 
 #include <algorithm>

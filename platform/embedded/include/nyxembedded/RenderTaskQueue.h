@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ztask/Export.h"
+#include "nyxembedded/Export.h"
 #include "ztask/ZTaskQueue.h"
 
 #include <cstddef>
@@ -11,7 +11,7 @@ namespace nyx::embedded {
 /// The embedded renderer's task queue: one FIFO of tasks, worked off one at a time. Any thread may
 /// call, and a task may add tasks; a task that waits or steps returns at once, because it would
 /// wait for itself. Destruction runs what is left, paused or not.
-class ZTASK_EXPORT RenderTaskQueue final : public ZTaskQueue {
+class NYXEMBEDDED_EXPORT RenderTaskQueue final : public ZTaskQueue {
 public:
     enum class Mode {
         Threaded, ///< tasks run on the queue's own render thread as soon as they can

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "nyxembedded/Faults.h"
+#include "nyxembedded/Journal.h"
 #include "nyxembedded/Ledger.h"
 #include "nyxembedded/SceneInfo.h"
 #include "nyxrender/Export.h"
@@ -19,10 +20,6 @@
 class nyxLight_layer_db;
 class nyxRT_api;
 class nyxScene;
-class ZUndoStack;
-namespace zsg {
-class ISceneMaterialManager;
-}
 
 namespace nyx::embedded {
 
@@ -65,6 +62,9 @@ public:
     /// Makes a place of a material (or finds it) and binds it; false for an unknown material.
     bool bindColor(nyx::MaterialId material, std::uint32_t node, std::string const& parameter,
                    nyx::ColorId color);
+    /// Binds a place that the material has; false for any other and for an unknown material.
+    bool rebindColor(nyx::MaterialId material, std::uint32_t node, std::string const& parameter,
+                     nyx::ColorId color);
     /// What nyx_material_items() answers; false for an unknown material.
     bool setMaterialItems(nyx::MaterialId material, std::vector<unsigned> items);
     /// A group at the top, or in another group.
@@ -117,12 +117,10 @@ public:
     /// The scene's light layers, to build them and to look at them.
     [[nodiscard]] nyxLight_layer_db& lightLayers();
 
-    /// Every call to the renderer and to the material manager since the last take, one line of text
-    /// each, in order: the call, then its ids and values ("commit_color_params 3"). Recording
-    /// starts switched off. Calls that only fetch what others work on are not recorded: scene(),
+    /// Every call to the renderer and to the material manager since the last take. Recording starts
+    /// switched off. Calls that only fetch what others work on are not recorded: scene(),
     /// nyx_get_scene_api() and the memory functions, and the getters of group items and shaders.
-    void recordJournal(bool on);
-    [[nodiscard]] std::vector<std::string> takeJournal();
+    [[nodiscard]] Journal& journal();
     /// The whole scene as text, the same for the same scene.
     [[nodiscard]] std::string dump() const;
     /// The first record of a name, plain and multi-colours alike; the invalid id when there is
@@ -157,17 +155,15 @@ public:
     /// Replaces the scene's contents and announces the colours. On failure the scene stays as it
     /// was, and the result is a message for people; it is empty on success. Pointers to materials
     /// and items end with the old contents. Blocks and undo commands name records by id, so from
-    /// then on they mean the new ones: commit or release, and clear the undo stack, before loading.
-    [[nodiscard]] std::string loadScene(std::string const& path);
-    [[nodiscard]] std::string loadSceneText(std::string const& json);
+    /// then on they mean the new ones: clear the undo stack and end the root before, and build a
+    /// new root after. `beforeReplacing` is the place for that: it is called when the file has been
+    /// found good and the old contents still stand. Host does all of it.
+    [[nodiscard]] std::string loadScene(std::string const& path,
+                                        std::function<void()> const& beforeReplacing = {});
+    [[nodiscard]] std::string loadSceneText(std::string const& json,
+                                            std::function<void()> const& beforeReplacing = {});
     [[nodiscard]] std::string saveScene(std::string const& path);
     [[nodiscard]] std::string saveSceneText() const;
-
-    /// A material manager over this scene that records one command per closed edit on `undoStack`
-    /// (borrowed; null: edits are made without a record). What is bound in an open edit reaches the
-    /// scene when the edit closes. Neither the manager nor its commands may outlive the renderer.
-    [[nodiscard]] std::unique_ptr<zsg::ISceneMaterialManager>
-    materialManager(ZUndoStack* undoStack);
 
 private:
     class Impl;

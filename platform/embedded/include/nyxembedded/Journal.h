@@ -1,6 +1,9 @@
 #pragma once
 
+#include "nyxrender/Export.h"
+
 #include <atomic>
+#include <cstdint>
 #include <mutex>
 #include <string>
 #include <utility>
@@ -8,11 +11,13 @@
 
 namespace nyx::embedded {
 
-/// The calls that reached the renderer, as lines of text. Any thread.
-class Journal {
+/// The calls that reached the renderer, one line of text each, in order: the call, then its ids and
+/// values ("commit_color_params 3"). Recording starts switched off. Any thread.
+class NYXRENDER_EXPORT Journal {
 public:
     void setRecording(bool on) { recording_.store(on, std::memory_order_relaxed); }
     [[nodiscard]] bool isRecording() const { return recording_.load(std::memory_order_relaxed); }
+    /// The lines since the last take.
     [[nodiscard]] std::vector<std::string> take();
 
     /// Appends one line made of the parts with blanks between them; texts are JSON strings, ids and

@@ -4,7 +4,8 @@
 
 namespace nyx::embedded {
 
-// The scalars of the scene file as JSON, put at the end of `out`. Independent of the locale.
+// Scalars as JSON, as the scene file and the journal write them, put at the end of `out`.
+// Independent of the locale.
 
 /// A string, or {"hex": "..."} when the bytes are no valid UTF-8, so that every text can be saved.
 void appendText(std::string& out, std::string const& text);

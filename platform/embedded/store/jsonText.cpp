@@ -1,4 +1,4 @@
-#include "scenefile/SceneText.h"
+#include "store/jsonText.h"
 
 #include <nlohmann/json.hpp>
 

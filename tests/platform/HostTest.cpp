@@ -1,0 +1,104 @@
+#include "nyxembedded/Host.h"
+
+#include "support/EventTrace.h"
+#include "support/sourceDir.h"
+#include "zcore/ZUndoCommand.h"
+#include "zsg/colors/ColorController.h"
+#include "zsg/colors/ColorDB.h"
+#include "zsg/core/ISceneGraph.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+
+using nyx::embedded::Host;
+
+namespace {
+
+constexpr char const* oneColor =
+    R"({"format":"zsg-scene","version":1,"colors":[{"id":1,"name":"Only","value":[0,0,0,1]}]})";
+
+/// Runs a function in its place as a command.
+class Calling final : public ZUndoCommand {
+public:
+    explicit Calling(std::function<void()> function)
+        : ZUndoCommand(ZCommandId::EditColor, "Call"), function_(std::move(function)) {}
+    bool undo() override { return true; }
+    bool redo() override {
+        function_();
+        return true;
+    }
+
+private:
+    std::function<void()> function_;
+};
+
+std::ptrdiff_t linesIn(std::string const& text) {
+    return text.empty() ? 0 : std::count(text.begin(), text.end(), '\n') + 1;
+}
+
+} // namespace
+
+TEST(Host, TheRootHearsTheRenderer) {
+    Host host;
+    ASSERT_EQ(host.loadScene(sourceDir() + "/examples/scenes/showroom.json"), "");
+    EventTrace synced(*host.root().eventQueue(), {zsg::EventType::ColorSynced});
+    host.renderer().processEvents();
+    EXPECT_EQ(linesIn(synced.take()), 42) << "every colour of the scene that was loaded";
+    nyx::ColorId const first = host.root().colorDB()->colors()[0];
+    host.root().colorController()->setColor(first, ZColor(1, 0, 0), zsg::AllowForwardUndoMerge::No);
+    host.renderer().processEvents();
+    EXPECT_EQ(synced.take(), "ColorSynced " + std::to_string(first.toUint()));
+}
+
+TEST(Host, LoadingBringsANewRootOrChangesNothing) {
+    Host host;
+    nyx::ColorId const red = host.renderer().addColor("Red", {1, 0, 0, 1});
+    std::string watched;
+    host.watchRoot([&](zsg::ISceneGraph* root) {
+        watched +=
+            root == nullptr ? "ended " + std::to_string(host.undoStack().count()) + ' ' : "built ";
+        EXPECT_TRUE(root == nullptr || root == &host.root());
+    });
+    host.root().colorController()->setDisplayName(red, "Ruby");
+    zsg::ISceneGraph* const before = &host.root();
+    EXPECT_NE(host.loadSceneText("{}"), "");
+    EXPECT_NE(host.loadScene("nowhere.json"), "");
+    EXPECT_EQ(watched, "built ");
+    EXPECT_EQ(&host.root(), before);
+    EXPECT_EQ(host.undoStack().count(), 1) << "a file that cannot be read costs no work";
+
+    ASSERT_EQ(host.loadSceneText(oneColor), "");
+    EXPECT_EQ(watched, "built ended 0 built ");
+    EXPECT_EQ(host.renderer().ledger().blocks, 0u) << "the old root gave back what it had";
+    EXPECT_EQ(host.root().colorDB()->colorFromId(nyx::ColorId(1)).getColorName(), "Only");
+    host.watchRoot({});
+}
+
+TEST(Host, DoesNotPullTheRootFromUnderWhoUsesIt) {
+    Host host;
+    std::string fromCommand, fromMessage;
+    host.undoStack().push(
+        std::make_unique<Calling>([&] { fromCommand = host.loadSceneText(oneColor); }).release());
+    EXPECT_NE(fromCommand, "");
+
+    class Loading final : public zsg::IEventListener {
+    public:
+        explicit Loading(std::function<void()> function) : function_(std::move(function)) {}
+        void onEvent(zsg::Event const*) override { function_(); }
+
+    private:
+        std::function<void()> function_;
+    } loading([&] { fromMessage = host.loadSceneText(oneColor); });
+    {
+        zsg::Subscription const subscription(*host.root().eventQueue(), loading,
+                                             {zsg::EventType::ColorSynced});
+        host.renderer().addColor("Red", {1, 0, 0, 1});
+        host.renderer().announceColors();
+        host.renderer().processEvents();
+    }
+    EXPECT_NE(fromMessage, "");
+    EXPECT_EQ(host.loadSceneText(oneColor), "");
+}
