@@ -1,6 +1,9 @@
 #include "zsg/materials/ZCMFSchema.h"
 
-#include <QBuffer>
+#include <QIODevice>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTextStream>
 
 #include <gtest/gtest.h>
@@ -46,6 +49,19 @@ QByteArray saved(ZCMFSchema const& schema) {
     schema.save(out);
     out.flush();
     return bytes;
+}
+
+/// The same file made with QJsonDocument.
+QByteArray savedByQt(ZCMFSchema const& schema) {
+    QJsonArray attributes;
+    for (ZCMFAttribute const& a : schema.attributes) {
+        attributes.append(QJsonObject{
+            {"name", a.name}, {"kind", static_cast<int>(a.kind)}, {"visible", a.visible}});
+    }
+    return QJsonDocument(QJsonObject{{"version", 1},
+                                     {"schemaName", schema.schemaName},
+                                     {"attributes", attributes}})
+        .toJson(QJsonDocument::Indented);
 }
 
 constexpr char const* oldVersion = "File format version is too old or unknown";
@@ -178,6 +194,11 @@ TEST(ZCMFSchema, savesEverythingAsItIs) {
 )");
     EXPECT_EQ(ZCMFSchema::version(), 1);
     EXPECT_EQ(load(saved({})).message, badAttributes);
+    EXPECT_EQ(saved({}), savedByQt({}));
+    for (int c = 1; c <= 0xFFFF; ++c) {
+        ZCMFSchema const one{QString(QChar(c)), {}};
+        ASSERT_EQ(saved(one), savedByQt(one)) << c;
+    }
 }
 
 TEST(ZCMFSchema, comesBackFromAFileAsItWas) {
@@ -205,7 +226,34 @@ TEST(ZCMFSchema, comesBackFromAFileAsItWas) {
         ZCMFSchema::LoadInfo const info = load(saved(schema));
         ASSERT_TRUE(info.schema) << info.message.toStdString();
         ASSERT_EQ(*info.schema, schema) << text(schema);
-        ASSERT_EQ(saved(*info.schema), saved(schema));
+        ASSERT_EQ(saved(schema), savedByQt(schema));
+        QByteArray const compact =
+            QJsonDocument::fromJson(saved(schema)).toJson(QJsonDocument::Compact);
+        ASSERT_EQ(*load(compact).schema, schema) << text(schema);
+    }
+}
+
+TEST(ZCMFSchema, readsSavedTextTheFastWayWithoutADifference) {
+    auto const outcome = [](QByteArray const& file) {
+        ZCMFSchema::LoadInfo const info = load(file);
+        return (info.schema ? text(*info.schema) : info.message.toStdString()) +
+               info.warnings.join('\n').toStdString();
+    };
+    ZCMFSchema const schema{"S", {{"A"}, {"B", false, ZCMFAttributeKind::Other7}}};
+    QByteArray const file = saved(schema);
+    EXPECT_EQ(outcome(file), "S: A 0 shown, B 7 hidden");
+    // One character left out, repeated, or replaced; the blank keeps it from the fast way.
+    for (qsizetype at = 0; at < file.size(); ++at) {
+        for (char const c : std::string("\0A|\"\\\n8-}, 1", 13)) {
+            for (QByteArray changed :
+                 {QByteArray(file).replace(at, 1, &c, 1), QByteArray(file).insert(at, c),
+                  QByteArray(file).remove(at, 1)}) {
+                std::string const read = outcome(changed);
+                qsizetype const brace = changed.indexOf('{');
+                ASSERT_EQ(outcome(changed.insert(brace < 0 ? 0 : brace + 1, ' ')), read)
+                    << changed.toStdString();
+            }
+        }
     }
 }
 
