@@ -2,6 +2,7 @@
 
 #include "values/defaults.h"
 #include "values/equality.h"
+#include "values/exactValue.h"
 
 #include <memory>
 #include <type_traits>
@@ -75,6 +76,21 @@ Variant* makeHolder(Type type) {
     }
 }
 
+/// What setting a new holder to the value leads to: one that equals the default changes nothing.
+template <class T>
+Variant* cloneOf(T const& value) {
+    if (isSame(value, defaultValue<T>())) {
+        return new ValueVariant<T>(defaultValue<T>());
+    }
+    if constexpr (std::is_base_of_v<ZColorExt, T>) {
+        T own = value;
+        own.detach();
+        return new ValueVariant<T>(own);
+    } else {
+        return new ValueVariant<T>(value);
+    }
+}
+
 } // namespace
 
 // These two stand beside the definitions of the holders and call no exported function, which could
@@ -82,7 +98,20 @@ Variant* makeHolder(Type type) {
 Variant* makeVariant(Type type) { return makeHolder(type); }
 
 Variant* Variant::cloneValue() const {
-    std::unique_ptr<Variant> clone(makeHolder(type()));
+    Type const wanted = type();
+    switch (wanted) {
+#define ZSG_CLONE_HOLDER(member, number, T)                                                        \
+    case Type::member:                                                                             \
+        if (T const* const value = exactValue<T>(*this)) {                                         \
+            return cloneOf(*value);                                                                \
+        }                                                                                          \
+        break;
+        ZSG_VALUE_TYPES(ZSG_CLONE_HOLDER)
+#undef ZSG_CLONE_HOLDER
+    default:
+        break;
+    }
+    std::unique_ptr<Variant> clone(makeHolder(wanted));
     if (clone) {
         copyTo(*clone);
     }

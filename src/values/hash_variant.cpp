@@ -4,6 +4,7 @@
 #include "zsg/values/hash.h"
 
 #include "values/defaults.h"
+#include "values/exactValue.h"
 #include "values/hashCombine.h"
 
 #include <QHashFunctions>
@@ -121,6 +122,9 @@ std::uint64_t contentHash(Enumerable const& value) {
 
 template <class T>
 std::uint64_t heldHash(Variant const& variant) {
+    if (T const* const own = exactValue<T>(variant)) {
+        return contentHash(*own);
+    }
     // A copy of the default costs no allocation for the types that share their data.
     T value = defaultValue<T>();
     variant.get(&value);

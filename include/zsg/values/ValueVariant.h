@@ -34,6 +34,9 @@ public:
     void get(void* out) const override;
     bool copyTo(Variant& target) const override;
 
+    /// The value itself, until the holder is changed.
+    [[nodiscard]] T const& value() const noexcept { return value_; }
+
 private:
     T value_;
 };
