@@ -137,4 +137,12 @@ TEST_F(ZEventQueueTest, aThrowingListenerLeavesTheEventAndAUsableQueue) {
     EXPECT_EQ(take(), "");
 }
 
+#if !defined(QT_NO_DEBUG) && GTEST_HAS_DEATH_TEST
+TEST_F(ZEventQueueTest, mustNotGoInsideADelivery) {
+    queue->subscribe(&a, updated);
+    a.action = [this](Event const&) { queue.reset(); };
+    EXPECT_DEATH(post(1), "destroyed by a listener");
+}
+#endif
+
 } // namespace

@@ -1,36 +1,11 @@
 #include "zsg/values/AxaltaColor.h"
-#include "zsg/values/Enumerable.h"
 #include "zsg/values/FilePath.h"
-#include "zsg/values/FloatArray.h"
 
 #include <gtest/gtest.h>
 
 #include <QDir>
 
-#include <utility>
-
 namespace zsg {
-
-TEST(SimpleValues, EnumerableCarriesItsSelection) {
-    Enumerable value{{7, "seven"}, {9, "nine"}};
-    EXPECT_EQ(value.getSelection(), 0);
-    value.setSelection(-12); // no option has it
-    Enumerable copy(value);
-    copy.append({11, "eleven"});
-    Enumerable const moved(std::move(copy));
-    Enumerable assigned(4);
-    assigned = value;
-    EXPECT_TRUE(moved.getSelection() == -12 && assigned.getSelection() == -12);
-    EXPECT_TRUE(moved.size() == 3 && assigned.size() == 2 && assigned[1].second == "nine");
-}
-
-TEST(SimpleValues, FloatArrayIsConstructedAsTheListIs) {
-    EXPECT_EQ(FloatArray(2), FloatArray({0, 0}));
-    EXPECT_EQ(FloatArray(2, 1.5f), FloatArray({1.5f, 1.5f}));
-    float raw[] = {1, 2};
-    FloatArray const borrowed(QArrayDataPointer<float>::fromRawData(raw, 2));
-    EXPECT_EQ(borrowed.constData(), raw);
-}
 
 TEST(SimpleValues, FilePathKeepsNativeSeparators) {
     EXPECT_EQ(FilePath().toString(), "");
