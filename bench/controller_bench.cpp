@@ -1,4 +1,4 @@
-// Row 4d and the growth of undoable colour edits.
+// The headline figures of colours (row 0), row 4d and the growth of undoable colour edits.
 
 #include "Rows.h"
 
@@ -128,6 +128,22 @@ void wholeEdit() {
     bench::target({"4d", workload, "composite floor", 3});
 }
 
+/// From the call of a controller to the return of the listener, and all that follows.
+void editToEvent() {
+    bench::contestant(
+        "0", "edit to event, 100 k colours", bench::ours, [](benchmark::State& state) {
+            Studio studio(100'000);
+            studio.stack.setLimit(1000);
+            std::mt19937 random(1);
+            float value = 0;
+            for (auto _ : state) {
+                studio.controller.setColor(studio.colors[random() % studio.colors.size()],
+                                           ZColor(value, 0, 0), AllowForwardUndoMerge::No);
+                value = 1 - value;
+            }
+        });
+}
+
 void drags() {
     for (bool const plain : {true, false}) {
         bench::contestant("growth",
@@ -182,7 +198,7 @@ void mixed() {
     constexpr int edits = 100'000;
     for (std::size_t const size : {std::size_t(1'000), std::size_t(100'000)}) {
         bench::contestant(
-            "growth", "100 k edits, undone, redone, " + std::to_string(size / 1000) + " k colours",
+            "0", "100 k mixed edits, undone, redone, " + std::to_string(size / 1000) + " k colours",
             bench::ours,
             [size](benchmark::State& state) {
                 Studio studio(size);
@@ -205,11 +221,12 @@ void mixed() {
             })
             ->Unit(benchmark::kMillisecond);
     }
-    bench::target({"growth", "100 k edits, undone, redone, 100 k colours", bench::ours, 3,
-                   "100 k edits, undone, redone, 1 k colours"});
+    bench::target({"0", "100 k mixed edits, undone, redone, 100 k colours", bench::ours, 3,
+                   "100 k mixed edits, undone, redone, 1 k colours"});
 }
 
 bool const registered = [] {
+    editToEvent();
     wholeEdit();
     drags();
     mixed();

@@ -1,7 +1,7 @@
+#include "Listener.h"
 #include "Rows.h"
 
 #include "zsg/core/Events.h"
-#include "zsg/core/IEventListener.h"
 #include "zsg/core/IEventQueue.h"
 #include "zsg/core/ISceneGraph.h"
 
@@ -18,15 +18,8 @@
 
 namespace {
 
+using bench::Listener;
 using zsg::EventType;
-
-class Listener final : public zsg::IEventListener {
-public:
-    void onEvent(zsg::Event const* event) override {
-        sum += static_cast<zsg::ColorUpdatedEvent const*>(event)->colorId().toUint();
-    }
-    std::size_t sum = 0;
-};
 
 class Sender : public QObject {
     Q_OBJECT
