@@ -3,6 +3,7 @@
 #include "zsg/lightlayers/ZLightLayerApi.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace zsg {
@@ -11,6 +12,11 @@ namespace {
 
 QString filled(QString const& text, std::string const& name) {
     return text.arg(QString::fromStdString(name), 0, QChar(' '));
+}
+
+QString deleteText(ILightLayerApi const* api, nyx::LightLayerId layer) {
+    return filled(ZUndoCommand::tr("Delete Light Layer (%1)"),
+                  api ? api->layerName(layer) : std::string());
 }
 
 void clearDeletedMark(ILightLayerApi& api, nyx::LightLayerId layer) {
@@ -30,73 +36,80 @@ std::vector<nyx::GroupItemId> itemsOf(nyx::Span<nyx::ObjectId> objects) {
 
 } // namespace
 
-ZCreateLightLayerCommand::ZCreateLightLayerCommand(ILightLayerApi* api, std::string name)
-    : ZUndoCommand(ZCommandId::CreateLightLayer, tr("Create light layer")),
-      api_(api),
+LightLayerCommand::LightLayerCommand(GuardedPointer<ILightLayerApi> api, ZCommandId id,
+                                     QString const& text)
+    : ZUndoCommand(id, text), api_(std::move(api)) {}
+
+bool LightLayerCommand::undo() {
+    ILightLayerApi* const api = api_.get();
+    if (api) {
+        undoIn(*api);
+    }
+    return api;
+}
+
+bool LightLayerCommand::redo() {
+    ILightLayerApi* const api = api_.get();
+    if (api) {
+        redoIn(*api);
+    }
+    return api;
+}
+
+ZCreateLightLayerCommand::ZCreateLightLayerCommand(GuardedPointer<ILightLayerApi> api,
+                                                   std::string name)
+    : LightLayerCommand(std::move(api), ZCommandId::CreateLightLayer, tr("Create light layer")),
       name_(std::move(name)),
       layer_(std::make_shared<nyx::LightLayerId>()) {}
 
-bool ZCreateLightLayerCommand::undo() {
-    api_->deleteLayer(*layer_);
-    return true;
+void ZCreateLightLayerCommand::undoIn(ILightLayerApi& api) { api.deleteLayer(*layer_); }
+
+void ZCreateLightLayerCommand::redoIn(ILightLayerApi& api) {
+    if (layer_->isValid()) {
+        clearDeletedMark(api, *layer_);
+        return;
+    }
+    *layer_ = api.createLayer(name_);
+    if (layer_->isValid()) {
+        setText(filled(tr("Create Light Layer (%1)"), api.layerName(*layer_)));
+    }
 }
 
-bool ZCreateLightLayerCommand::redo() {
-    if (layer_->isValid()) {
-        clearDeletedMark(*api_, *layer_);
-        return true;
-    }
-    *layer_ = api_->createLayer(name_);
-    if (layer_->isValid()) {
-        setText(filled(tr("Create Light Layer (%1)"), api_->layerName(*layer_)));
-    }
-    return true;
-}
-
-ZDeleteLightLayerCommand::ZDeleteLightLayerCommand(ILightLayerApi* api, nyx::LightLayerId layer)
-    : ZUndoCommand(ZCommandId::EditLightLayer,
-                   filled(tr("Delete Light Layer (%1)"), api->layerName(layer))),
-      api_(api),
+ZDeleteLightLayerCommand::ZDeleteLightLayerCommand(GuardedPointer<ILightLayerApi> api,
+                                                   nyx::LightLayerId layer)
+    : LightLayerCommand(api, ZCommandId::EditLightLayer, deleteText(api.get(), layer)),
       layer_(layer) {}
 
-bool ZDeleteLightLayerCommand::undo() {
-    clearDeletedMark(*api_, layer_);
-    api_->setItemsLightLayer(layer_, itemsOf(lights_));
-    return true;
+void ZDeleteLightLayerCommand::undoIn(ILightLayerApi& api) {
+    clearDeletedMark(api, layer_);
+    api.setItemsLightLayer(layer_, itemsOf(lights_));
 }
 
-bool ZDeleteLightLayerCommand::redo() {
+void ZDeleteLightLayerCommand::redoIn(ILightLayerApi& api) {
     // What an empty layer is given behind the history's back is thereby saved, too.
     if (lights_.empty()) {
-        lights_ = api_->getLayerItems(layer_);
+        lights_ = api.getLayerItems(layer_);
     }
-    api_->deleteLayer(layer_);
-    return true;
+    api.deleteLayer(layer_);
 }
 
 ZChangeLightsInLightLayerCommand::ZChangeLightsInLightLayerCommand(
-    ILightLayerApi* api, nyx::LightLayerId layer, std::vector<nyx::ObjectId> lights, bool remove)
-    : ZUndoCommand(ZCommandId::EditLightLayer, tr("Update light layer")),
-      api_(api),
+    GuardedPointer<ILightLayerApi> api, nyx::LightLayerId layer, std::vector<nyx::ObjectId> lights,
+    bool remove)
+    : LightLayerCommand(std::move(api), ZCommandId::EditLightLayer, tr("Update light layer")),
       lights_(std::move(lights)),
       layer_(layer),
       remove_(remove) {}
 
-bool ZChangeLightsInLightLayerCommand::undo() {
-    change(!remove_);
-    return true;
-}
+void ZChangeLightsInLightLayerCommand::undoIn(ILightLayerApi& api) { change(api, !remove_); }
 
-bool ZChangeLightsInLightLayerCommand::redo() {
-    change(remove_);
-    return true;
-}
+void ZChangeLightsInLightLayerCommand::redoIn(ILightLayerApi& api) { change(api, remove_); }
 
-void ZChangeLightsInLightLayerCommand::change(bool remove) {
+void ZChangeLightsInLightLayerCommand::change(ILightLayerApi& api, bool remove) {
     if (remove) {
-        api_->removeLights(layer_, lights_);
+        api.removeLights(layer_, lights_);
     } else {
-        api_->addLights(layer_, lights_);
+        api.addLights(layer_, lights_);
     }
 }
 
@@ -110,46 +123,52 @@ bool ZChangeLightsInLightLayerCommand::mergeWith(ZUndoCommand const* other) {
     return true;
 }
 
-ZSetItemLightLayerCommand::ZSetItemLightLayerCommand(ILightLayerApi* api, nyx::LightLayerId layer,
+ZSetItemLightLayerCommand::ZSetItemLightLayerCommand(GuardedPointer<ILightLayerApi> api,
+                                                     nyx::LightLayerId layer,
                                                      std::vector<nyx::GroupItemId> items)
-    : ZUndoCommand(ZCommandId::EditLightLayer, tr("Update light layer")),
-      api_(api),
+    : LightLayerCommand(std::move(api), ZCommandId::EditLightLayer, tr("Update light layer")),
       layer_(layer),
       items_(std::move(items)) {}
 
-bool ZSetItemLightLayerCommand::undo() {
+void ZSetItemLightLayerCommand::undoIn(ILightLayerApi& api) {
     for (auto const& [layer, items] : previous_) {
-        api_->setItemsLightLayer(layer, items);
+        api.setItemsLightLayer(layer, items);
     }
-    return true;
 }
 
-bool ZSetItemLightLayerCommand::redo() {
+void ZSetItemLightLayerCommand::redoIn(ILightLayerApi& api) {
     if (std::exchange(firstRun_, false)) {
-        previous_ = currentAssignment();
+        previous_ = currentAssignment(api);
     }
-    api_->setItemsLightLayer(layer_, items_);
-    return true;
+    api.setItemsLightLayer(layer_, items_);
 }
 
-/// Which lights of the items are in which layer. Only our own API knows what is below a group;
-/// of another one all lights of the layers that the items touch are taken, so that those which
-/// move come back and the others stay where they are.
-ZSetItemLightLayerCommand::ItemsOfLayers ZSetItemLightLayerCommand::currentAssignment() const {
-    if (auto const* const api = dynamic_cast<ZLightLayerApi const*>(api_)) {
-        return api->getLayerIdMap(items_);
+// Which of the lights that the items stand for is in which layer. Only our own API tells what is
+// below a group; of another one all lights of the layers that the groups touch are taken, so that
+// those which move come back and the others stay where they are.
+ZSetItemLightLayerCommand::ItemsOfLayers
+ZSetItemLightLayerCommand::currentAssignment(ILightLayerApi const& api) const {
+    if (auto const* const own = dynamic_cast<ZLightLayerApi const*>(&api)) {
+        return own->getLayerIdMap(items_);
     }
-    std::vector<nyx::LightLayerId> const touched = api_->layersOfItems(items_);
-    ItemsOfLayers assignment;
-    for (nyx::LightLayerId const layer : api_->layers()) {
-        if (std::ranges::binary_search(touched, layer)) {
-            std::vector<nyx::GroupItemId> items = itemsOf(api_->getLayerItems(layer));
-            if (!items.empty()) {
-                assignment.emplace(layer, std::move(items));
-            }
+    ItemsOfLayers all;
+    std::set<nyx::GroupItemId> groups(items_.begin(), items_.end());
+    std::set<nyx::GroupItemId> const wanted = groups;
+    for (nyx::LightLayerId const layer : api.layers()) {
+        all[layer] = itemsOf(api.getLayerItems(layer));
+        for (nyx::GroupItemId const item : all[layer]) {
+            groups.erase(item);
         }
     }
-    return assignment;
+    std::vector<nyx::LightLayerId> const touched =
+        api.layersOfItems(std::vector<nyx::GroupItemId>(groups.begin(), groups.end()));
+    for (auto& [layer, items] : all) {
+        if (std::ranges::find(touched, layer) == touched.end()) {
+            std::erase_if(items, [&](nyx::GroupItemId item) { return !wanted.contains(item); });
+        }
+    }
+    std::erase_if(all, [](auto const& entry) { return entry.second.empty(); });
+    return all;
 }
 
 } // namespace zsg

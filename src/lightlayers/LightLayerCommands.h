@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/AliveGuard.h"
+
 #include "nyxrender/Ids.h"
 #include "nyxrender/Span.h"
 #include "zcore/ZUndoCommand.h"
@@ -13,55 +15,68 @@ namespace zsg {
 
 class ILightLayerApi;
 
-// The undo commands of light layers. They change the scene through the light-layer API (borrowed)
-// and refer to layers, lights and items by id. None of them fails.
+/// The shape of the undo commands of light layers: they change the scene through the light-layer
+/// API and refer to layers, lights and items by id. None fails while the API is there.
+class LightLayerCommand : public ZUndoCommand {
+public:
+    bool undo() final;
+    bool redo() final;
+
+protected:
+    LightLayerCommand(GuardedPointer<ILightLayerApi> api, ZCommandId id, QString const& text);
+
+private:
+    virtual void undoIn(ILightLayerApi& api) = 0;
+    virtual void redoIn(ILightLayerApi& api) = 0;
+
+    GuardedPointer<ILightLayerApi> api_;
+};
 
 /// Makes a layer. The database keeps deleted layers, so undo deletes it and the next redo brings
 /// the same one back.
-class ZCreateLightLayerCommand final : public ZUndoCommand {
+class ZCreateLightLayerCommand final : public LightLayerCommand {
 public:
-    ZCreateLightLayerCommand(ILightLayerApi* api, std::string name);
-    bool undo() override;
-    bool redo() override;
+    ZCreateLightLayerCommand(GuardedPointer<ILightLayerApi> api, std::string name);
 
     /// The layer, invalid until one was made. Whoever pushes the command holds this, as a stack may
     /// delete a command before its push() returns.
     [[nodiscard]] std::shared_ptr<nyx::LightLayerId const> layer() const { return layer_; }
 
 private:
-    ILightLayerApi* api_;
+    void undoIn(ILightLayerApi& api) override;
+    void redoIn(ILightLayerApi& api) override;
+
     std::string name_;
     std::shared_ptr<nyx::LightLayerId> layer_;
 };
 
 /// Deletes a layer. Undo brings it back with the lights that were listed in it.
-class ZDeleteLightLayerCommand final : public ZUndoCommand {
+class ZDeleteLightLayerCommand final : public LightLayerCommand {
 public:
-    ZDeleteLightLayerCommand(ILightLayerApi* api, nyx::LightLayerId layer);
-    bool undo() override;
-    bool redo() override;
+    ZDeleteLightLayerCommand(GuardedPointer<ILightLayerApi> api, nyx::LightLayerId layer);
 
 private:
-    ILightLayerApi* api_;
+    void undoIn(ILightLayerApi& api) override;
+    void redoIn(ILightLayerApi& api) override;
+
     nyx::LightLayerId layer_;
     std::vector<nyx::ObjectId> lights_;
 };
 
 /// Adds lights to a layer or removes them from it; undo does the opposite.
-class ZChangeLightsInLightLayerCommand final : public ZUndoCommand {
+class ZChangeLightsInLightLayerCommand final : public LightLayerCommand {
 public:
-    ZChangeLightsInLightLayerCommand(ILightLayerApi* api, nyx::LightLayerId layer,
+    ZChangeLightsInLightLayerCommand(GuardedPointer<ILightLayerApi> api, nyx::LightLayerId layer,
                                      std::vector<nyx::ObjectId> lights, bool remove);
-    bool undo() override;
-    bool redo() override;
     /// Takes over the lights of a later command of this class that does the same to the same layer,
     /// with repeats.
     bool mergeWith(ZUndoCommand const* other) override;
 
 private:
-    void change(bool remove);
+    void undoIn(ILightLayerApi& api) override;
+    void redoIn(ILightLayerApi& api) override;
+    void change(ILightLayerApi& api, bool remove);
 
-    ILightLayerApi* api_;
     std::vector<nyx::ObjectId> lights_;
     nyx::LightLayerId layer_;
     bool remove_;
@@ -69,18 +84,18 @@ private:
 
 /// Puts the lights among items and below them into a layer; undo puts those that were listed in
 /// layers before back into them.
-class ZSetItemLightLayerCommand final : public ZUndoCommand {
+class ZSetItemLightLayerCommand final : public LightLayerCommand {
 public:
-    ZSetItemLightLayerCommand(ILightLayerApi* api, nyx::LightLayerId layer,
+    using ItemsOfLayers = std::map<nyx::LightLayerId, std::vector<nyx::GroupItemId>>;
+
+    ZSetItemLightLayerCommand(GuardedPointer<ILightLayerApi> api, nyx::LightLayerId layer,
                               std::vector<nyx::GroupItemId> items);
-    bool undo() override;
-    bool redo() override;
 
 private:
-    using ItemsOfLayers = std::map<nyx::LightLayerId, std::vector<nyx::GroupItemId>>;
-    [[nodiscard]] ItemsOfLayers currentAssignment() const;
+    void undoIn(ILightLayerApi& api) override;
+    void redoIn(ILightLayerApi& api) override;
+    [[nodiscard]] ItemsOfLayers currentAssignment(ILightLayerApi const& api) const;
 
-    ILightLayerApi* api_;
     nyx::LightLayerId layer_;
     std::vector<nyx::GroupItemId> items_;
     ItemsOfLayers previous_;

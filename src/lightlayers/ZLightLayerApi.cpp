@@ -4,7 +4,9 @@
 #include "lightlayers/sceneLights.h"
 #include "zsg/core/Events.h"
 
+#include "nyxrender/nyxGroup_item.h"
 #include "nyxrender/nyxRT_api.h"
+#include "nyxrender/nyxScene_hierarchy.h"
 
 #include <algorithm>
 #include <iostream>
@@ -26,6 +28,18 @@ nyxLight_layer_db* databaseOf(nyxScene const* scene) {
 
 // The databases see the text up to its first NUL, so that is what counts as empty here.
 bool isEmpty(std::string const& name) { return *name.c_str() == '\0'; }
+
+// Unknown ones are skipped.
+std::vector<nyxGroup_item*> itemsOf(nyxScene* scene, nyx::Span<nyx::GroupItemId> ids) {
+    std::vector<nyxGroup_item*> items;
+    items.reserve(ids.size());
+    for (nyx::GroupItemId const id : ids) {
+        if (nyxGroup_item* const item = nyx_group_item_from_id(scene, id)) {
+            items.push_back(item);
+        }
+    }
+    return items;
+}
 
 std::string textOf(char const* text) { return text ? text : ""; }
 
@@ -90,7 +104,7 @@ ZLightLayerApi::layersOfItems(nyx::Span<nyx::GroupItemId> items) const {
     if (!sceneLayers_) {
         return layers;
     }
-    for (std::uint32_t const mask : masksOfItems(scene(), items)) {
+    for (std::uint32_t const mask : masksOfItems(itemsOf(scene(), items))) {
         nyx::LightLayerId const layer = sceneLayers_->layer_id_from_mask(mask);
         if (layer.isValid()) {
             layers.push_back(layer);
@@ -105,18 +119,19 @@ ZLightLayerApi::layersOfItems(nyx::Span<nyx::GroupItemId> items) const {
 std::vector<nyx::ObjectId> ZLightLayerApi::getLayerItems(nyx::LightLayerId layer) const {
     std::uint32_t const mask = sceneLayers_ ? sceneLayers_->layer_bitmask(layer) : 0;
     // An unknown layer has no mask, and neither has an object that is no light.
-    return mask ? objectsWithMask(scene(), mask) : std::vector<nyx::ObjectId>();
+    return mask ? objectsWithMask(nyx_scene_hierarchy_get(scene()), mask)
+                : std::vector<nyx::ObjectId>();
 }
 
 std::map<nyx::LightLayerId, std::vector<nyx::GroupItemId>> ZLightLayerApi::getLayerIdMap() const {
-    return sceneLayers_ ? lightsByLayer(scene(), *sceneLayers_)
+    return sceneLayers_ ? lightsByLayer(nyx_scene_hierarchy_get(scene()), *sceneLayers_)
                         : std::map<nyx::LightLayerId, std::vector<nyx::GroupItemId>>();
 }
 
 std::map<nyx::LightLayerId, std::vector<nyx::GroupItemId>>
 ZLightLayerApi::getLayerIdMap(nyx::Span<nyx::GroupItemId> items) const {
     auto map = getLayerIdMap();
-    std::vector<nyx::ObjectId> const wanted = lightsOfItems(scene(), items);
+    std::vector<nyx::ObjectId> const wanted = lightsOfItems(itemsOf(scene(), items));
     for (auto entry = map.begin(); entry != map.end();) {
         std::erase_if(entry->second, [&](nyx::GroupItemId id) {
             return !std::ranges::binary_search(wanted, nyx::ObjectId(id.toUint()));
@@ -202,7 +217,7 @@ void ZLightLayerApi::setFlags(nyx::LightLayerId layer, nyx::Flags<layerFlags> fl
 void ZLightLayerApi::setItemsLightLayer(nyx::LightLayerId layer,
                                         nyx::Span<nyx::GroupItemId> items) {
     if (rtApi_) {
-        rtApi_->assign_layer_lights(layer, lightsOfItems(scene(), items));
+        rtApi_->assign_layer_lights(layer, lightsOfItems(itemsOf(scene(), items)));
     }
     postUpdated(layer);
 }

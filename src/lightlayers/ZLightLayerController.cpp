@@ -24,14 +24,14 @@ bool ZLightLayerController::push(std::unique_ptr<ZUndoCommand> command) {
 }
 
 nyx::LightLayerId ZLightLayerController::createLayer(std::string name) {
-    auto command = std::make_unique<ZCreateLightLayerCommand>(api_, std::move(name));
+    auto command = std::make_unique<ZCreateLightLayerCommand>(guardedApi(), std::move(name));
     auto const layer = command->layer();
     push(std::move(command));
     return *layer;
 }
 
 bool ZLightLayerController::deleteLayer(nyx::LightLayerId layer) {
-    return push(std::make_unique<ZDeleteLightLayerCommand>(api_, layer));
+    return push(std::make_unique<ZDeleteLightLayerCommand>(guardedApi(), layer));
 }
 
 void ZLightLayerController::addLightsToLayer(nyx::LightLayerId layer,
@@ -53,13 +53,13 @@ bool ZLightLayerController::isInverted(nyx::LightLayerId layer) const {
 void ZLightLayerController::changeLights(nyx::LightLayerId layer, nyx::Span<nyx::ObjectId> lights,
                                          bool remove) {
     push(std::make_unique<ZChangeLightsInLightLayerCommand>(
-        api_, layer, std::vector<nyx::ObjectId>(lights.begin(), lights.end()), remove));
+        guardedApi(), layer, std::vector<nyx::ObjectId>(lights.begin(), lights.end()), remove));
 }
 
 void ZLightLayerController::setItemsLightLayer(nyx::LightLayerId layer,
                                                nyx::Span<nyx::GroupItemId> items) {
     push(std::make_unique<ZSetItemLightLayerCommand>(
-        api_, layer, std::vector<nyx::GroupItemId>(items.begin(), items.end())));
+        guardedApi(), layer, std::vector<nyx::GroupItemId>(items.begin(), items.end())));
 }
 
 void ZLightLayerController::setLayerFlags(nyx::LightLayerId layer, nyx::Flags<layerFlags> flags) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/AliveGuard.h"
 #include "zsg/lightlayers/ILightLayerController.h"
 
 #include <memory>
@@ -29,8 +30,12 @@ private:
     void changeLights(nyx::LightLayerId layer, nyx::Span<nyx::ObjectId> lights, bool remove);
     [[nodiscard]] bool isInverted(nyx::LightLayerId layer) const;
 
+    /// What commands keep, which may outlive all this.
+    [[nodiscard]] GuardedPointer<ILightLayerApi> guardedApi() const { return {api_, aliveGuard_}; }
+
     ILightLayerApi* api_;
     ZUndoStack* undoStack_;
+    AliveGuard const aliveGuard_;
 };
 
 } // namespace zsg

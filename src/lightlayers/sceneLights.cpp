@@ -21,14 +21,12 @@ constexpr unsigned unlistedQuery = 4100;
 /// Visits each light among the items and below them once. With a stack of its own: groups may be
 /// nested deeper than calls may.
 template <class Visit>
-void forEachLight(nyxScene* scene, nyx::Span<nyx::GroupItemId> items, Visit const& visit) {
+void forEachLight(nyx::Span<nyxGroup_item*> items, Visit const& visit) {
     IdSet visited;
     std::vector<nyxGroup_item const*> waiting;
     waiting.reserve(1024);
-    for (nyx::GroupItemId const id : items) {
-        if (nyxGroup_item const* const item = nyx_group_item_from_id(scene, id)) {
-            waiting.push_back(item);
-        }
+    for (nyxGroup_item const* const listed : items) {
+        waiting.push_back(listed);
         while (!waiting.empty()) {
             nyxGroup_item const& item = *waiting.back();
             waiting.pop_back();
@@ -58,17 +56,16 @@ void sortUnique(std::vector<Value>& values) {
 
 } // namespace
 
-std::vector<nyx::ObjectId> lightsOfItems(nyxScene* scene, nyx::Span<nyx::GroupItemId> items) {
+std::vector<nyx::ObjectId> lightsOfItems(nyx::Span<nyxGroup_item*> items) {
     std::vector<nyx::ObjectId> lights;
-    forEachLight(scene, items,
-                 [&](nyxGroup_item const& light) { lights.push_back(light.object_id()); });
+    forEachLight(items, [&](nyxGroup_item const& light) { lights.push_back(light.object_id()); });
     sortUnique(lights);
     return lights;
 }
 
-std::vector<std::uint32_t> masksOfItems(nyxScene* scene, nyx::Span<nyx::GroupItemId> items) {
+std::vector<std::uint32_t> masksOfItems(nyx::Span<nyxGroup_item*> items) {
     std::vector<std::uint32_t> masks;
-    forEachLight(scene, items, [&](nyxGroup_item const& light) {
+    forEachLight(items, [&](nyxGroup_item const& light) {
         nyxShader const* const shader = light.shader();
         std::uint32_t const mask = shader ? shader->light_layer_mask() : 0;
         // Neighbours are mostly in one layer.
@@ -80,9 +77,10 @@ std::vector<std::uint32_t> masksOfItems(nyxScene* scene, nyx::Span<nyx::GroupIte
     return masks;
 }
 
-std::vector<nyx::ObjectId> objectsWithMask(nyxScene* scene, std::uint32_t mask) {
+std::vector<nyx::ObjectId> objectsWithMask(nyxScene_hierarchy const* hierarchy,
+                                           std::uint32_t mask) {
     std::vector<nyx::ObjectId> objects;
-    if (nyxScene_hierarchy const* const hierarchy = nyx_scene_hierarchy_get(scene)) {
+    if (hierarchy) {
         hierarchy->walk([&](nyxGroup_item const& item) {
             if (item.light_layer_mask() == mask && isListed(item)) {
                 objects.push_back(item.object_id());
@@ -93,9 +91,8 @@ std::vector<nyx::ObjectId> objectsWithMask(nyxScene* scene, std::uint32_t mask) 
 }
 
 std::map<nyx::LightLayerId, std::vector<nyx::GroupItemId>>
-lightsByLayer(nyxScene* scene, nyxLight_layer_db const& layers) {
+lightsByLayer(nyxScene_hierarchy const* hierarchy, nyxLight_layer_db const& layers) {
     std::map<nyx::LightLayerId, std::vector<nyx::GroupItemId>> lights;
-    nyxScene_hierarchy const* const hierarchy = nyx_scene_hierarchy_get(scene);
     if (!hierarchy) {
         return lights;
     }
