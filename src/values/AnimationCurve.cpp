@@ -1,7 +1,7 @@
 #include "zsg/values/AnimationCurve.h"
 
 #include "values/BezierSegment.h"
-#include "values/keyLetters.h"
+#include "zsg/values/keyLetters.h"
 
 #include "nyxrender/nyx_warning.h"
 
@@ -16,12 +16,6 @@ namespace zsg {
 namespace {
 
 constexpr std::size_t floatsPerKey = 6;
-
-bool same(nyxVector2f const& a, nyxVector2f const& b) { return a.x == b.x && a.y == b.y; }
-
-bool same(nyx::AnimationKey const& a, nyx::AnimationKey const& b) {
-    return same(a.pos, b.pos) && same(a.in, b.in) && same(a.out, b.out) && a.type == b.type;
-}
 
 nyx::AnimationKey keyWithoutHandles(nyxVector2f const& pos, nyx::KeyType type) {
     return {pos, pos, pos, type};
@@ -111,7 +105,7 @@ bool AnimationCurve::setKey(int index, nyx::AnimationKey key) {
         }
     }
     nyx::AnimationKey& stored = keys_[static_cast<std::size_t>(index)];
-    if (same(key, stored)) {
+    if (key == stored) {
         return false;
     }
     stored = key;
@@ -201,7 +195,7 @@ int AnimationCurve::insertKey(float x) {
 }
 
 bool AnimationCurve::load(nyxArray<float> const& data, char const* types) {
-    if (types == nullptr) {
+    if (!types) {
         return false;
     }
     std::string_view const letters = types;
@@ -232,8 +226,7 @@ void AnimationCurve::store(nyxArray<float>& data, std::string& types) const {
 }
 
 bool AnimationCurve::operator==(AnimationCurve const& other) const noexcept {
-    return std::equal(keys_.begin(), keys_.end(), other.keys_.begin(), other.keys_.end(),
-                      [](auto const& a, auto const& b) { return same(a, b); });
+    return keys_ == other.keys_;
 }
 
 bool AnimationCurve::hasKey(int index) const noexcept {

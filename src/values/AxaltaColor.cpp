@@ -8,8 +8,6 @@ nyxColor toColor(double const* rgb) {
     return {static_cast<float>(rgb[0]), static_cast<float>(rgb[1]), static_cast<float>(rgb[2])};
 }
 
-bool same(nyxColor const& a, nyxColor const& b) { return a.r == b.r && a.g == b.g && a.b == b.b; }
-
 } // namespace
 
 AxaltaColor::AxaltaColor()
@@ -21,7 +19,7 @@ AxaltaColor::AxaltaColor(double const* a, double const* b, double const* c)
 AxaltaColor::AxaltaColor(nyxColor a, nyxColor b, nyxColor c) : a_(a), b_(b), c_(c) {}
 
 bool AxaltaColor::operator==(AxaltaColor const& other) const noexcept {
-    return same(a_, other.a_) && same(b_, other.b_) && same(c_, other.c_);
+    return a_ == other.a_ && b_ == other.b_ && c_ == other.c_;
 }
 
 } // namespace zsg

@@ -65,15 +65,6 @@ WeavePattern::Data& WeavePattern::Data::standard() noexcept {
     return immortal.data;
 }
 
-void WeavePattern::Data::replaceGrid(WeavePattern& pattern, WeaveGrid grid) {
-    if (pattern.d_->isShared()) {
-        Data* const fresh = new Data(std::move(grid), pattern.d_->yarns);
-        release(std::exchange(pattern.d_, fresh));
-    } else {
-        pattern.d_->grid = std::move(grid);
-    }
-}
-
 // Inline, because calls of exported functions go through the dynamic linker even in here.
 inline void WeavePattern::wrap(int& x, int& y) const noexcept {
     x = wrapped(x, d_->grid.record().numWarp);
@@ -82,7 +73,7 @@ inline void WeavePattern::wrap(int& x, int& y) const noexcept {
 
 inline void WeavePattern::detach() {
     if (d_->isShared()) {
-        Data::replaceGrid(*this, WeaveGrid(d_->grid));
+        Data::unshare(*this);
     }
 }
 
@@ -93,7 +84,7 @@ WeavePattern::WeavePattern(int numWarp, int numWeft, int const* cells) : WeavePa
         return;
     }
     WeaveGrid grid(numWarp, numWeft);
-    if (cells != nullptr) {
+    if (cells) {
         std::transform(cells, cells + grid.count(), grid.cells(),
                        [](int cell) { return cell != 0 ? Weft : Warp; });
     } else {
@@ -174,7 +165,7 @@ void WeavePattern::setSize(int numWarp, int numWeft) {
 }
 
 void WeavePattern::setFromNyxPattern(nyx::WeavePattern const& pattern) {
-    if (pattern.cells == nullptr || !WeaveGrid::isValidSize(pattern.numWarp, pattern.numWeft)) {
+    if (!pattern.cells || !WeaveGrid::isValidSize(pattern.numWarp, pattern.numWeft)) {
         return;
     }
     WeaveGrid grid(pattern.numWarp, pattern.numWeft);

@@ -87,6 +87,8 @@ struct WeavePattern::Data {
     }
     /// Gives a handle another grid; it is private to the handle afterwards.
     static void replaceGrid(WeavePattern& pattern, WeaveGrid grid);
+    /// Gives a handle a copy of its grid.
+    static void unshare(WeavePattern& pattern);
     /// The record of default patterns.
     static Data& standard() noexcept;
 

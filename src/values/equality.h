@@ -4,9 +4,7 @@
 #include "zsg/values/FloatArray.h"
 #include "zsg/values/WeavePattern.h"
 
-#include "nyxrender/nyxColor.h"
 #include "nyxrender/nyxMatrix.h"
-#include "nyxrender/nyxVector.h"
 
 #include <algorithm>
 
@@ -17,26 +15,6 @@ namespace zsg {
 template <class T>
 [[nodiscard]] bool isSame(T const& a, T const& b) {
     return a == b;
-}
-
-[[nodiscard]] inline bool isSame(nyxVector2f const& a, nyxVector2f const& b) {
-    return a.x == b.x && a.y == b.y;
-}
-
-[[nodiscard]] inline bool isSame(nyxVectorf const& a, nyxVectorf const& b) {
-    return a.x == b.x && a.y == b.y && a.z == b.z;
-}
-
-[[nodiscard]] inline bool isSame(nyxVector const& a, nyxVector const& b) {
-    return a.x == b.x && a.y == b.y && a.z == b.z;
-}
-
-[[nodiscard]] inline bool isSame(nyxColor const& a, nyxColor const& b) {
-    return a.r == b.r && a.g == b.g && a.b == b.b;
-}
-
-[[nodiscard]] inline bool isSame(nyxColor_rgba const& a, nyxColor_rgba const& b) {
-    return a.r == b.r && a.g == b.g && a.b == b.b && a.a == b.a;
 }
 
 /// Unequal is only what is less or greater, as the renderer compares its matrices: so a NaN equals

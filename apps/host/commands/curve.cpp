@@ -3,6 +3,7 @@
 #include "host/Picture.h"
 
 #include "zsg/values/AnimationCurve.h"
+#include "zsg/values/keyLetters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -73,7 +74,7 @@ void setType(Host& host, Arguments& arguments) {
     nyx::AnimationKey key = curve.keyAt(index);
     std::string const letter = arguments.oneOf({"U", "T", "s", "S", "L"});
     arguments.done();
-    key.type = static_cast<nyx::KeyType>(std::string("UTsSL").find(letter));
+    key.type = zsg::keyTypeOf(letter.front());
     accepted(curve.setKey(index, key));
 }
 

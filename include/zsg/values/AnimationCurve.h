@@ -55,7 +55,7 @@ public:
     /// the first key and behind the last it takes their y.
     int insertKey(float x);
 
-    /// Reads six floats per key (in, position, out) and one letter per key of "UTsSL", other
+    /// Reads six floats per key (in, position, out) and one letter per key (keyLetters), other
     /// letters being U. Returns false and leaves the curve as it was when `types` is null or, with
     /// a message on the renderer's warning channel, when there are fewer than two keys or the
     /// counts do not match.

@@ -26,11 +26,7 @@ public:
     void setSlopeRight(float slope) noexcept { slopeRight_ = slope; }
 
     /// Exact, all seven numbers: a stop that holds a NaN equals nothing, not even itself.
-    friend bool operator==(ColorGradientStop const& a, ColorGradientStop const& b) noexcept {
-        return a.color_.r == b.color_.r && a.color_.g == b.color_.g && a.color_.b == b.color_.b &&
-               a.color_.a == b.color_.a && a.location_ == b.location_ &&
-               a.slopeLeft_ == b.slopeLeft_ && a.slopeRight_ == b.slopeRight_;
-    }
+    friend bool operator==(ColorGradientStop const&, ColorGradientStop const&) noexcept = default;
     /// Compares locations only.
     friend bool operator<(ColorGradientStop const& a, ColorGradientStop const& b) noexcept {
         return a.location_ < b.location_;

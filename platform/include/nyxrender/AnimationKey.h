@@ -21,6 +21,8 @@ struct AnimationKey {
     nyxVector2f in;
     nyxVector2f out;
     KeyType type = KeyType::U;
+
+    friend bool operator==(AnimationKey const&, AnimationKey const&) = default;
 };
 
 } // namespace nyx

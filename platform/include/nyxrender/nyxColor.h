@@ -5,11 +5,16 @@
 /// A colour as three floats, linear, usually 0 to 1; nothing clamps them.
 struct nyxColor {
     float r = 0, g = 0, b = 0;
+
+    /// Exact; so are the comparisons of all records.
+    friend bool operator==(nyxColor const&, nyxColor const&) = default;
 };
 
 /// A colour with alpha.
 struct nyxColor_rgba {
     float r = 0, g = 0, b = 0, a = 0;
+
+    friend bool operator==(nyxColor_rgba const&, nyxColor_rgba const&) = default;
 };
 
 /// The kinds of colour records that can be listed and created.

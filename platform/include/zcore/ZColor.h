@@ -23,10 +23,7 @@ public:
     operator nyxColor() const { return {rgba_.r, rgba_.g, rgba_.b}; }
 
     /// Exact: all four floats and the name.
-    friend bool operator==(ZColor const& a, ZColor const& b) {
-        return a.rgba_.r == b.rgba_.r && a.rgba_.g == b.rgba_.g && a.rgba_.b == b.rgba_.b &&
-               a.rgba_.a == b.rgba_.a && a.name_ == b.name_;
-    }
+    friend bool operator==(ZColor const&, ZColor const&) = default;
 
 private:
     nyxColor_rgba rgba_{0, 0, 0, 1};

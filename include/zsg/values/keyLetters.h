@@ -6,7 +6,7 @@
 
 namespace zsg {
 
-/// The letter of each key type, in the order of their values.
+/// The letter of each key type in the exchange format of curves, in the order of their values.
 inline constexpr std::string_view keyLetters = "UTsSL";
 
 /// '0' for a type that has none.
