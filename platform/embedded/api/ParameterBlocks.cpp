@@ -4,56 +4,69 @@
 #include "nyxrender/nyx_memory.h"
 #include "store/StringPool.h"
 
-#include <algorithm>
+#include <array>
+#include <cstdint>
 #include <cstring>
-#include <iterator>
 #include <memory>
-#include <string_view>
 #include <vector>
 
 namespace nyx::embedded {
 
 namespace {
 
-bool isList(std::string_view name) {
-    return name == "sub_colors" || name == "multi_colors" || name == "active_sub_indices";
+/// Exactly that name, which may fill the field only when it is longer than any that is known.
+template <std::size_t N>
+bool isNamed(nyxParameter_entry const& entry, char const (&name)[N]) {
+    static_assert(N <= sizeof entry.name);
+    return entry.name[0] == name[0] && std::memcmp(entry.name, name, N) == 0;
 }
 
-bool isScalar(std::string_view name) {
-    static constexpr std::string_view names[] = {
-        "id",    "display_name", "original_name",     "color",
-        "flags", "active_sub",   "active_colorway_id"};
-    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+bool isList(nyxParameter_entry const& entry) {
+    return isNamed(entry, "sub_colors") || isNamed(entry, "multi_colors") ||
+           isNamed(entry, "active_sub_indices");
+}
+
+bool isScalar(nyxParameter_entry const& entry) {
+    return isNamed(entry, "id") || isNamed(entry, "display_name") ||
+           isNamed(entry, "original_name") || isNamed(entry, "color") || isNamed(entry, "flags") ||
+           isNamed(entry, "active_sub") || isNamed(entry, "active_colorway_id");
 }
 
 /// What a block is beyond what is exchanged: its own entries, whatever `entries` points to by then.
 struct Block final : nyxParameter_edit {
     Block(std::uint32_t recordId, std::int32_t blockKind, std::size_t entryCount)
-        : storage(entryCount) {
+        : size(entryCount) {
         record_id = recordId;
         kind = blockKind;
-        entries = storage.data();
-        count = static_cast<std::int32_t>(entryCount);
+        if (size > few.size()) {
+            many.resize(size);
+            manyAsList.resize(size);
+        }
+        entries = own();
+        count = static_cast<std::int32_t>(size);
+    }
+
+    [[nodiscard]] nyxParameter_entry* own() { return size > few.size() ? many.data() : few.data(); }
+    /// Whether the entry was made as a list, whatever its name says now.
+    [[nodiscard]] std::uint8_t& madeAsList(std::size_t i) {
+        return size > few.size() ? manyAsList[i] : fewAsList[i];
     }
 
     nyxParameter_entry& add(char const* name) {
-        nyxParameter_entry& entry = storage[used];
+        nyxParameter_entry& entry = own()[used];
         std::strcpy(entry.name, name);
-        madeAsList[used++] = isList(name);
+        madeAsList(used++) = isList(entry);
         return entry;
     }
 
-    std::vector<nyxParameter_entry> storage;
-    std::vector<bool> madeAsList = std::vector<bool>(storage.size());
+    // No block of the renderer's own has more than seven entries.
+    std::array<nyxParameter_entry, 7> few;
+    std::array<std::uint8_t, 7> fewAsList{};
+    std::vector<nyxParameter_entry> many;
+    std::vector<std::uint8_t> manyAsList;
+    std::size_t size;
     std::size_t used = 0;
 };
-
-/// The name, also when a stray writer took away its closing zero.
-std::string_view nameOf(nyxParameter_entry const& entry) {
-    auto const* const end = static_cast<char const*>(std::memchr(entry.name, 0, sizeof entry.name));
-    return {entry.name,
-            end == nullptr ? sizeof entry.name : static_cast<std::size_t>(end - entry.name)};
-}
 
 nyx::Span<nyxParameter_entry> entriesOf(nyxParameter_edit const& block) {
     if (block.entries == nullptr || block.count <= 0) {
@@ -70,11 +83,12 @@ nyx::Span<nyx::ColorId> listOf(nyxParameter_entry const& entry) {
 }
 
 void setList(nyxParameter_entry& entry, nyx::Span<nyx::ColorId> ids) {
-    entry.value.list = {nullptr, static_cast<std::int32_t>(ids.size())};
+    entry.value.list = {nullptr, 0};
     if (!ids.empty()) {
         std::size_t const bytes = ids.size() * sizeof(nyx::ColorId);
         entry.value.list.ids =
             static_cast<nyx::ColorId*>(nyx_malloc_aligned(bytes, nyxParameter_edit::ListAlignment));
+        entry.value.list.count = static_cast<std::int32_t>(ids.size());
         std::memcpy(static_cast<void*>(entry.value.list.ids), ids.data(), bytes);
     }
 }
@@ -82,10 +96,9 @@ void setList(nyxParameter_entry& entry, nyx::Span<nyx::ColorId> ids) {
 /// By name, since entries may have changed places; a list under a name that says nothing is freed
 /// where it was made.
 void freeLists(Block& block) {
-    for (std::size_t i = 0; i < block.storage.size(); ++i) {
-        nyxParameter_entry const& entry = block.storage[i];
-        std::string_view const name = nameOf(entry);
-        if (isList(name) || (block.madeAsList[i] && !isScalar(name))) {
+    for (std::size_t i = 0; i < block.size; ++i) {
+        nyxParameter_entry const& entry = block.own()[i];
+        if (isList(entry) || (block.madeAsList(i) != 0 && !isScalar(entry))) {
             nyx_free_aligned(entry.value.list.ids);
         }
     }
@@ -149,17 +162,15 @@ nyxParameter_edit* cloneBlock(nyxParameter_edit const& source, bool copyValues) 
     nyx::Span<nyxParameter_entry> const entries = entriesOf(source);
     BlockPointer clone(new Block(source.record_id, source.kind, entries.size()));
     for (nyxParameter_entry const& entry : entries) {
-        nyxParameter_entry& copy = clone->storage[clone->used];
-        if (copyValues) {
-            if (isList(nameOf(entry))) {
-                setList(copy, listOf(entry));
-            } else {
-                copy.value = entry.value;
-            }
-        }
-        // The name last: until then the deleter does not take the value for a list.
+        bool const list = isList(entry);
+        nyxParameter_entry& copy = clone->own()[clone->used];
         std::memcpy(copy.name, entry.name, sizeof copy.name);
-        clone->madeAsList[clone->used++] = isList(nameOf(copy));
+        if (copyValues && list) {
+            setList(copy, listOf(entry));
+        } else if (copyValues) {
+            copy.value = entry.value;
+        }
+        clone->madeAsList(clone->used++) = list;
     }
     return clone.release();
 }
@@ -168,19 +179,18 @@ void releaseBlock(nyxParameter_edit* block) { BlockPointer(static_cast<Block*>(b
 
 void readBlock(nyxParameter_edit const& block, ColorRecord& record) {
     for (nyxParameter_entry const& entry : entriesOf(block)) {
-        std::string_view const name = nameOf(entry);
-        if (name == "display_name") {
+        if (isNamed(entry, "display_name")) {
             readText(entry, record.name);
-        } else if (name == "original_name") {
+        } else if (isNamed(entry, "original_name")) {
             readText(entry, record.originalName);
-        } else if (name == "color") {
+        } else if (isNamed(entry, "color")) {
             float const* const rgba = entry.value.rgba;
             record.value = {rgba[0], rgba[1], rgba[2], rgba[3]};
-        } else if (name == "flags") {
+        } else if (isNamed(entry, "flags")) {
             record.head.flags = entry.value.word;
-        } else if (name == "sub_colors") {
+        } else if (isNamed(entry, "sub_colors")) {
             readList(entry, record.subColors);
-        } else if (name == "active_sub") {
+        } else if (isNamed(entry, "active_sub")) {
             record.activeSub = nyx::ColorId(entry.value.word);
         }
     }
@@ -188,14 +198,13 @@ void readBlock(nyxParameter_edit const& block, ColorRecord& record) {
 
 void readBlock(nyxParameter_edit const& block, ColorwayRecord& record) {
     for (nyxParameter_entry const& entry : entriesOf(block)) {
-        std::string_view const name = nameOf(entry);
-        if (name == "display_name") {
+        if (isNamed(entry, "display_name")) {
             readText(entry, record.name);
-        } else if (name == "multi_colors") {
+        } else if (isNamed(entry, "multi_colors")) {
             readList(entry, record.multiColors);
-        } else if (name == "active_sub_indices") {
+        } else if (isNamed(entry, "active_sub_indices")) {
             readList(entry, record.activeSubs);
-        } else if (name == "flags") {
+        } else if (isNamed(entry, "flags")) {
             record.flags = entry.value.word;
         }
     }
@@ -203,7 +212,7 @@ void readBlock(nyxParameter_edit const& block, ColorwayRecord& record) {
 
 void readBlock(nyxParameter_edit const& block, nyx::ColorwayId& activeColorway) {
     for (nyxParameter_entry const& entry : entriesOf(block)) {
-        if (nameOf(entry) == "active_colorway_id") {
+        if (isNamed(entry, "active_colorway_id")) {
             activeColorway = nyx::ColorwayId(entry.value.word);
         }
     }
