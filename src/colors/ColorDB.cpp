@@ -1,5 +1,6 @@
 #include "zsg/colors/ColorDB.h"
 
+#include "colors/EditIndex.h"
 #include "colors/ZColorLinker.h"
 #include "colors/announce.h"
 #include "core/AliveGuard.h"
@@ -33,7 +34,11 @@ Revisions revisionsOf(nyxScene* scene) {
 } // namespace
 
 ColorDB::ColorDB(IEventQueue* eventQueue, nyxRT_api* rtApi)
-    : eventQueue_(eventQueue), rtApi_(rtApi), aliveGuard_(std::make_unique<AliveGuard>()) {}
+    : eventQueue_(eventQueue),
+      rtApi_(rtApi),
+      colorEdits_(std::make_unique<EditIndex<nyx::ColorId, ZColorExtEdit>>()),
+      colorwayEdits_(std::make_unique<EditIndex<nyx::ColorwayId, ZColorwayEdit>>()),
+      aliveGuard_(std::make_unique<AliveGuard>()) {}
 
 ColorDB::~ColorDB() = default;
 
@@ -63,11 +68,11 @@ nyx::ColorwayId ColorDB::colorwayFromName(ScopedRTApiLock&, std::string const& n
 }
 
 ZColorExtEdit* ColorDB::getColorParameters(nyx::ColorId id) {
-    if (auto const found = colorEdits_.find(id); found != colorEdits_.end()) {
-        return found->second.get();
+    if (ZColorExtEdit* const cached = colorEdits_->find(id)) {
+        return cached;
     }
     auto edit = ZColorExtEdit::read(rtApi_, id);
-    return edit ? colorEdits_.emplace(id, std::move(edit)).first->second.get() : nullptr;
+    return edit ? colorEdits_->set(id, std::move(edit)) : nullptr;
 }
 
 ZColorSettingsEdit* ColorDB::getColorSettingsParameters() {
@@ -130,7 +135,7 @@ ZColorwayEdit* ColorDB::getColorwayParameters(nyx::ColorwayId id) {
     if (!edit) {
         return nullptr;
     }
-    colorwayEdits_.emplace(id, std::move(edit));
+    colorwayEdits_->set(id, std::move(edit));
     checkForUnusedMultiColors(id);
     return cachedColorway(id);
 }
@@ -206,8 +211,7 @@ std::string ColorDB::colorwayName(nyx::ColorwayId id) {
 nyxScene* ColorDB::scene() const { return rtApi_ ? rtApi_->scene() : nullptr; }
 
 ZColorwayEdit* ColorDB::cachedColorway(nyx::ColorwayId id) const {
-    auto const found = colorwayEdits_.find(id);
-    return found == colorwayEdits_.end() ? nullptr : found->second.get();
+    return colorwayEdits_->find(id);
 }
 
 std::unique_ptr<IColorLinker> ColorDB::getColorLinker(IColorController* controller,

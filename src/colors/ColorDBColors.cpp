@@ -1,5 +1,6 @@
 #include "zsg/colors/ColorDB.h"
 
+#include "colors/EditIndex.h"
 #include "colors/announce.h"
 
 #include "nyxrender/nyxRT_api.h"
@@ -94,13 +95,13 @@ void ColorDB::pushSubColorToDb(ZColorExt const& color, int index) {
 }
 
 void ColorDB::pushColor(nyx::ColorId id) {
-    auto const found = colorEdits_.find(id);
-    if (found == colorEdits_.end() || !found->second->commit(false)) {
+    ZColorExtEdit* const edit = colorEdits_->find(id);
+    if (!edit || !edit->commit(false)) {
         return;
     }
     std::vector<nyx::ColorId> subs;
-    if (found->second->hasFlag(ColorFlags::MultiColor)) {
-        subs = copied(found->second->subColors());
+    if (edit->hasFlag(ColorFlags::MultiColor)) {
+        subs = copied(edit->subColors());
     }
     announce<ColorUpdatedEvent>(eventQueue_, id);
     for (nyx::ColorId const sub : subs) {
@@ -197,9 +198,7 @@ void ColorDB::setColorEdit(ZColorExtEdit const* edit) {
     if (copy->id() != id) {
         return; // the renderer could not copy the block
     }
-    auto& cached = colorEdits_[id];
-    cached = std::move(copy);
-    cached->commit(true);
+    colorEdits_->set(id, std::move(copy))->commit(true);
     announce<ColorUpdatedEvent>(eventQueue_, id);
 }
 

@@ -1,5 +1,6 @@
 #include "zsg/colors/ColorDB.h"
 
+#include "colors/EditIndex.h"
 #include "colors/colorwayAccess.h"
 
 #include "nyxrender/nyxScene.h"
@@ -77,12 +78,12 @@ void ColorDB::handleColorwayActivated(nyx::ColorwayId const& id) {
         return;
     }
     for (nyx::ColorId const multi : copied(edit->multiColors())) {
-        colorEdits_.erase(multi);
+        colorEdits_->erase(multi);
         getColorParameters(multi);
         pushColor(multi);
         announce<ColorUpdatedEvent>(eventQueue_, multi);
     }
-    colorwayEdits_.erase(colorway);
+    colorwayEdits_->erase(colorway);
     getColorwayParameters(colorway);
     pushColorway(colorway);
     postColorwayUpdateSyncEvent(colorway);
@@ -127,9 +128,7 @@ void ColorDB::setColorwayEdit(ZColorwayEdit const* edit) {
     if (copy->id() != id) {
         return; // the renderer could not copy the block
     }
-    auto& cached = colorwayEdits_[id];
-    cached = std::move(copy);
-    cached->commit(true);
+    colorwayEdits_->set(id, std::move(copy))->commit(true);
     postColorwayUpdateSyncEvent(id);
 }
 

@@ -40,7 +40,7 @@ TEST_F(ZColorLinkerTest, AConflictIsANameInUseWithAnotherValue) {
     };
     EXPECT_EQ(conflicts({1, 0, 0, 1, "Red"}), 0u);
     EXPECT_EQ(conflicts({1, 0.00009f, 0, 1, "Red"}), 0u);
-    EXPECT_EQ(conflicts({1, 0, 0.00011f, 1, "Red"}), 1u);
+    EXPECT_EQ(conflicts({1, 1e-4f, 0, 1, "Red"}), 1u);
     EXPECT_EQ(conflicts({1, 0, 0, 0.5f, "Red"}), 1u);
     EXPECT_EQ(conflicts({NAN, 0, 0, 1, "Red"}), 1u);
     EXPECT_EQ(conflicts({1, 1, 1, 1, "Blue"}), 0u);  // its material is on no object

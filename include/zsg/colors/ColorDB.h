@@ -6,13 +6,15 @@
 #include "zsg/colors/ZColorSettingsEdit.h"
 #include "zsg/colors/ZColorwayEdit.h"
 
-#include <unordered_map>
+#include <memory>
 
 class nyxScene;
 
 namespace zsg {
 
 class AliveGuard;
+template <class Id, class Edit>
+class EditIndex;
 class IEventQueue;
 
 /// The colour database over the renderer's run-time API. It keeps one edit per colour and colorway
@@ -101,8 +103,8 @@ private:
 
     IEventQueue* eventQueue_;
     nyxRT_api* rtApi_;
-    std::unordered_map<nyx::ColorId, std::unique_ptr<ZColorExtEdit>> colorEdits_;
-    std::unordered_map<nyx::ColorwayId, std::unique_ptr<ZColorwayEdit>> colorwayEdits_;
+    std::unique_ptr<EditIndex<nyx::ColorId, ZColorExtEdit>> const colorEdits_;
+    std::unique_ptr<EditIndex<nyx::ColorwayId, ZColorwayEdit>> const colorwayEdits_;
     std::unique_ptr<ZColorSettingsEdit> settingsEdit_;
     nyx::Unique_array<nyx::ColorwayId> colorwayIds_;
     nyx::Unique_array<nyx::ColorId> plainIds_;
