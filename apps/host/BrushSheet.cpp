@@ -32,7 +32,7 @@ nyx::embedded::BrushStroke wave(float left, float middle) {
 
 } // namespace
 
-QImage brushSheet(std::vector<nyx::embedded::BrushSettings> const& brushes) {
+nyx::embedded::Image brushSheet(std::vector<nyx::embedded::BrushSettings> const& brushes) {
     int const rows = (static_cast<int>(brushes.size()) + columns - 1) / columns;
     int const width = columns * cellWidth;
     int const height = rows * cellHeight;
@@ -43,12 +43,16 @@ QImage brushSheet(std::vector<nyx::embedded::BrushSettings> const& brushes) {
         nyx::embedded::paintBrushStroke(
             pixels, brushes[i], wave(column * cellWidth, row * cellHeight + cellHeight / 2.0f));
     }
-    QImage sheet(width, height, QImage::Format_RGB32);
-    for (int y = 0; y < sheet.height(); ++y) {
-        for (int x = 0; x < sheet.width(); ++x) {
+    nyx::embedded::Image sheet{width, height, {}};
+    sheet.rgba.reserve(std::size_t{4} * static_cast<std::size_t>(width) *
+                       static_cast<std::size_t>(height));
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
             auto const [red, green, blue, alpha] = pixels.texel(x, y);
             int const paper = 255 - alpha;
-            sheet.setPixel(x, y, qRgb(red + paper, green + paper, blue + paper));
+            for (int const part : {red + paper, green + paper, blue + paper, 255}) {
+                sheet.rgba.push_back(static_cast<std::uint8_t>(part));
+            }
         }
     }
     return sheet;

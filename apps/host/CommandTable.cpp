@@ -64,8 +64,10 @@ void carryOut(Host& host, std::vector<std::string> const& words) {
     auto const [command, used] = find(words);
     if (command == nullptr) {
         std::string const start = words[0] + (words.size() > 1 ? ' ' + words[1] : std::string());
-        throw CommandError("unknown command \"" + printable(start, longestWord) +
-                           "\"; \"help\" lists them");
+        bool const isFamily = std::ranges::any_of(
+            allCommands(), [&](Command const* c) { return c->name.starts_with(words[0] + ' '); });
+        throw CommandError("unknown command \"" + printable(start, longestWord) + "\"; \"help" +
+                           (isFamily ? ' ' + words[0] : std::string()) + "\" lists them");
     }
     Arguments arguments({words.begin() + static_cast<std::ptrdiff_t>(used), words.end()});
     try {

@@ -9,7 +9,7 @@
 namespace app {
 
 zsg::IPainterBrush& currentBrush(Host& host) {
-    auto const& brush = host.state<CurrentBrush>().brush;
+    auto const& brush = host.sceneState<CurrentBrush>().brush;
     if (brush == nullptr) {
         throw CommandError("there is no brush; \"brush create\" makes one");
     }

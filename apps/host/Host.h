@@ -2,31 +2,24 @@
 
 #include "host/EventLog.h"
 
-#include "nyxembedded/MaterialManager.h"
-#include "nyxembedded/RenderTaskQueue.h"
-#include "nyxembedded/Renderer.h"
-#include "zcore/ZUndoStack.h"
+#include "nyxembedded/Host.h"
 
 #include <any>
 #include <iosfwd>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <typeindex>
 
-namespace zsg {
-class ISceneGraph;
-}
-
 namespace app {
 
-/// What an application keeps around the library: the renderer with its scene, the undo stack, the
-/// task queue, the material manager, and the root over all of them. Commands work on it.
+/// What commands work on: the embedded host (renderer, undo stack, task queue, material manager,
+/// root), a log of the events, where output goes, and what commands keep between them.
 class Host {
 public:
     /// Text of commands goes to `out`, which must outlive the host; nothing is loaded yet.
     explicit Host(std::ostream& out);
-    ~Host();
 
     /// Replaces the scene; on failure everything stays as it was and the message is returned, which
     /// is empty on success. The renderer announces the colours of the new scene at the next pump().
@@ -39,11 +32,13 @@ public:
     void setOut(std::ostream& out) { out_ = &out; }
     void showEvents(bool on) { eventsShown_ = on; }
 
-    [[nodiscard]] nyx::embedded::Renderer& renderer() { return renderer_; }
-    [[nodiscard]] ZUndoStack& undoStack() { return undoStack_; }
-    [[nodiscard]] nyx::embedded::RenderTaskQueue& taskQueue() { return taskQueue_; }
-    [[nodiscard]] zsg::ISceneMaterialManager& materialManager() { return materialManager_; }
-    [[nodiscard]] zsg::ISceneGraph& root() { return *root_; }
+    [[nodiscard]] nyx::embedded::Renderer& renderer() { return embedded_.renderer(); }
+    [[nodiscard]] ZUndoStack& undoStack() { return embedded_.undoStack(); }
+    [[nodiscard]] nyx::embedded::RenderTaskQueue& taskQueue() { return embedded_.taskQueue(); }
+    [[nodiscard]] zsg::ISceneMaterialManager& materialManager() {
+        return embedded_.materialManager();
+    }
+    [[nodiscard]] zsg::ISceneGraph& root() { return embedded_.root(); }
     [[nodiscard]] EventLog& events() { return *events_; }
 
     /// Asks whoever feeds commands to stop.
@@ -54,26 +49,34 @@ public:
     /// the host, so it may refer to nothing of the root or the scene, which loading replaces.
     template <class State>
     State& state() {
-        std::any& any = states_[std::type_index(typeid(State))];
+        return stateIn<State>(states_);
+    }
+    /// The same for what belongs to the present scene: it ends before the root does.
+    template <class State>
+    State& sceneState() {
+        return stateIn<State>(sceneStates_);
+    }
+
+private:
+    using States = std::map<std::type_index, std::any>;
+
+    template <class State>
+    static State& stateIn(States& states) {
+        std::any& any = states[std::type_index(typeid(State))];
         if (!any.has_value()) {
             any = std::make_shared<State>();
         }
         return *std::any_cast<std::shared_ptr<State>&>(any);
     }
 
-private:
-    void buildRoot();
-
     std::ostream* out_;
     bool eventsShown_ = true;
     bool endRequested_ = false;
-    nyx::embedded::Renderer renderer_;
-    ZUndoStack undoStack_;
-    nyx::embedded::RenderTaskQueue taskQueue_;
-    nyx::embedded::MaterialManager materialManager_{renderer_, &undoStack_};
-    std::unique_ptr<zsg::ISceneGraph> root_;
-    std::unique_ptr<EventLog> events_;
-    std::map<std::type_index, std::any> states_;
+    States states_;
+    // These two refer to the root of the embedded host, which tells before it ends one.
+    States sceneStates_;
+    std::optional<EventLog> events_;
+    nyx::embedded::Host embedded_;
 };
 
 } // namespace app

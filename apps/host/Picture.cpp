@@ -1,30 +1,23 @@
 #include "host/Picture.h"
 
 #include "host/Arguments.h"
+#include "host/ColorArguments.h"
+#include "host/OutputFile.h"
+#include "host/png.h"
 
-#include <QColor>
-#include <QImage>
-#include <QPainter>
-#include <QPolygonF>
+#include <QString>
 
-#include <algorithm>
-#include <fstream>
 #include <sstream>
 
 namespace app {
 
 namespace {
 
-QColor qtColor(nyxColor_rgba const& c) {
-    auto const unit = [](float v) { return v > 0 ? std::min(v, 1.0f) : 0.0f; };
-    return QColor::fromRgbF(unit(c.r), unit(c.g), unit(c.b), unit(c.a));
-}
-
 std::string paint(char const* attribute, nyxColor_rgba const& c) {
-    QColor const color = qtColor(c);
-    std::string text = std::string(attribute) + "=\"" + color.name().toStdString() + '"';
+    std::string text = std::string(attribute) + "=\"" + hexColor(c) + '"';
     if (c.a < 1) {
-        text += ' ' + std::string(attribute) + "-opacity=\"" + std::to_string(color.alphaF()) + '"';
+        float const opacity = c.a > 0 ? c.a : 0; // a NaN is none
+        text += ' ' + std::string(attribute) + "-opacity=\"" + std::to_string(opacity) + '"';
     }
     return text;
 }
@@ -88,55 +81,12 @@ std::string Picture::svg() const {
 
 void Picture::save(std::string const& path) const {
     if (path.ends_with(".png")) {
-        return savePng(path);
+        return writeOutputFile(path, pngBytes(*this));
     }
     if (!path.ends_with(".svg")) {
         throw CommandError("expected a path that ends in .svg or .png");
     }
-    std::ofstream out(path, std::ios::binary);
-    out << svg();
-    out.close();
-    if (!out) {
-        throw CommandError(path + ": cannot be written");
-    }
-}
-
-void Picture::savePng(std::string const& path) const {
-    QImage image(static_cast<int>(width_), static_cast<int>(height_), QImage::Format_ARGB32);
-    if (image.isNull()) {
-        throw CommandError("the picture is too large");
-    }
-    image.fill(Qt::white);
-    {
-        QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        for (Shape const& s : shapes_) {
-            QPolygonF points;
-            for (Point const& p : s.points) {
-                points << QPointF(p.x, p.y);
-            }
-            switch (s.kind) {
-            case Shape::Rectangle:
-                painter.fillRect(QRectF(points.first(), QSizeF(s.width, s.height)),
-                                 qtColor(s.color));
-                break;
-            case Shape::Line:
-                painter.setPen(QPen(qtColor(s.color), s.width));
-                painter.drawPolyline(points);
-                break;
-            case Shape::Circle:
-                painter.setPen(Qt::NoPen);
-                painter.setBrush(qtColor(s.color));
-                painter.drawEllipse(points.first(), s.width, s.width);
-                break;
-            case Shape::Text:
-                break;
-            }
-        }
-    }
-    if (!image.save(QString::fromStdString(path), "PNG")) {
-        throw CommandError(path + ": cannot be written");
-    }
+    writeOutputFile(path, svg());
 }
 
 } // namespace app

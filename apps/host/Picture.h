@@ -16,18 +16,6 @@ public:
         double x = 0, y = 0;
     };
 
-    Picture(double width, double height) : width_(width), height_(height) {}
-
-    void rectangle(Point corner, double width, double height, nyxColor_rgba const& fill);
-    void line(std::vector<Point> points, nyxColor_rgba const& stroke, double width = 1);
-    void circle(Point center, double radius, nyxColor_rgba const& fill);
-    void text(Point baseline, std::string text);
-
-    [[nodiscard]] std::string svg() const;
-    /// Writes a .svg or .png file; throws CommandError when that fails or the extension is another.
-    void save(std::string const& path) const;
-
-private:
     struct Shape {
         enum Kind { Rectangle, Line, Circle, Text } kind = Line;
         std::vector<Point> points;
@@ -37,8 +25,22 @@ private:
         std::string text;
     };
 
-    void savePng(std::string const& path) const;
+    Picture(double width, double height) : width_(width), height_(height) {}
 
+    void rectangle(Point corner, double width, double height, nyxColor_rgba const& fill);
+    void line(std::vector<Point> points, nyxColor_rgba const& stroke, double width = 1);
+    void circle(Point center, double radius, nyxColor_rgba const& fill);
+    void text(Point baseline, std::string text);
+
+    [[nodiscard]] double width() const { return width_; }
+    [[nodiscard]] double height() const { return height_; }
+    [[nodiscard]] std::vector<Shape> const& shapes() const { return shapes_; }
+
+    [[nodiscard]] std::string svg() const;
+    /// Writes a .svg or .png file; throws CommandError when that fails or the extension is another.
+    void save(std::string const& path) const;
+
+private:
     double width_;
     double height_;
     std::vector<Shape> shapes_;

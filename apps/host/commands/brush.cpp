@@ -3,13 +3,15 @@
 #include "host/Command.h"
 #include "host/CurrentBrush.h"
 #include "host/Host.h"
+#include "host/InputFile.h"
+#include "host/OutputFile.h"
 #include "host/ValueText.h"
+#include "host/png.h"
 
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/painting/IPainterManager.h"
 #include "zsg/values/ValueVariant.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -23,9 +25,6 @@ namespace {
 
 using zsg::Parameter;
 using zsg::Type;
-
-/// Larger files are no presets.
-constexpr qint64 longestPreset = 1 << 20;
 
 Parameter take(Host& host, Arguments& arguments) {
     QString const name = QString::fromStdString(arguments.word("a parameter"));
@@ -109,13 +108,13 @@ void create(Host& host, Arguments& arguments) {
     nyx::MaterialId const material(
         arguments.empty() ? nyx::MaterialId() : nyx::MaterialId(arguments.number("a material id")));
     arguments.done();
-    host.state<CurrentBrush>().brush =
+    host.sceneState<CurrentBrush>().brush =
         host.root().painterManager()->createBrush(static_cast<float>(size), material);
 }
 
 void reload(Host& host, Arguments&) {
     zsg::IPainterBrush const& old = currentBrush(host);
-    host.state<CurrentBrush>().brush =
+    host.sceneState<CurrentBrush>().brush =
         host.root().painterManager()->loadBrush(old.brushNode(), old.materialId());
 }
 
@@ -175,27 +174,14 @@ void save(Host& host, Arguments& arguments) {
     QString const path = QString::fromStdString(arguments.word("a path"));
     arguments.done();
     std::string const text = brushPreset(brush, QFileInfo(path).absolutePath().toStdString());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) ||
-        file.write(text.data(), static_cast<qint64>(text.size())) !=
-            static_cast<qint64>(text.size()) ||
-        !file.flush()) {
-        throw CommandError(path.toStdString() + ": " + file.errorString().toStdString());
-    }
+    writeOutputFile(path.toStdString(), text);
 }
 
 std::unique_ptr<zsg::IPainterBrush> loaded(Host& host, QString const& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw CommandError(path.toStdString() + ": " + file.errorString().toStdString());
-    }
-    QByteArray const bytes = file.read(longestPreset + 1);
+    std::string const text = readInputFile(path.toStdString(), largestPreset);
     auto brush = freshBrush(host);
     try {
-        if (bytes.size() > longestPreset) {
-            throw CommandError("larger than a preset can be");
-        }
-        setBrushPreset(*brush, bytes.toStdString(), QFileInfo(path).path().toStdString());
+        setBrushPreset(*brush, text, QFileInfo(path).path().toStdString());
     } catch (CommandError const& error) {
         throw CommandError(path.toStdString() + ": " + error.what());
     }
@@ -206,11 +192,11 @@ std::unique_ptr<zsg::IPainterBrush> loaded(Host& host, QString const& path) {
 void load(Host& host, Arguments& arguments) {
     QString const path = QString::fromStdString(arguments.word("a path"));
     arguments.done();
-    host.state<CurrentBrush>().brush = loaded(host, path);
+    host.sceneState<CurrentBrush>().brush = loaded(host, path);
 }
 
 void sheet(Host& host, Arguments& arguments) {
-    QString const path = QString::fromStdString(arguments.word("a path"));
+    std::string const path = arguments.word("a path");
     std::vector<nyx::embedded::BrushSettings> brushes;
     auto const add = [&](zsg::IPainterBrush const& brush) {
         if (auto settings =
@@ -224,9 +210,7 @@ void sheet(Host& host, Arguments& arguments) {
     for (std::string const& preset : arguments.rest()) {
         add(*loaded(host, QString::fromStdString(preset)));
     }
-    if (!brushSheet(brushes).save(path, "PNG")) {
-        throw CommandError(path.toStdString() + ": cannot be written");
-    }
+    writeOutputFile(path, pngBytes(brushSheet(brushes)));
 }
 
 constexpr Command table[] = {

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <ostream>
+#include <vector>
 
 namespace app {
 
@@ -128,9 +129,18 @@ void save(Host& host, Arguments& arguments) {
     constexpr int width = 512;
     constexpr double margin = 8;
     Picture picture(width + 2 * margin, 80);
+    std::vector<nyxColor_rgba> columns;
     for (int x = 0; x < width; ++x) {
-        picture.rectangle({margin + x, margin}, 1, 48,
-                          colorAt(stops, gradient.blend(), (static_cast<float>(x) + 0.5f) / width));
+        columns.push_back(colorAt(stops, gradient.blend(), (static_cast<float>(x) + 0.5f) / width));
+    }
+    // One rectangle for neighbours of one colour: without blending there are as many as stops.
+    for (auto first = columns.begin(); first != columns.end();) {
+        auto const end = std::find_if(first, columns.end(), [&](nyxColor_rgba const& c) {
+            return hexColor(c) != hexColor(*first) || c.a != first->a;
+        });
+        picture.rectangle({margin + static_cast<double>(first - columns.begin()), margin},
+                          static_cast<double>(end - first), 48, *first);
+        first = end;
     }
     for (ColorGradientStop const& stop : stops) {
         double const x = margin + width * static_cast<double>(stop.getLocation());

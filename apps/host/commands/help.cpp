@@ -4,15 +4,28 @@
 
 #include <algorithm>
 #include <ostream>
+#include <utility>
+#include <vector>
 
 namespace app {
 
 namespace {
 
-void printRow(std::ostream& out, std::string const& left, std::size_t width,
-              std::string_view right) {
-    out << "  " << left << std::string(left.size() < width ? width - left.size() : 1, ' ') << right
-        << '\n';
+constexpr std::size_t widestLeft = 44;
+
+// Two columns; what is too wide for the left one has a line of its own.
+void printRows(std::ostream& out,
+               std::vector<std::pair<std::string, std::string_view>> const& rows) {
+    std::size_t width = 0;
+    for (auto const& [left, right] : rows) {
+        width = std::max(width, left.size() <= widestLeft ? left.size() : 0);
+    }
+    for (auto const& [left, right] : rows) {
+        out << "  " << left
+            << (left.size() <= width ? std::string(width - left.size(), ' ')
+                                     : '\n' + std::string(width + 2, ' '))
+            << "  " << right << '\n';
+    }
 }
 
 // "undo, redo": what the commands of a family begin with.
@@ -30,9 +43,11 @@ std::string firstWords(Family const& family) {
 }
 
 void overview(std::ostream& out) {
+    std::vector<std::pair<std::string, std::string_view>> rows;
     for (Family const& family : families()) {
-        printRow(out, firstWords(family), 16, family.help);
+        rows.emplace_back(firstWords(family), family.help);
     }
+    printRows(out, rows);
     out << "\"help WORD\" lists the commands that begin with a word, \"help all\" lists all.\n";
 }
 
@@ -44,17 +59,21 @@ void help(Host& host, Arguments& arguments) {
     if (wanted.empty()) {
         return overview(host.out());
     }
-    bool any = false;
+    // "color" means the word, not "colorway" too; "colo" means all that begin so.
+    auto const hasWords = [&](Command const* command) {
+        return command->name == wanted || command->name.starts_with(wanted + ' ');
+    };
+    bool const isWords = std::ranges::any_of(allCommands(), hasWords);
+    std::vector<std::pair<std::string, std::string_view>> rows;
     for (Command const* command : allCommands()) {
-        if (wanted == "all" || command->name.starts_with(wanted)) {
-            printRow(host.out(),
-                     std::string(command->name) + (command->arguments.empty() ? "" : " ") +
-                         std::string(command->arguments),
-                     44, command->help);
-            any = true;
+        if (wanted == "all" || (isWords ? hasWords(command) : command->name.starts_with(wanted))) {
+            rows.emplace_back(std::string(command->name) + (command->arguments.empty() ? "" : " ") +
+                                  std::string(command->arguments),
+                              command->help);
         }
     }
-    if (!any) {
+    printRows(host.out(), rows);
+    if (rows.empty()) {
         throw CommandError("no command begins with \"" + printable(wanted, longestWord) + "\"");
     }
 }

@@ -1,6 +1,7 @@
 #include "host/Command.h"
 #include "host/InputFile.h"
 #include "host/NamedValues.h"
+#include "host/OutputFile.h"
 #include "host/Picture.h"
 #include "host/printedBy.h"
 
@@ -8,7 +9,6 @@
 #include "zsg/values/WeavePattern.h"
 
 #include <algorithm>
-#include <fstream>
 
 namespace app {
 
@@ -184,13 +184,7 @@ void save(Host& host, Arguments& arguments) {
     std::string const path = arguments.word("a path");
     arguments.done();
     if (path.ends_with(".json")) {
-        std::ofstream out(path, std::ios::binary);
-        out << weave.toJson().toStdString();
-        out.close();
-        if (!out) {
-            throw CommandError(path + ": cannot be written");
-        }
-        return;
+        return writeOutputFile(path, weave.toJson().toStdString());
     }
     if (std::max(weave.numWarp(), weave.numWeft()) > largestDrawnSide) {
         throw CommandError("the weave is too large to draw");

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace app {
+
+/// Writes a file (path in UTF-8) as a whole or not at all: on failure what had the name before is
+/// as it was. Throws CommandError, also when the disk is full.
+void writeOutputFile(std::string const& path, std::string_view bytes);
+
+} // namespace app
