@@ -1,0 +1,126 @@
+#include "zsg/materials/ZCMFSchema.h"
+
+#include "support/sourceDir.h"
+
+#include <QTextStream>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <valijson/adapters/nlohmann_json_adapter.hpp>
+#include <valijson/schema.hpp>
+#include <valijson/schema_parser.hpp>
+#include <valijson/validator.hpp>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+
+using nlohmann::json;
+using zsg::ZCMFSchema;
+
+namespace {
+
+std::filesystem::path const source = sourceDir();
+
+std::string contents(std::filesystem::path const& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    EXPECT_TRUE(in) << path;
+    return text.str();
+}
+
+ZCMFSchema::LoadInfo load(std::string const& text) {
+    QByteArray const bytes = QByteArray::fromStdString(text);
+    QTextStream in(bytes);
+    return ZCMFSchema::load(in);
+}
+
+/// What docs/cmf.schema.json says of a text; one that is no JSON is not valid.
+bool isValid(std::string const& text) {
+    static json const document = json::parse(contents(source / "docs/cmf.schema.json"));
+    valijson::Schema schema;
+    valijson::SchemaParser parser;
+    parser.populateSchema(valijson::adapters::NlohmannJsonAdapter(document), schema);
+    json const value = json::parse(text, nullptr, false);
+    valijson::Validator validator;
+    return !value.is_discarded() &&
+           validator.validate(schema, valijson::adapters::NlohmannJsonAdapter(value), nullptr);
+}
+
+/// The part of docs/formats.md on CMF schemas.
+std::string description() {
+    std::string const text = contents(source / "docs/formats.md");
+    std::size_t const begin = text.find("## CMF schema");
+    return text.substr(begin, text.find("\n## ", begin) - begin);
+}
+
+TEST(CMFFormat, LoaderSchemaFileAndDocumentAgreeOnTheExamples) {
+    std::map<std::string, int> files;
+    for (auto const& entry :
+         std::filesystem::recursive_directory_iterator(source / "examples/cmf")) {
+        if (entry.path().extension() != ".json") {
+            continue;
+        }
+        std::string const text = contents(entry.path());
+        std::string const folder = entry.path().parent_path().filename();
+        ZCMFSchema::LoadInfo const info = load(text);
+        ++files[folder];
+        EXPECT_EQ(info.status == 0, folder != "bad") << entry << info.message.toStdString();
+        // A validator cannot compare names.
+        bool const twoOfAName = info.message.startsWith("Two attributes");
+        EXPECT_EQ(isValid(text), folder == "good" || twoOfAName) << entry;
+        if (folder == "good") {
+            EXPECT_TRUE(info.warnings.isEmpty()) << entry;
+            QString saved;
+            QTextStream out(&saved);
+            info.schema->save(out);
+            EXPECT_EQ(saved.toStdString(), text) << entry << " is not as it would be saved";
+        }
+        if (folder == "bad") {
+            std::string message = info.message.toStdString();
+            message = message.substr(0, message.find(": ")); // what follows is the file's own
+            EXPECT_NE(description().find("| " + message), std::string::npos) << message;
+        }
+    }
+    EXPECT_GE(files["good"], 3);
+    EXPECT_GE(files["odd"], 2);
+    EXPECT_GE(files["bad"], 11);
+}
+
+TEST(CMFFormat, TheDocumentDescribesWhatTheSchemaFileDescribes) {
+    std::string const text = description();
+    std::size_t const begin = text.find("```json\n") + 8;
+    std::string const example = text.substr(begin, text.find("```", begin) - begin);
+    EXPECT_TRUE(isValid(example));
+    ZCMFSchema::LoadInfo const info = load(example);
+    ASSERT_TRUE(info.schema) << info.message.toStdString();
+    QString saved;
+    QTextStream out(&saved);
+    info.schema->save(out);
+    EXPECT_EQ(saved.toStdString(), example) << "saving writes this to the letter";
+
+    json const schema = json::parse(contents(source / "docs/cmf.schema.json"));
+    json const& attribute = schema["definitions"]["attribute"];
+    std::size_t keys = 0;
+    for (auto const& [suffix, object] :
+         {std::pair<std::string, json>{"", schema}, {" of an attribute", attribute}}) {
+        EXPECT_EQ(object["required"].size(), object["properties"].size());
+        for (auto const& [key, value] : object["properties"].items()) {
+            std::string const type = value.contains("const") ? "const " + value["const"].dump()
+                                                             : value["type"].get<std::string>();
+            EXPECT_NE(text.find("| \"" + key + "\"" + suffix + " | " + type), std::string::npos)
+                << key;
+            ++keys;
+        }
+    }
+    std::size_t rows = 0;
+    for (std::size_t at = 0; (at = text.find("\n| \"", at)) != std::string::npos; ++at) {
+        ++rows;
+    }
+    EXPECT_EQ(rows, keys);
+}
+
+} // namespace
