@@ -11,11 +11,8 @@ namespace app {
 /// memory of a small machine can take.
 inline constexpr std::uintmax_t largestScene = std::uintmax_t{1} << 30;
 inline constexpr std::uintmax_t largestWeave = std::uintmax_t{1} << 26;
-<<<<<<< ours
 inline constexpr std::uintmax_t largestPreset = std::uintmax_t{1} << 20;
-=======
 inline constexpr std::uintmax_t largestCMFSchema = std::uintmax_t{1} << 27;
->>>>>>> theirs
 inline constexpr std::uintmax_t largestMeasurement = std::uintmax_t{1} << 24;
 
 /// Throws CommandError unless the path (UTF-8) names a regular file of 1 to `largest` bytes. The
