@@ -75,7 +75,7 @@ void ZCreateLightLayerCommand::redoIn(ILightLayerApi& api) {
     }
 }
 
-ZDeleteLightLayerCommand::ZDeleteLightLayerCommand(GuardedPointer<ILightLayerApi> api,
+ZDeleteLightLayerCommand::ZDeleteLightLayerCommand(GuardedPointer<ILightLayerApi> const& api,
                                                    nyx::LightLayerId layer)
     : LightLayerCommand(api, ZCommandId::EditLightLayer, deleteText(api.get(), layer)),
       layer_(layer) {}

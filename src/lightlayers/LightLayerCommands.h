@@ -53,7 +53,7 @@ private:
 /// Deletes a layer. Undo brings it back with the lights that were listed in it.
 class ZDeleteLightLayerCommand final : public LightLayerCommand {
 public:
-    ZDeleteLightLayerCommand(GuardedPointer<ILightLayerApi> api, nyx::LightLayerId layer);
+    ZDeleteLightLayerCommand(GuardedPointer<ILightLayerApi> const& api, nyx::LightLayerId layer);
 
 private:
     void undoIn(ILightLayerApi& api) override;

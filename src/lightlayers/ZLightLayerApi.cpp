@@ -111,8 +111,7 @@ ZLightLayerApi::layersOfItems(nyx::Span<nyx::GroupItemId> items) const {
         }
     }
     std::ranges::sort(layers);
-    auto const repeats = std::ranges::unique(layers);
-    layers.erase(repeats.begin(), repeats.end());
+    layers.erase(std::unique(layers.begin(), layers.end()), layers.end());
     return layers;
 }
 

@@ -50,8 +50,7 @@ bool isListed(nyxGroup_item const& item) {
 template <class Value>
 void sortUnique(std::vector<Value>& values) {
     std::ranges::sort(values);
-    auto const repeats = std::ranges::unique(values);
-    values.erase(repeats.begin(), repeats.end());
+    values.erase(std::unique(values.begin(), values.end()), values.end());
 }
 
 } // namespace
