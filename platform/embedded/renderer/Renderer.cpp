@@ -351,7 +351,7 @@ std::string Renderer::loadSceneText(std::string const& json,
 }
 
 std::string Renderer::saveScene(std::string const& path) {
-    std::string error = saveSceneFile(impl_->scene, path);
+    std::string error = saveSceneFile(impl_->scene, path, impl_->scene.faults().failSaveStep);
     if (error.empty()) {
         impl_->api.setUnmodified();
     }

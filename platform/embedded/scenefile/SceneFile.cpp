@@ -1,5 +1,6 @@
 #include "scenefile/SceneFile.h"
 
+#include "nyxembedded/writeFile.h"
 #include "scenefile/SceneReader.h"
 #include "scenefile/SceneWriter.h"
 #include "scenefile/StrictJson.h"
@@ -8,7 +9,6 @@
 #include <QByteArray>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QString>
 
 namespace nyx::embedded {
@@ -48,18 +48,8 @@ std::string loadSceneFile(nyxScene& scene, std::string const& path) {
 
 std::string saveSceneText(nyxScene const& scene) { return writeScene(scene); }
 
-std::string saveSceneFile(nyxScene const& scene, std::string const& path) {
-    std::string const text = writeScene(scene);
-    QSaveFile file(QString::fromStdString(path));
-    // A failed write is remembered by the file and makes commit() refuse.
-    if (!file.open(QIODevice::WriteOnly)) {
-        return problem(path, file.errorString());
-    }
-    file.write(text.data(), static_cast<qint64>(text.size()));
-    if (!file.commit()) {
-        return problem(path, file.errorString());
-    }
-    return {};
+std::string saveSceneFile(nyxScene const& scene, std::string const& path, int failingStep) {
+    return writeFile(*failingTarget(diskTarget(path), failingStep), path, writeScene(scene));
 }
 
 } // namespace nyx::embedded

@@ -16,7 +16,8 @@ namespace nyx::embedded {
 /// The JSON text of a scene, whatever is in it; loading it gives back the same scene.
 [[nodiscard]] std::string saveSceneText(nyxScene const& scene);
 /// Writes that text to a file beside `path` and renames it, so that a save that fails half-way
-/// leaves the file of the last one.
-[[nodiscard]] std::string saveSceneFile(nyxScene const& scene, std::string const& path);
+/// leaves the file of the last one. `failingStep` is failingTarget()'s.
+[[nodiscard]] std::string saveSceneFile(nyxScene const& scene, std::string const& path,
+                                        int failingStep);
 
 } // namespace nyx::embedded

@@ -9,6 +9,7 @@ struct Faults {
     bool noScene = false;           ///< nyxRT_api::scene() yields null
     bool holdNotifications = false; ///< nothing is delivered until this is off again
     bool noSettings = false;        ///< color_settings_params() yields null
+    int failSaveStep = 0;           ///< step of saving that fails, see failingTarget(); 0: none
     bool noPainter = false;         ///< the painter factory makes none
 };
 
