@@ -51,6 +51,10 @@ TEST(HashVariant, ValuesAreFixed) {
     EXPECT_EQ(hashOf(WeavePattern()), 0x41637c98e25a496bu);
     EXPECT_EQ(hashOf(Enumerable()), 0x9e377eaau);
 
+    nyxMatrix nearly = sample<nyxMatrix>();
+    nearly.m[3] = 4.0000000000001;
+    EXPECT_EQ(hashOf(nearly), hashOf(sample<nyxMatrix>())) << "the lowest bits are left out";
+
     // A multi-colour is hashed by all its colours, whichever is active.
     EXPECT_EQ(hashOf(test::multiColor()), 0x5b9b8060a61c4805u);
 }
