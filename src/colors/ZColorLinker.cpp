@@ -36,8 +36,8 @@ int dropRepeated(std::vector<ZColorExt::ZColorWithId>& elements, int active) {
     return newActive;
 }
 
-/// Finds names for elements that are not in the scene yet: the renderer does not know the names of
-/// the others, nor the one that the multi-colour itself will get.
+// Finds names for elements that are not in the scene yet: the renderer does not know the names of
+// the others, nor the one that the multi-colour itself will get.
 class NewNames {
 public:
     explicit NewNames(IColorLinker& linker) : linker_(linker) {}
@@ -52,7 +52,7 @@ public:
         }
     }
 
-    /// A name like `name` that nothing has; empty when there is none.
+    // A name like `name` that nothing has; empty when there is none.
     std::string take(std::string const& name) {
         std::string candidate = linker_.uniqueColorName(name);
         if (!candidate.empty() && taken_.contains(candidate)) {
@@ -69,7 +69,7 @@ public:
     }
 
 private:
-    /// Without the blank and number at the end.
+    // Without the blank and number at the end.
     static std::string baseOf(std::string const& name) {
         std::size_t const blank = name.find_last_not_of("0123456789");
         bool const isNumbered =

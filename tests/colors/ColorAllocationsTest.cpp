@@ -132,4 +132,15 @@ TEST_F(ColorAllocationCounts, DoNotGrowWithTheUndoStackNorWithTheColorways) {
     removal(2);
     std::size_t const few = removal(2);
     EXPECT_LE(removal(2000), few + 10);
+
+    // Binding one place does not read all the others.
+    auto const linking = [&](unsigned places) {
+        ColorId const from = color("From");
+        nyx::MaterialId const material = renderer.addMaterial("Material");
+        for (unsigned i = 0; i < places; ++i) {
+            renderer.bindColor(material, i, "a parameter with a long name", from);
+        }
+        return cost([&] { edit.linkColor(from, red); });
+    };
+    EXPECT_LE(linking(1000), 15 * linking(100));
 }

@@ -6,8 +6,7 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-#include <optional>
+#include <map>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -72,23 +71,26 @@ public:
 
     void beginEdit() override {
         renderer_.journal().write("material_begin_edit", material_);
+        if (open_) {
+            return;
+        }
+        // Read once: a material may have very many places, and the edit may bind them all.
+        std::map<zsg::MaterialColorPlace, Binding> bindings;
+        if (auto const material = renderer_.material(material_)) {
+            for (PlaceInfo const& place : material->places) {
+                bindings.insert_or_assign({place.node, place.parameter},
+                                          Binding{place.color, place.color});
+            }
+        }
+        bindings_ = std::move(bindings);
         open_ = true;
     }
 
     void bindColor(zsg::MaterialColorPlace const& place, nyx::ColorId color) override {
         renderer_.journal().write("material_bind_color", material_, place.node, place.parameter,
                                   color);
-        auto const bound = boundColor(place);
-        if (!open_ || !bound) {
-            return;
-        }
-        auto const known =
-            std::find_if(changes_.begin(), changes_.end(),
-                         [&](Rebinding const& change) { return change.place == place; });
-        if (known == changes_.end()) {
-            changes_.push_back({place, *bound, color});
-        } else {
-            known->after = color;
+        if (auto const binding = bindings_.find(place); binding != bindings_.end()) {
+            binding->second.after = color;
         }
     }
 
@@ -97,9 +99,12 @@ public:
         if (!std::exchange(open_, false)) {
             return;
         }
-        std::vector<Rebinding> changes = std::exchange(changes_, {});
-        std::erase_if(changes,
-                      [](Rebinding const& change) { return change.before == change.after; });
+        std::vector<Rebinding> changes;
+        for (auto const& [place, colors] : std::exchange(bindings_, {})) {
+            if (colors.before != colors.after) {
+                changes.push_back({place, colors.before, colors.after});
+            }
+        }
         auto const material = renderer_.material(material_);
         if (changes.empty() || !material) {
             return;
@@ -116,23 +121,17 @@ public:
     }
 
 private:
-    /// Nothing for an unknown place.
-    [[nodiscard]] std::optional<nyx::ColorId> boundColor(zsg::MaterialColorPlace const& at) const {
-        if (auto const material = renderer_.material(material_)) {
-            for (PlaceInfo const& place : material->places) {
-                if (place.node == at.node && place.parameter == at.parameter) {
-                    return place.color;
-                }
-            }
-        }
-        return std::nullopt;
-    }
+    struct Binding {
+        nyx::ColorId before;
+        nyx::ColorId after;
+    };
 
     Renderer& renderer_;
     nyx::MaterialId material_;
     ZUndoStack* undoStack_;
     bool open_ = false;
-    std::vector<Rebinding> changes_;
+    /// Of the open edit: what each place was bound to when it began, and is to be bound to.
+    std::map<zsg::MaterialColorPlace, Binding> bindings_;
 };
 
 } // namespace
