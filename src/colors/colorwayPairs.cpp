@@ -9,11 +9,14 @@ std::optional<MultiColorPairs> distinctPairs(nyx::Span<MultiColorPair> pairs) {
     MultiColorPairs sorted(pairs.begin(), pairs.end());
     // Stable: of one multi-colour the first pair stays in front.
     std::ranges::stable_sort(sorted, {}, &MultiColorPair::multiColor);
-    auto const repeated = std::ranges::unique(sorted, {}, &MultiColorPair::multiColor);
-    if (repeated.empty()) {
+    auto const repeated = std::unique(sorted.begin(), sorted.end(),
+                                      [](MultiColorPair const& a, MultiColorPair const& b) {
+                                          return a.multiColor == b.multiColor;
+                                      });
+    if (repeated == sorted.end()) {
         return std::nullopt;
     }
-    sorted.erase(repeated.begin(), repeated.end());
+    sorted.erase(repeated, sorted.end());
     return sorted;
 }
 
