@@ -1,13 +1,13 @@
 #include "host/ColorArguments.h"
 
 #include "host/Host.h"
+#include "host/idArgument.h"
 #include "host/printable.h"
 
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/ISceneGraph.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <ostream>
@@ -15,24 +15,6 @@
 namespace app {
 
 namespace {
-
-template <class Id, class Find>
-Id idOf(std::string const& word, char const* expected, Find const& find) {
-    bool const asIs = word.starts_with('=');
-    std::uint32_t number = 0;
-    char const* const begin = word.data() + (asIs ? 1 : 0);
-    char const* const end = word.data() + word.size();
-    auto const [last, error] = std::from_chars(begin, end, number);
-    bool const isNumber = error == std::errc() && last == end;
-    if (asIs && isNumber) {
-        return Id(number);
-    }
-    Id const id = find(word, isNumber ? Id(number) : Id());
-    if (!id.isValid()) {
-        throw CommandError("the scene has no " + std::string(expected) + " \"" + word + "\"");
-    }
-    return id;
-}
 
 nyx::ColorId colorOf(Host& host, std::string const& word) {
     return idOf<nyx::ColorId>(word, "colour", [&](std::string const& name, nyx::ColorId id) {

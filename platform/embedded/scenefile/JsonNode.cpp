@@ -42,8 +42,8 @@ std::string JsonNode::place() const {
     if (parent_ == nullptr) {
         return "the file";
     }
-    std::string const token =
-        parent_->value_.is_array() ? "/" + std::to_string(index_) : pointerToken(std::string(key_));
+    std::string const token = parent_->value_.is_array() ? std::string("/") + std::to_string(index_)
+                                                         : pointerToken(std::string(key_));
     return parent_->parent_ == nullptr ? token : parent_->place() + token;
 }
 

@@ -1,0 +1,63 @@
+#include "host/Command.h"
+#include "host/Host.h"
+#include "host/LightArguments.h"
+
+#include "zsg/lightlayers/ILightLayerApi.h"
+#include "zsg/lightlayers/ILightLayerController.h"
+
+#include <ostream>
+
+namespace app {
+
+namespace {
+
+void list(Host& host, Arguments&) {
+    for (nyx::GroupItemId const id : host.renderer().items()) {
+        auto const item = host.renderer().item(id);
+        if (item->isLight) {
+            host.out() << "  " << itemLine(host, id)
+                       << (item->parent.isValid()
+                               ? " in " + host.renderer().item(item->parent)->name
+                               : "")
+                       << ", layer " << layerLine(host, item->lightLayer)
+                       << (item->isUnlisted ? ", unlisted" : "") << '\n';
+        }
+    }
+}
+
+void layers(Host& host, Arguments& arguments) {
+    for (nyx::LightLayerId const id : lightLayers(host).layersOfItems(takeItems(host, arguments))) {
+        host.out() << "  " << layerLine(host, id) << '\n';
+    }
+}
+
+void assign(Host& host, Arguments& arguments) {
+    nyx::LightLayerId const layer = takeLayer(host, arguments);
+    lightLayerController(host).setItemsLightLayer(layer, takeItems(host, arguments));
+}
+
+void moveToNewLayer(Host& host, Arguments& arguments) {
+    lightLayers(host).moveLightsToNewLayer(takeLights(host, arguments));
+}
+
+void unlisted(Host& host, Arguments& arguments) {
+    bool const on = arguments.onOff();
+    for (nyx::ObjectId const light : takeLights(host, arguments)) {
+        host.renderer().setUnlisted(light, on);
+    }
+}
+
+constexpr Command table[] = {
+    {"light list", "", "list the scene's lights", list},
+    {"light layers", "ITEM...", "show the layers of lights and of what is in groups", layers},
+    {"light assign", "LAYER ITEM...", "put lights, and all lights of groups, into a layer", assign},
+    {"light new", "LIGHT...", "move lights of layer 1 to a new layer (no undo)", moveToNewLayer},
+    {"light unlisted", "on|off LIGHT...", "leave lights out of lists, on the renderer's side",
+     unlisted},
+};
+
+} // namespace
+
+Family lightFamily() { return {"lights, and the layers that they are in", table}; }
+
+} // namespace app

@@ -1,0 +1,131 @@
+#include "host/Command.h"
+#include "host/Host.h"
+#include "host/LightArguments.h"
+#include "host/LightMatrix.h"
+#include "host/Picture.h"
+#include "host/printedBy.h"
+
+#include "zsg/lightlayers/ILightLayerApi.h"
+#include "zsg/lightlayers/ILightLayerController.h"
+
+#include <ostream>
+
+namespace app {
+
+namespace {
+
+void printLayer(Host& host, nyx::LightLayerId layer) {
+    if (!layer.isValid()) {
+        throw CommandError("no light layer could be made");
+    }
+    host.out() << "  " << layerLine(host, layer) << '\n';
+}
+
+void list(Host& host, Arguments&) {
+    zsg::ILightLayerApi const& api = lightLayers(host);
+    for (nyx::LightLayerId const id : api.layers()) {
+        std::size_t const lights = api.lights(id).size();
+        host.out() << "  " << layerLine(host, id) << ": " << lights
+                   << (lights == 1 ? " light\n" : " lights\n");
+    }
+}
+
+void show(Host& host, Arguments& arguments) {
+    nyx::LightLayerId const layer = takeLayer(host, arguments);
+    arguments.done();
+    zsg::ILightLayerApi const& api = lightLayers(host);
+    host.out() << "  " << layerLine(host, layer) << '\n';
+    for (nyx::ObjectId const light : api.lights(layer)) {
+        host.out() << "    " << itemLine(host, nyx::GroupItemId(light.toUint())) << '\n';
+    }
+}
+
+void items(Host& host, Arguments& arguments) {
+    nyx::LightLayerId const layer = takeLayer(host, arguments);
+    arguments.done();
+    for (nyx::ObjectId const object : lightLayers(host).getLayerItems(layer)) {
+        host.out() << "  " << itemLine(host, nyx::GroupItemId(object.toUint())) << '\n';
+    }
+}
+
+void create(Host& host, Arguments& arguments) {
+    std::string const name = arguments.word("a name");
+    arguments.done();
+    lightLayers(host);
+    printLayer(host, lightLayerController(host).createLayer(name));
+}
+
+void remove(Host& host, Arguments& arguments) {
+    nyx::LightLayerId const layer = takeLayer(host, arguments);
+    arguments.done();
+    lightLayerController(host).deleteLayer(layer);
+}
+
+void addLights(Host& host, Arguments& arguments) {
+    nyx::LightLayerId const layer = takeLayer(host, arguments);
+    lightLayerController(host).addLightsToLayer(layer, takeLights(host, arguments));
+}
+
+void removeLights(Host& host, Arguments& arguments) {
+    nyx::LightLayerId const layer = takeLayer(host, arguments);
+    lightLayerController(host).removeLightsFromLayer(layer, takeLights(host, arguments));
+}
+
+void clone(Host& host, Arguments& arguments) {
+    nyx::LightLayerId const layer = takeLayer(host, arguments);
+    arguments.done();
+    printLayer(host, lightLayers(host).cloneLayer(layer));
+}
+
+void name(Host& host, Arguments& arguments) {
+    nyx::LightLayerId const layer = takeLayer(host, arguments);
+    std::string const text = arguments.word("a name");
+    arguments.done();
+    lightLayers(host).setLayerName(layer, text);
+}
+
+void flags(Host& host, Arguments& arguments) {
+    nyx::LightLayerId const layer = takeLayer(host, arguments);
+    std::uint32_t const bits = arguments.number("flags");
+    arguments.done();
+    lightLayerController(host).setLayerFlags(layer, nyx::Flags<layerFlags>::fromBits(bits));
+}
+
+void sync(Host& host, Arguments&) { lightLayerController(host).lightLayerApi()->sync(); }
+
+void dump(Host& host, Arguments&) {
+    zsg::ILightLayerApi const& api = lightLayers(host);
+    host.out() << printedBy([&] { api.dump(); });
+}
+
+void matrix(Host& host, Arguments&) { host.out() << LightMatrix(host).text(); }
+
+void save(Host& host, Arguments& arguments) {
+    std::string const path = arguments.word("a file");
+    arguments.done();
+    LightMatrix(host).picture().save(path);
+}
+
+constexpr Command table[] = {
+    {"lightlayer list", "", "list light layers", list},
+    {"lightlayer show", "LAYER", "show a layer and its lights as they are read", show},
+    {"lightlayer items", "LAYER", "list what the scene has in a layer now", items},
+    {"lightlayer matrix", "", "show which light is in which layer", matrix},
+    {"lightlayer save", "PATH", "draw that (.svg, .png)", save},
+    {"lightlayer dump", "", "print the library's own dump", dump},
+    {"lightlayer create", "NAME", "make a layer", create},
+    {"lightlayer delete", "LAYER", "delete a layer; its lights go to layer 1", remove},
+    {"lightlayer add", "LAYER LIGHT...", "add lights to a layer (an inverted one: take out)",
+     addLights},
+    {"lightlayer remove", "LAYER LIGHT...", "take lights out (an inverted one: add)", removeLights},
+    {"lightlayer clone", "LAYER", "make a layer like another (no undo)", clone},
+    {"lightlayer name", "LAYER NAME", "rename a layer (no undo)", name},
+    {"lightlayer flags", "LAYER FLAGS", "set flags: 1 inverted, 16 deleted (no undo)", flags},
+    {"lightlayer sync", "", "read the scene's layers again", sync},
+};
+
+} // namespace
+
+Family lightlayerFamily() { return {"light layers: look at them and edit them", table}; }
+
+} // namespace app
