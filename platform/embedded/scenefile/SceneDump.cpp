@@ -133,6 +133,25 @@ void append(std::string& out, GroupItem const& item, LightLayers const& layers) 
     out += '\n';
 }
 
+/// Of what is painted on a layer the number of tiles.
+void append(std::string& out, Surface const& surface) {
+    SurfaceInfo const info = surface.info();
+    appendHead(out, "surface", idText(info.id), info.name);
+    out.append(1, ' ').append(std::to_string(info.resolution));
+    out.append(info.deleted ? " deleted" : "");
+    out.append(" edit ").append(std::to_string(info.editLayer)).append(1, '\n');
+    for (auto const& [layer, pixels] : surface.layersWithPixels()) {
+        appendHead(out, "  layer", std::to_string(layer.id), layer.name);
+        out.append(" blend ").append(std::to_string(static_cast<int>(layer.mode)));
+        out.append(layer.deleted ? " deleted" : "").append(layer.visible ? "" : " hidden");
+        nyxColor_rgba const& ground = layer.background;
+        for (float const part : {ground.r, ground.g, ground.b, ground.a}) {
+            out.append(1, ' ').append(numberText(part));
+        }
+        out.append(" tiles ").append(std::to_string(pixels.tileCount())).append(1, '\n');
+    }
+}
+
 } // namespace
 
 std::string dumpScene(nyxScene const& scene) {
@@ -149,6 +168,9 @@ std::string dumpScene(nyxScene const& scene) {
         append(out, id, *layers.find(id));
     }
     scene.forEachItem([&](GroupItem const& item) { append(out, item, layers); });
+    for (Surface const* const surface : scene.surfaces().all()) {
+        append(out, *surface);
+    }
     return out;
 }
 

@@ -1,6 +1,7 @@
 #include "scenefile/SceneReader.h"
 
 #include "scenefile/JsonNode.h"
+#include "scenefile/SurfaceSection.h"
 #include "store/Scene.h"
 
 #include <cstdint>
@@ -243,7 +244,8 @@ void readScene(nlohmann::json const& document, nyxScene& scene) {
     // Before the keys, because another version has other keys.
     readHeader(file);
     file.checkObject({"format", "version", "unitScale", "nextIds", "colors", "colorways",
-                      "settings", "materials", "environmentLightMask", "lightLayers", "hierarchy"});
+                      "settings", "materials", "environmentLightMask", "lightLayers", "hierarchy",
+                      "surfaces"});
 
     if (auto const scale = file.find("unitScale")) {
         if (scale->number() < 0) {
@@ -261,16 +263,18 @@ void readScene(nlohmann::json const& document, nyxScene& scene) {
         scene.lightLayers().setEnvironmentMask(mask->word());
     }
     readSection(file, "hierarchy", scene, readItem);
+    readSection(file, "surfaces", scene, readSurface);
     if (auto const settings = file.find("settings")) {
         settings->checkObject({"activeColorway"});
         scene.setActiveColorway(readReference<nyx::ColorwayId>(*settings, "activeColorway"));
     }
     if (auto const next = file.find("nextIds")) {
-        next->checkObject({"color", "colorway", "material", "item"});
+        next->checkObject({"color", "colorway", "material", "item", "surface"});
         scene.skipIdsBelow(readNextId(*next, "color", scene.nextColorId()),
                            readNextId(*next, "colorway", scene.nextColorwayId()),
                            readNextId(*next, "material", scene.nextMaterialId()),
                            readNextId(*next, "item", scene.nextItemId()));
+        scene.surfaces().skipIdsBelow(readNextId(*next, "surface", scene.surfaces().nextId()));
     }
 }
 

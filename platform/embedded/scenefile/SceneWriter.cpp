@@ -1,5 +1,6 @@
 #include "scenefile/SceneWriter.h"
 
+#include "scenefile/SurfaceSection.h"
 #include "store/Scene.h"
 #include "store/jsonText.h"
 
@@ -210,6 +211,9 @@ std::string writeScene(nyxScene const& scene) {
         line.value("colorway", scene.nextColorwayId());
         line.value("material", scene.nextMaterialId());
         line.value("item", scene.nextItemId());
+        if (scene.surfaces().nextId().toUint() > 1) {
+            line.value("surface", scene.surfaces().nextId());
+        }
     }
     {
         Section section(out, "colors");
@@ -236,6 +240,12 @@ std::string writeScene(nyxScene const& scene) {
     {
         Section section(out, "hierarchy");
         scene.forEachItem([&](GroupItem const& item) { write(section.next(), item, layers); });
+    }
+    if (auto const surfaces = scene.surfaces().all(); !surfaces.empty()) {
+        Section section(out, "surfaces");
+        for (Surface const* const surface : surfaces) {
+            appendSurface(section.next(), *surface);
+        }
     }
     out += "\n}\n";
     return out;
