@@ -22,6 +22,9 @@ void checkInputFile(std::string const& path, std::uintmax_t largest) {
     std::error_code error;
     std::filesystem::file_status const status = std::filesystem::status(name, error);
     if (!std::filesystem::exists(status)) {
+        if (!error) { // not every system calls a missing file an error
+            error = std::make_error_code(std::errc::no_such_file_or_directory);
+        }
         refuse(path, "cannot be opened: " + error.message());
     }
     if (std::filesystem::is_directory(status)) {

@@ -6,18 +6,9 @@
 #include "host/LineReader.h"
 #include "support/sourceDir.h"
 
-#include "zsg/values/pathFromUtf8.h"
-
-#include <QTemporaryDir>
 #include <gmock/gmock.h>
 
-#include <filesystem>
-#include <fstream>
 #include <sstream>
-
-#ifndef _WIN32
-    #include <sys/stat.h>
-#endif
 
 namespace {
 
@@ -48,7 +39,8 @@ TEST_F(InterpreterTest, FailuresNameTheLineAndEndTheScriptUnlessItKeepsGoing) {
     EXPECT_EQ(errors.str(), "test.zsg:2: unknown command \"foo bar\"; \"help\" lists them\n");
     errors.str("");
 
-    std::string const tooLong(app::longestLine + 5, 'x');
+    std::string const tooLong(app::longestLine + 1, '#');
+    EXPECT_EQ(script(tooLong.substr(1)), 0) << "the longest line, a comment";
     EXPECT_EQ(
         script("undo\ncolor name Ivory\ncolor name Nobody X\nhelp \x80\ncolor list plain all\n" +
                    tooLong + "\nhistory goto 99\nexpect undo 0\n",
@@ -130,39 +122,6 @@ TEST_F(InterpreterTest, AWordTooManyStopsACommandBeforeItActs) {
     EXPECT_EQ(state(), before);
     EXPECT_EQ(script("weave make w twill four\nweave read w /nowhere\n", true), 2);
     EXPECT_EQ(state(), before) << "what had the name is kept";
-}
-
-TEST_F(InterpreterTest, WholeFilesAreReadFromRegularFilesOnly) {
-    QTemporaryDir const folder;
-    std::string const path = folder.path().toStdString() + "/F\xC3\xBC\xC3\x9F"
-                                                           "e ";
-    auto const refused = [&](std::string const& command, std::string const& name,
-                             std::string const& why) {
-        EXPECT_EQ(script("expect failure \"" + name + ": " + why + "\" " + command + " \"" + path +
-                         name + "\"\n"),
-                  0)
-            << errors.str();
-    };
-    std::ofstream(zsg::pathFromUtf8(path + "empty.json"));
-    refused("scene load", "empty.json", "is empty");
-    refused("weave read w", "missing.json", "cannot be opened");
-    for (auto const& [command, name, mebibytes] :
-         {std::tuple("scene load", "big.json", 1024u), std::tuple("weave read w", "big.weave", 64u),
-          std::tuple("ior load i", "big.nk", 16u), std::tuple("ior lint", "lint.nk", 16u)}) {
-        std::ofstream(zsg::pathFromUtf8(path + name));
-        std::filesystem::resize_file(zsg::pathFromUtf8(path + name),
-                                     (std::uintmax_t{mebibytes} << 20) + 1);
-        refused(command, name, "holds more than " + std::to_string(mebibytes) + " MiB");
-    }
-#ifndef _WIN32
-    ASSERT_EQ(::mkfifo((path + "pipe.nk").c_str(), 0600), 0);
-    for (char const* const command : {"scene load", "weave read w", "ior load i", "ior lint"}) {
-        refused(command, "pipe.nk", "is no regular file"); // opening it would wait for ever
-    }
-#endif
-    std::ofstream(zsg::pathFromUtf8(path + "glass.nk")) << "2 400 700 2\n1.5 0\n1.4 0\n";
-    EXPECT_EQ(script("ior load glass \"" + path + "glass.nk\"\nexpect output \"2 samples\"\n"), 0)
-        << errors.str();
 }
 
 TEST_F(InterpreterTest, NamesReachTheTerminalAsTextAndColoursAsBlocks) {

@@ -130,6 +130,7 @@ void save(Host& host, Arguments& arguments) {
     constexpr double margin = 8;
     Picture picture(width + 2 * margin, 80);
     std::vector<nyxColor_rgba> columns;
+    columns.reserve(width);
     for (int x = 0; x < width; ++x) {
         columns.push_back(colorAt(stops, gradient.blend(), (static_cast<float>(x) + 0.5f) / width));
     }

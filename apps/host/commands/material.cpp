@@ -66,7 +66,7 @@ std::unique_ptr<IMaterialDescriptor> stored(Host& host, nyx::MaterialId id) {
 /// The draft of a material, or what it says at present.
 IMaterialDescriptor const& current(Host& host, nyx::MaterialId id,
                                    std::unique_ptr<IMaterialDescriptor>& holder) {
-    auto const& drafts = host.state<Drafts>().byMaterial;
+    auto const& drafts = host.sceneState<Drafts>().byMaterial;
     if (auto const found = drafts.find(id); found != drafts.end()) {
         return *found->second;
     }
@@ -75,7 +75,7 @@ IMaterialDescriptor const& current(Host& host, nyx::MaterialId id,
 }
 
 IMaterialDescriptor& draft(Host& host, nyx::MaterialId id) {
-    auto& entry = host.state<Drafts>().byMaterial[id];
+    auto& entry = host.sceneState<Drafts>().byMaterial[id];
     if (!entry) {
         entry = stored(host, id);
     }
@@ -109,7 +109,7 @@ nlohmann::json readValue(std::string const& text) {
 }
 
 void list(Host& host, Arguments&) {
-    auto const& drafts = host.state<Drafts>().byMaterial;
+    auto const& drafts = host.sceneState<Drafts>().byMaterial;
     for (nyx::MaterialId const id : host.renderer().materials()) {
         host.out() << "  " << id.toUint() << ' ' << nameOf(host, id)
                    << (drafts.contains(id) ? " (draft)" : "") << '\n';
@@ -233,13 +233,13 @@ void removeMetadata(Host& host, Arguments& arguments) {
 void drop(Host& host, Arguments& arguments) {
     nyx::MaterialId const id = takeMaterial(host, arguments);
     arguments.done();
-    host.state<Drafts>().byMaterial.erase(id);
+    host.sceneState<Drafts>().byMaterial.erase(id);
 }
 
 void apply(Host& host, Arguments& arguments) {
     nyx::MaterialId const id = takeMaterial(host, arguments);
     arguments.done();
-    auto& drafts = host.state<Drafts>().byMaterial;
+    auto& drafts = host.sceneState<Drafts>().byMaterial;
     auto const found = drafts.find(id);
     if (found == drafts.end()) {
         throw CommandError("there is no draft for this material");
