@@ -32,9 +32,6 @@ private:
     std::vector<std::unique_ptr<Tile>> tiles_;
 };
 
-/// Numbers that are not finite paint nothing; others are brought into their range.
-void paintStroke(LayerPixels& pixels, Stroke const& stroke);
-
 /// The centres of the dabs along a line: its first point, and then one every `distance`.
 [[nodiscard]] std::vector<Stroke::Point> dabCenters(std::vector<Stroke::Point> const& points,
                                                     float distance);

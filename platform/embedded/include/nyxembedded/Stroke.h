@@ -1,10 +1,13 @@
 #pragma once
 
+#include "nyxrender/Export.h"
 #include "nyxrender/nyxColor.h"
 
 #include <vector>
 
 namespace nyx::embedded {
+
+class LayerPixels;
 
 /// A stroke of a round brush along a line. Lengths are texels, points are counted from the upper
 /// left corner of the upper left texel.
@@ -20,5 +23,9 @@ struct Stroke {
     float spacing = 0.15f;           ///< between dabs, as a part of the radius
     bool erase = false;              ///< takes paint away, by the colour's alpha
 };
+
+/// Points and radii that are not finite paint nothing; other numbers are brought into their range.
+/// Any thread, one per layer at a time.
+NYXRENDER_EXPORT void paintStroke(LayerPixels& pixels, Stroke const& stroke);
 
 } // namespace nyx::embedded
