@@ -38,10 +38,11 @@ nyx::embedded::Image brushSheet(std::vector<nyx::embedded::BrushSettings> const&
     int const height = rows * cellHeight;
     nyx::embedded::LayerPixels pixels(std::max(width, height));
     for (std::size_t i = 0; i < brushes.size(); ++i) {
-        auto const column = static_cast<float>(i % columns);
-        auto const row = static_cast<float>(i / columns);
-        nyx::embedded::paintBrushStroke(
-            pixels, brushes[i], wave(column * cellWidth, row * cellHeight + cellHeight / 2.0f));
+        auto const column = static_cast<int>(i) % columns;
+        auto const row = static_cast<int>(i) / columns;
+        auto const left = static_cast<float>(column * cellWidth);
+        auto const top = static_cast<float>(row * cellHeight);
+        nyx::embedded::paintBrushStroke(pixels, brushes[i], wave(left, top + cellHeight / 2.0f));
     }
     nyx::embedded::Image sheet{width, height, {}};
     sheet.rgba.reserve(std::size_t{4} * static_cast<std::size_t>(width) *

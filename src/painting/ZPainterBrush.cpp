@@ -170,8 +170,10 @@ void ZPainterBrush::applyToNode() {
 
     bool const hasShader =
         parameter(QStringLiteral("color_shader")).value<nyxShader*>().value_or(nullptr) != nullptr;
-    bool const hasTexture =
-        !parameter(QStringLiteral("color_texture_filepath")).value<QString>()->isEmpty();
+    bool const hasTexture = !parameter(QStringLiteral("color_texture_filepath"))
+                                 .value<QString>()
+                                 .value_or(QString())
+                                 .isEmpty();
     f.colorSelection.setSelection(hasShader ? shaderColor : hasTexture ? textureColor : solidColor);
     if (int* selection = nodeValue("color_selection", &BrushNodeValue::i)) {
         *selection = f.colorSelection.getSelection();

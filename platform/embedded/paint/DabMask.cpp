@@ -7,8 +7,6 @@ namespace nyx::embedded {
 
 namespace {
 
-std::uint16_t toCover(float part) { return static_cast<std::uint16_t>(part * 65535.0f + 0.5f); }
-
 int partsOfATexel(float diameter) {
     return diameter <= 16 ? 8 : diameter <= 64 ? 4 : diameter <= 256 ? 2 : 1;
 }
@@ -162,7 +160,9 @@ DabMask const& DabMasks::mask(Dab const& dab) {
     };
     int const px = partOf(dab.x);
     int const py = partOf(dab.y);
-    auto& kept = kept_[static_cast<std::size_t>(py * parts_ + px)];
+    auto const slot = static_cast<std::size_t>(py) * static_cast<std::size_t>(parts_) +
+                      static_cast<std::size_t>(px);
+    auto& kept = kept_[slot];
     if (kept == nullptr) {
         float const x = (static_cast<float>(px) + 0.5f) / static_cast<float>(parts_);
         float const y = (static_cast<float>(py) + 0.5f) / static_cast<float>(parts_);

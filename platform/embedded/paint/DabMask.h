@@ -11,6 +11,12 @@
 
 namespace nyx::embedded {
 
+/// A part of a whole, 0 to 1, as cover of 16 bits.
+inline std::uint16_t toCover(float part) {
+    constexpr float half = 0.5f;
+    return static_cast<std::uint16_t>(part * 65535.0f + half);
+}
+
 /// How much of each texel around a dab's centre the dab covers: 65535 is all of it. Texels are
 /// counted from `left` and `top`, whole texels from the one that the centre lies in.
 struct DabMask {

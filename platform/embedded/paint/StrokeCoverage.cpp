@@ -39,10 +39,9 @@ void addRow(std::uint16_t* cover, std::uint16_t const* mask, int count, std::uin
     }
 }
 
-std::uint16_t toCover(float part) { return static_cast<std::uint16_t>(part * 65535.0f + 0.5f); }
-
 std::uint8_t toByte(float part) {
-    return part > 0 ? static_cast<std::uint8_t>(std::min(part, 1.0f) * 255.0f + 0.5f)
+    constexpr float half = 0.5f;
+    return part > 0 ? static_cast<std::uint8_t>(std::min(part, 1.0f) * 255.0f + half)
                     : std::uint8_t{0};
 }
 
@@ -71,12 +70,12 @@ void StrokeCoverage::add(DabMask const& mask, Dab const& dab) {
         int const end = std::min(originX + extent.end, resolution_);
         std::uint16_t const* const row = mask.row(y - originY);
         for (int x = std::max(originX + extent.begin, 0); x < end;) {
-            auto& tile = tiles_[static_cast<std::size_t>(y / edge * tilesAcross_ + x / edge)];
+            auto& tile = tiles_[slot(x / edge, y / edge)];
             if (tile == nullptr) {
                 tile = std::make_unique<Tile>();
             }
             int const count = std::min(end - x, edge - x % edge);
-            std::uint16_t* const cover = tile->cover + y % edge * edge + x % edge;
+            std::uint16_t* const cover = &tile->cover[y % edge * edge + x % edge];
             if (flow == 65535) {
                 addRow(cover, row + (x - originX), count, cap);
             } else {
@@ -94,8 +93,7 @@ void StrokeCoverage::paintOn(LayerPixels& pixels, BrushSettings const& brush) co
                                   toByte(brush.color.b), 255};
     for (int row = 0; row < tilesAcross_; ++row) {
         for (int column = 0; column < tilesAcross_; ++column) {
-            Tile const* const covered =
-                tiles_[static_cast<std::size_t>(row * tilesAcross_ + column)].get();
+            Tile const* const covered = tiles_[slot(column, row)].get();
             if (covered == nullptr) {
                 continue;
             }

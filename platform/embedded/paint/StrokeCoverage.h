@@ -3,6 +3,7 @@
 #include "nyxembedded/PixelTile.h"
 #include "paint/DabMask.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -27,6 +28,11 @@ private:
     struct Tile {
         std::uint16_t cover[PixelTile::texels] = {};
     };
+
+    [[nodiscard]] std::size_t slot(int column, int row) const {
+        return static_cast<std::size_t>(row) * static_cast<std::size_t>(tilesAcross_) +
+               static_cast<std::size_t>(column);
+    }
 
     int resolution_;
     int tilesAcross_;
