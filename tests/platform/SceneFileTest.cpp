@@ -109,7 +109,7 @@ TEST(SceneFile, NothingThatASceneMayHoldIsLost) {
     {"id": 9, "name": "Red", "value": ["nan", "inf", "-inf", 1e-45], "activeSub": 4}
   ],
   "colorways": [
-    {"id": 4294967294, "name": {"hex": "ff00"}, "flags": 3, "multiColors": [1, 4294967295]}
+    {"id": 4294967294, "name": {"hex": "ff01"}, "flags": 3, "multiColors": [1, 4294967295]}
   ])";
     ASSERT_EQ(loaded.loadSceneText(scene(text)), "");
     EXPECT_THAT(loaded.saveSceneText(), testing::HasSubstr(text));

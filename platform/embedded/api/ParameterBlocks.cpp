@@ -66,6 +66,7 @@ struct Block final : nyxParameter_edit {
     std::vector<std::uint8_t> manyAsList;
     std::size_t size;
     std::size_t used = 0;
+    unsigned generation = 0;
 };
 
 nyx::Span<nyxParameter_entry> entriesOf(nyxParameter_edit const& block) {
@@ -158,9 +159,18 @@ nyxParameter_edit* makeSettingsBlock(nyx::ColorwayId activeColorway) {
     return block.release();
 }
 
+void setGeneration(nyxParameter_edit& block, unsigned generation) {
+    static_cast<Block&>(block).generation = generation;
+}
+
+unsigned generationOf(nyxParameter_edit const& block) {
+    return static_cast<Block const&>(block).generation;
+}
+
 nyxParameter_edit* cloneBlock(nyxParameter_edit const& source, bool copyValues) {
     nyx::Span<nyxParameter_entry> const entries = entriesOf(source);
     BlockPointer clone(new Block(source.record_id, source.kind, entries.size()));
+    clone->generation = generationOf(source);
     for (nyxParameter_entry const& entry : entries) {
         bool const list = isList(entry);
         nyxParameter_entry& copy = clone->own()[clone->used];

@@ -18,6 +18,9 @@ class StringPool;
 [[nodiscard]] nyxParameter_edit* makeSettingsBlock(nyx::ColorwayId activeColorway);
 /// A deep copy of any block; without values its entries are zero.
 [[nodiscard]] nyxParameter_edit* cloneBlock(nyxParameter_edit const& source, bool copyValues);
+/// Marks a block with the generation of the scene that it is a copy of; a clone has its source's.
+void setGeneration(nyxParameter_edit& block, unsigned generation);
+[[nodiscard]] unsigned generationOf(nyxParameter_edit const& block);
 /// Frees a block that one of the above made, with the lists that it holds now.
 void releaseBlock(nyxParameter_edit* block);
 

@@ -4,13 +4,11 @@
 #include "nyxrender/nyx_warning.h"
 #include "store/Scene.h"
 
+#include <utility>
+
 namespace nyx::embedded {
 
 namespace {
-
-bool isBlock(nyxParameter_edit const* block, std::int32_t kind) {
-    return block != nullptr && block->kind == kind;
-}
 
 /// How the journal names a block: by the record that a commit would write to.
 nyx::ColorId recordOf(nyxParameter_edit const* block) {
@@ -55,26 +53,46 @@ nyxParameter_edit* RtApi::lend(nyxParameter_edit* block) {
     return block;
 }
 
+nyxParameter_edit* RtApi::lendNew(nyxParameter_edit* block) {
+    setGeneration(*block, scene_.generation());
+    return lend(block);
+}
+
+bool RtApi::mayCommit(nyxParameter_edit const* block, std::int32_t kind) {
+    if (block == nullptr || block->kind != kind) {
+        return false;
+    }
+    if (generationOf(*block) == scene_.generation()) {
+        return true;
+    }
+    if (std::exchange(warnedGeneration_, scene_.generation()) != scene_.generation()) {
+        nyx_warning("nyxrender: edits of a scene that was replaced are not committed; end the root "
+                    "before loading\n");
+    }
+    return false;
+}
+
 nyxParameter_edit* RtApi::color_params(nyx::ColorId id) {
     scene_.journal().write("color_params", id);
     ColorRecord const* const record = scene_.color(id);
-    return record == nullptr ? nullptr : lend(makeColorBlock(*record, scene_.strings()));
+    return record == nullptr ? nullptr : lendNew(makeColorBlock(*record, scene_.strings()));
 }
 
 nyxParameter_edit* RtApi::colorway_params(nyx::ColorwayId id) {
     scene_.journal().write("colorway_params", id);
     ColorwayRecord const* const record = scene_.colorway(id);
-    return record == nullptr ? nullptr : lend(makeColorwayBlock(*record, scene_.strings()));
+    return record == nullptr ? nullptr : lendNew(makeColorwayBlock(*record, scene_.strings()));
 }
 
 nyxParameter_edit* RtApi::color_settings_params() {
     scene_.journal().write("color_settings_params");
-    return scene_.faults().noSettings ? nullptr : lend(makeSettingsBlock(scene_.activeColorway()));
+    return scene_.faults().noSettings ? nullptr
+                                      : lendNew(makeSettingsBlock(scene_.activeColorway()));
 }
 
 void RtApi::commit_color_params(nyxParameter_edit* block) {
     scene_.journal().write("commit_color_params", recordOf(block));
-    if (!isBlock(block, nyxParameter_edit::ColorKind)) {
+    if (!mayCommit(block, nyxParameter_edit::ColorKind)) {
         return;
     }
     ColorRecord const* const record = scene_.color(nyx::ColorId(block->record_id));
@@ -90,7 +108,7 @@ void RtApi::commit_color_params(nyxParameter_edit* block) {
 
 void RtApi::commit_colorway_params(nyxParameter_edit* block) {
     scene_.journal().write("commit_colorway_params", recordOf(block));
-    if (!isBlock(block, nyxParameter_edit::ColorwayKind)) {
+    if (!mayCommit(block, nyxParameter_edit::ColorwayKind)) {
         return;
     }
     ColorwayRecord const* const record = scene_.colorway(nyx::ColorwayId(block->record_id));
@@ -104,7 +122,7 @@ void RtApi::commit_colorway_params(nyxParameter_edit* block) {
 
 void RtApi::commit_color_settings_params(nyxParameter_edit* block) {
     scene_.journal().write("commit_color_settings_params");
-    if (isBlock(block, nyxParameter_edit::ColorSettingsKind)) {
+    if (mayCommit(block, nyxParameter_edit::ColorSettingsKind)) {
         nyx::ColorwayId active = scene_.activeColorway();
         readBlock(*block, active);
         scene_.setActiveColorway(active);

@@ -54,6 +54,9 @@ public:
 
 private:
     nyxParameter_edit* lend(nyxParameter_edit* block);
+    nyxParameter_edit* lendNew(nyxParameter_edit* block);
+    /// Whether a commit may write: not a block of another kind, nor one lent before a load.
+    [[nodiscard]] bool mayCommit(nyxParameter_edit const* block, std::int32_t kind);
     void release(char const* call, nyxParameter_edit* block);
 
     nyxScene& scene_;
@@ -62,6 +65,7 @@ private:
     std::atomic<std::thread::id> owner_;
     std::atomic<int> lockDepth_{0};
     std::size_t blocks_ = 0;
+    unsigned warnedGeneration_ = 0;
     bool modified_ = false;
     unsigned refreshes_ = 0;
 };

@@ -6,6 +6,10 @@
 #include <cstdlib>
 #include <new>
 
+#if defined(_WIN32)
+    #include <malloc.h>
+#endif
+
 namespace nyx::embedded {
 
 Accounts& accounts() {
@@ -16,6 +20,24 @@ Accounts& accounts() {
 } // namespace nyx::embedded
 
 using nyx::embedded::accounts;
+
+namespace {
+
+#if defined(_WIN32)
+void* allocateAligned(std::size_t bytes, std::size_t alignment) {
+    return _aligned_malloc(bytes, alignment);
+}
+void freeAligned(void* memory) { _aligned_free(memory); }
+#else
+void* allocateAligned(std::size_t bytes, std::size_t alignment) {
+    // aligned_alloc wants a multiple of the alignment.
+    std::size_t const rounded = (bytes + alignment - 1) / alignment * alignment;
+    return rounded < bytes ? nullptr : std::aligned_alloc(alignment, rounded);
+}
+void freeAligned(void* memory) { std::free(memory); }
+#endif
+
+} // namespace
 
 void* nyx::Unique_array_helper::allocate(std::size_t bytes) {
     if (bytes == 0) {
@@ -40,9 +62,7 @@ void* nyx_malloc_aligned(std::size_t bytes, std::size_t alignment) {
     if (bytes == 0) {
         return nullptr;
     }
-    // aligned_alloc wants a multiple of the alignment.
-    std::size_t const rounded = (bytes + alignment - 1) / alignment * alignment;
-    void* const memory = rounded < bytes ? nullptr : std::aligned_alloc(alignment, rounded);
+    void* const memory = allocateAligned(bytes, alignment);
     if (memory == nullptr) {
         throw std::bad_alloc();
     }
@@ -53,7 +73,7 @@ void* nyx_malloc_aligned(std::size_t bytes, std::size_t alignment) {
 void nyx_free_aligned(void* memory) noexcept {
     if (memory != nullptr) {
         --accounts().alignedBlocks;
-        std::free(memory);
+        freeAligned(memory);
     }
 }
 

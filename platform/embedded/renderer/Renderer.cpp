@@ -14,7 +14,22 @@
 #include <cmath>
 #include <utility>
 
+#if defined(__GLIBC__)
+    #include <malloc.h>
+#endif
+
 namespace nyx::embedded {
+
+namespace {
+
+/// Reading a big scene needs several times its memory; the allocator keeps that unless it is asked.
+void returnMemory() {
+#if defined(__GLIBC__)
+    malloc_trim(0);
+#endif
+}
+
+} // namespace
 
 class Renderer::Impl {
 public:
@@ -332,21 +347,29 @@ unsigned Renderer::refreshCount() const { return impl_->api.refreshCount(); }
 
 std::string Renderer::loadScene(std::string const& path,
                                 std::function<void()> const& beforeReplacing) {
-    nyxScene fresh;
-    std::string error = loadSceneFile(fresh, path);
-    if (error.empty()) {
-        impl_->replaceScene(fresh, beforeReplacing);
+    std::string error;
+    {
+        nyxScene fresh;
+        error = loadSceneFile(fresh, path);
+        if (error.empty()) {
+            impl_->replaceScene(fresh, beforeReplacing);
+        }
     }
+    returnMemory();
     return error;
 }
 
 std::string Renderer::loadSceneText(std::string const& json,
                                     std::function<void()> const& beforeReplacing) {
-    nyxScene fresh;
-    std::string error = embedded::loadSceneText(fresh, json);
-    if (error.empty()) {
-        impl_->replaceScene(fresh, beforeReplacing);
+    std::string error;
+    {
+        nyxScene fresh;
+        error = embedded::loadSceneText(fresh, json);
+        if (error.empty()) {
+            impl_->replaceScene(fresh, beforeReplacing);
+        }
     }
+    returnMemory();
     return error;
 }
 

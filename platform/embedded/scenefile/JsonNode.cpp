@@ -120,8 +120,9 @@ float JsonNode::component() const {
     if (value_.is_string()) {
         auto const& text = value_.get_ref<std::string const&>();
         constexpr float infinity = std::numeric_limits<float>::infinity();
-        if (text == "nan") {
-            return std::numeric_limits<float>::quiet_NaN();
+        if (text == "nan" || text == "-nan") {
+            return std::copysign(std::numeric_limits<float>::quiet_NaN(),
+                                 text == "nan" ? 1.0f : -1.0f);
         }
         if (text == "inf" || text == "-inf") {
             return text == "inf" ? infinity : -infinity;
@@ -139,9 +140,18 @@ std::string const& JsonNode::string() const {
     return value_.get_ref<std::string const&>();
 }
 
+/// Texts go through the renderer's zero-terminated ones, where the rest would be lost.
+void JsonNode::checkNoZero(std::string const& bytes) const {
+    if (bytes.find('\0') != std::string::npos) {
+        fail("a text cannot contain a zero byte");
+    }
+}
+
 std::string JsonNode::text() const {
     if (!value_.is_object()) {
-        return string();
+        std::string const& bytes = string();
+        checkNoZero(bytes);
+        return bytes;
     }
     checkObject({"hex"});
     JsonNode const hex = member("hex");
@@ -155,6 +165,7 @@ std::string JsonNode::text() const {
         }
         bytes += static_cast<char>(high * 16 + low);
     }
+    checkNoZero(bytes);
     return bytes;
 }
 

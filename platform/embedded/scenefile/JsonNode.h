@@ -23,6 +23,7 @@ public:
     [[noreturn]] void fail(std::string const& problem) const;
     /// "expected <what>, found <what the value is>".
     [[noreturn]] void failExpected(std::string const& what) const;
+    void checkNoZero(std::string const& bytes) const;
 
     // Objects.
 

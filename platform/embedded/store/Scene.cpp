@@ -80,9 +80,8 @@ bool nyxScene::updateColor(ColorRecord const& values) {
         changed = true;
     }
     if (record->subColors != values.subColors) {
-        contents_.uses.unlist(id, record->subColors);
+        contents_.uses.relist(id, record->subColors, values.subColors);
         record->subColors = values.subColors;
-        contents_.uses.list(id, record->subColors);
         changed = true;
     }
     if (record->activeSub != values.activeSub) {
@@ -393,6 +392,7 @@ void nyxScene::takeContents(nyxScene& fresh) {
     surfaces_.takeContents(fresh.surfaces_);
     ++colorRevision_;
     ++colorwayRevision_;
+    ++generation_;
     lent_ = nullptr;
     fresh.lent_ = nullptr;
 }

@@ -153,6 +153,8 @@ public:
     /// Strings, brush nodes, journal and faults stay: blocks on loan still point to the strings,
     /// brushes to their nodes.
     void takeContents(nyxScene& fresh);
+    /// How often the contents were replaced: ids taken before name other records now.
+    [[nodiscard]] unsigned generation() const { return generation_; }
 
     // What belongs to the scene without being part of its contents.
 
@@ -202,6 +204,7 @@ private:
     Contents contents_;
     unsigned colorRevision_ = 1;
     unsigned colorwayRevision_ = 1;
+    unsigned generation_ = 0;
     nyxColor_record* lent_ = nullptr;
     std::uint32_t lentFlagsSeen_ = 0;
 

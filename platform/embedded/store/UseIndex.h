@@ -25,6 +25,9 @@ public:
     /// A record lists these sub-colours. One that is listed twice is listed once.
     void list(nyx::ColorId record, nyx::Span<nyx::ColorId> subColors);
     void unlist(nyx::ColorId record, nyx::Span<nyx::ColorId> subColors);
+    /// The record lists `after` instead of `before`. Costs a step per difference, and, when any
+    /// sub-colour leaves, one per sub-colour.
+    void relist(nyx::ColorId record, nyx::Span<nyx::ColorId> before, nyx::Span<nyx::ColorId> after);
 
     /// Null for a colour that nobody uses.
     [[nodiscard]] Uses const* uses(nyx::ColorId color) const;

@@ -45,7 +45,7 @@ void appendText(std::string& out, std::string const& text) {
 
 void appendFloat(std::string& out, float value) {
     if (std::isnan(value)) {
-        out += "\"nan\"";
+        out += std::signbit(value) ? "\"-nan\"" : "\"nan\"";
         return;
     }
     if (std::isinf(value)) {

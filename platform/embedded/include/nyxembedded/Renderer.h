@@ -154,10 +154,11 @@ public:
 
     /// Replaces the scene's contents and announces the colours. On failure the scene stays as it
     /// was, and the result is a message for people; it is empty on success. Pointers to materials
-    /// and items end with the old contents. Blocks and undo commands name records by id, so from
-    /// then on they mean the new ones: clear the undo stack and end the root before, and build a
-    /// new root after. `beforeReplacing` is the place for that: it is called when the file has been
-    /// found good and the old contents still stand. Host does all of it.
+    /// and items end with the old contents. Undo commands and the root name records by id, so from
+    /// then on they mean the new ones, and blocks lent before are not committed any more: clear the
+    /// undo stack and end the root before, and build a new root after. `beforeReplacing` is the
+    /// place for that: it is called when the file has been found good and the old contents still
+    /// stand. Host does all of it.
     [[nodiscard]] std::string loadScene(std::string const& path,
                                         std::function<void()> const& beforeReplacing = {});
     [[nodiscard]] std::string loadSceneText(std::string const& json,
