@@ -1,5 +1,6 @@
 #include "nyxembedded/Painting.h"
 #include "nyxembedded/Renderer.h"
+#include "nyxembedded/Stroke.h"
 #include "nyxrender/nyxCustomSurface.h"
 #include "nyxrender/nyxPainter.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "paint/BrushImage.h"
 #include "paint/strokeDabs.h"
-#include "store/BrushImage.h"
 
 #include <array>
 #include <cstddef>

@@ -2,7 +2,7 @@
 
 #include "nyxrender/Span.h"
 #include "nyxrender/nyxBrush_node.h"
-#include "store/BrushImage.h"
+#include "paint/BrushImage.h"
 #include "store/BrushKinds.h"
 
 #include <memory>

@@ -1,4 +1,4 @@
-#include "store/BrushImage.h"
+#include "paint/BrushImage.h"
 
 #include <png.h>
 
