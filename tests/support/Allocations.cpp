@@ -25,6 +25,10 @@ void* allocate(std::size_t bytes) {
 
 void* operator new(std::size_t bytes) { return allocate(bytes); }
 void* operator new[](std::size_t bytes) { return allocate(bytes); }
+// Temporary buffers of the standard library ask like this, and take null for an answer.
+void* operator new(std::size_t bytes, std::nothrow_t const&) noexcept {
+    return made++ == failing ? nullptr : std::malloc(bytes == 0 ? 1 : bytes);
+}
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete[](void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
