@@ -31,6 +31,9 @@ public:
         LayerPixels after = *before;
         paint(after);
         resolution_ = after.resolution();
+        if (resolution_ != before->resolution()) {
+            return; // painting does not change the size
+        }
         std::size_t kept = 0;
         for (int row = 0; row < after.tilesAcross(); ++row) {
             for (int column = 0; column < after.tilesAcross(); ++column) {
@@ -83,7 +86,7 @@ public:
     void run() override {
         try {
             (edit_.get()->*step_)();
-        } catch (std::exception const&) {
+        } catch (...) {
             // Out of memory: the layer keeps what it had, as setPixels comes last.
         }
     }

@@ -49,7 +49,9 @@ void ZPainter::addSurface(nyx::SurfaceId id) {
     if (!custom) {
         return; // a listed surface that the renderer cannot give; reload() asks again
     }
-    surfaces_.reserve(surfaces_.size() + 1);
+    if (surfaces_.size() == surfaces_.capacity()) {
+        surfaces_.reserve(2 * surfaces_.size() + 8); // nothing is lost when memory runs out
+    }
     auto* const added = new ZPaintSurface(id, custom, rtApi_, taskQueue_, eventQueue_, undoStack_);
     surfaces_.push_back(added);
     byId_.emplace(id, added);

@@ -193,4 +193,19 @@ TEST_F(BlendModesTest, compositeLikeALoopOverTexels) {
     }
 }
 
+// Points at the ends of what a number can be, on which nothing must hang.
+TEST(paintStroke, EndsWellWhereverItsPointsAre) {
+    LayerPixels pixels(100);
+    for (float const far : {3e38f, -3e38f, 1e7f}) {
+        for (float const radius : {0.3f, 5.0f, 3.4e7f, 3e38f}) {
+            Stroke stroke;
+            stroke.points = {{-far, 0}, {far, 50}, {-3.4e7f, 0}, {50, far}};
+            stroke.radius = radius;
+            stroke.hardness = 1;
+            paintStroke(pixels, stroke);
+        }
+    }
+    EXPECT_TRUE(pixels.tile(0, 0)) << "the last ones cover everything";
+}
+
 } // namespace

@@ -164,6 +164,7 @@ TEST(BrushStroke, OddNumbersEndWell) {
                          -5,
                          1e-30f,
                          1e30f,
+                         3e38f,
                          std::numeric_limits<float>::infinity(),
                          -std::numeric_limits<float>::infinity(),
                          std::numeric_limits<float>::quiet_NaN()};

@@ -117,7 +117,9 @@ DabMask DabMasks::makeDisc(float diameter, float x, float y) const {
 // The image is as large as the dab, its longer side being the diameter.
 DabMask DabMasks::makeShape(Dab const& dab, float x, float y) {
     Gray const& shape = shapeFor(dab.diameter);
-    float const scale = static_cast<float>(std::max(shape.width, shape.height)) / dab.diameter;
+    // A dab far smaller than a texel covers nothing; its image's coordinates must stay numbers.
+    float const scale = static_cast<float>(std::max(shape.width, shape.height)) /
+                        std::max(dab.diameter, 1.0f / 256);
     float const cosine = std::cos(dab.angle) * scale;
     float const sine = std::sin(dab.angle) * scale;
     float const middleX = static_cast<float>(shape.width) / 2 - 0.5f;

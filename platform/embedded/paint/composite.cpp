@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <cstring>
-#include <optional>
+#include <memory>
 
 namespace nyx::embedded {
 
@@ -14,12 +14,12 @@ namespace {
 constexpr int edge = PixelTile::edge;
 
 /// A tile of one colour; nothing when the colour is transparent.
-std::optional<PixelTile> filled(nyxColor_rgba const& color) {
+std::unique_ptr<PixelTile> filled(nyxColor_rgba const& color) {
     int const alpha = toByte(color.a);
     if (alpha == 0) {
-        return std::nullopt;
+        return nullptr;
     }
-    std::optional<PixelTile> tile(std::in_place);
+    auto tile = std::make_unique<PixelTile>();
     int const straight[] = {toByte(color.r), toByte(color.g), toByte(color.b), 255};
     for (int plane = 0; plane < 4; ++plane) {
         int const value = (straight[plane] * alpha * 2 + 255) / 510; // to the nearest
@@ -55,7 +55,8 @@ Image composite(std::vector<CompositeLayer> const& layers, int resolution) {
     Image image{resolution, resolution, {}};
     auto const size = static_cast<std::size_t>(resolution);
     image.rgba.resize(size * size * 4);
-    std::vector<std::optional<PixelTile>> backgrounds;
+    std::vector<std::unique_ptr<PixelTile>> backgrounds;
+    backgrounds.reserve(layers.size());
     for (CompositeLayer const& layer : layers) {
         backgrounds.push_back(filled(layer.background));
     }
@@ -67,7 +68,7 @@ Image composite(std::vector<CompositeLayer> const& layers, int resolution) {
             bool isEmpty = true;
             for (std::size_t i = 0; i < layers.size(); ++i) {
                 PixelTile const* const pixels = layers[i].pixels.tile(column, row).get();
-                std::optional<PixelTile> const& background = backgrounds[i];
+                std::unique_ptr<PixelTile> const& background = backgrounds[i];
                 if (pixels == nullptr && !background) {
                     continue;
                 }

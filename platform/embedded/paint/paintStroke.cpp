@@ -10,7 +10,15 @@ namespace {
 /// More dabs than any hand makes; keeps a line to somewhere far off from taking hours.
 constexpr std::size_t mostDabs = 1'000'000;
 
-bool isFinite(Stroke::Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
+/// No surface has texels so far off, and sums of such numbers keep their parts of a texel.
+constexpr float farthest = 1e6f;
+constexpr float largestRadius = 1e5f;
+
+bool isNumber(Stroke::Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
+
+Stroke::Point nearby(Stroke::Point p) {
+    return {std::clamp(p.x, -farthest, farthest), std::clamp(p.y, -farthest, farthest)};
+}
 
 constexpr int divideBy255(int x) { return (x + 128 + ((x + 128) >> 8)) >> 8; }
 
@@ -98,10 +106,11 @@ std::vector<Stroke::Point> dabCenters(std::vector<Stroke::Point> const& points, 
     std::vector<Stroke::Point> centers;
     float left = 0; // to the next dab
     Stroke::Point before;
-    for (Stroke::Point const& point : points) {
-        if (!isFinite(point)) {
+    for (Stroke::Point const& given : points) {
+        if (!isNumber(given)) {
             continue;
         }
+        Stroke::Point const point = nearby(given);
         if (centers.empty()) {
             centers.push_back(point);
             left = distance;
@@ -128,10 +137,11 @@ void paintStroke(LayerPixels& pixels, Stroke const& stroke) {
     float const hardness = stroke.hardness > 0 ? std::min(stroke.hardness, 1.0f) : 0.0f;
     // Not so close that a large brush takes for ever.
     float const spacing = stroke.spacing > 0.01f ? std::min(stroke.spacing, 10.0f) : 0.01f;
-    float const distance = std::max(0.25f, spacing * stroke.radius);
+    float const radius = std::min(stroke.radius, largestRadius);
+    float const distance = std::max(0.25f, spacing * radius);
     StrokeMask mask(pixels.resolution());
     for (Stroke::Point const& center : dabCenters(stroke.points, distance)) {
-        mask.addDab(center, stroke.radius, hardness);
+        mask.addDab(center, radius, hardness);
     }
     mask.apply(pixels, stroke.color, stroke.erase);
 }

@@ -58,7 +58,8 @@ public:
                   scale(BrushSettings::OpacityPressure, at.pressure);
         float const degrees =
             brush_.rotation + 180.0f * fraction(brush_.rotationJitter) * (2 * turn - 1);
-        dab.angle = (std::isfinite(degrees) ? degrees : 0.0f) * std::numbers::pi_v<float> / 180.0f +
+        dab.angle = (std::isfinite(degrees) ? std::remainder(degrees, 360.0f) : 0.0f) *
+                        std::numbers::pi_v<float> / 180.0f +
                     (brush_.directional ? direction : 0.0f);
         if (dab.diameter > 0 && dab.flow > 0 && dab.cap > 0) {
             dabs_.push_back(dab);

@@ -131,7 +131,8 @@ nyxColor_rgba readBackground(JsonNode const& layer) {
 Surface::Layer readLayer(JsonNode const& node, int resolution) {
     node.checkObject({"id", "name", "blend", "deleted", "hidden", "background", "tiles"});
     LayerInfo info;
-    info.id = node.member("id").word();
+    // Ids go up by one for each new layer, and the highest numbers say "none".
+    info.id = node.member("id").word(0, 0x7FFFFFFF);
     if (auto const name = node.find("name")) {
         info.name = name->text();
     }

@@ -226,8 +226,14 @@ bool Surface::resample(int resolution) {
     }
     Guard const guard(mutex_);
     if (resolution != resolution_) {
-        for (Layer& layer : layers_) {
-            layer.pixels = layer.pixels.resampled(resolution);
+        // All or none: memory may run out half-way.
+        std::vector<LayerPixels> resampled;
+        resampled.reserve(layers_.size());
+        for (Layer const& layer : layers_) {
+            resampled.push_back(layer.pixels.resampled(resolution));
+        }
+        for (std::size_t i = 0; i < layers_.size(); ++i) {
+            layers_[i].pixels = std::move(resampled[i]);
         }
         resolution_ = resolution;
     }
