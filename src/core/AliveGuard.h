@@ -47,6 +47,9 @@ public:
         return nullptr;
     }
 
+    /// Whether both mean one object, alive or not.
+    [[nodiscard]] bool means(GuardedPointer const& other) const { return state_ == other.state_; }
+
 private:
     T* object_;
     std::shared_ptr<AliveGuard::State> state_;

@@ -3,6 +3,7 @@
 #include "zsg/lightlayers/ZLightLayerApi.h"
 
 #include <algorithm>
+#include <exception>
 #include <set>
 #include <utility>
 
@@ -33,6 +34,30 @@ std::vector<nyx::GroupItemId> itemsOf(nyx::Span<nyx::ObjectId> objects) {
     }
     return items;
 }
+
+/// Runs steps that do not depend on each other to the last, and passes on what the first of them
+/// that failed has thrown.
+class FirstException {
+public:
+    template <class Step>
+    void keep(Step const& step) {
+        try {
+            step();
+        } catch (...) {
+            if (!thrown_) {
+                thrown_ = std::current_exception();
+            }
+        }
+    }
+    void pass() const {
+        if (thrown_) {
+            std::rethrow_exception(thrown_);
+        }
+    }
+
+private:
+    std::exception_ptr thrown_;
+};
 
 } // namespace
 
@@ -81,8 +106,11 @@ ZDeleteLightLayerCommand::ZDeleteLightLayerCommand(GuardedPointer<ILightLayerApi
       layer_(layer) {}
 
 void ZDeleteLightLayerCommand::undoIn(ILightLayerApi& api) {
-    clearDeletedMark(api, layer_);
-    api.setItemsLightLayer(layer_, itemsOf(lights_));
+    // A listener may throw; the lights come back all the same.
+    FirstException thrown;
+    thrown.keep([&] { clearDeletedMark(api, layer_); });
+    thrown.keep([&] { api.setItemsLightLayer(layer_, itemsOf(lights_)); });
+    thrown.pass();
 }
 
 void ZDeleteLightLayerCommand::redoIn(ILightLayerApi& api) {
@@ -116,7 +144,7 @@ void ZChangeLightsInLightLayerCommand::change(ILightLayerApi& api, bool remove) 
 bool ZChangeLightsInLightLayerCommand::mergeWith(ZUndoCommand const* other) {
     // Commands of other classes have this number, too.
     auto const* const later = dynamic_cast<ZChangeLightsInLightLayerCommand const*>(other);
-    if (!later || later->layer_ != layer_ || later->remove_ != remove_) {
+    if (!later || !later->hasApiOf(*this) || later->layer_ != layer_ || later->remove_ != remove_) {
         return false;
     }
     lights_.insert(lights_.end(), later->lights_.begin(), later->lights_.end());
@@ -131,9 +159,11 @@ ZSetItemLightLayerCommand::ZSetItemLightLayerCommand(GuardedPointer<ILightLayerA
       items_(std::move(items)) {}
 
 void ZSetItemLightLayerCommand::undoIn(ILightLayerApi& api) {
-    for (auto const& [layer, items] : previous_) {
-        api.setItemsLightLayer(layer, items);
+    FirstException thrown;
+    for (auto const& entry : previous_) {
+        thrown.keep([&] { api.setItemsLightLayer(entry.first, entry.second); });
     }
+    thrown.pass();
 }
 
 void ZSetItemLightLayerCommand::redoIn(ILightLayerApi& api) {

@@ -25,6 +25,11 @@ public:
 protected:
     LightLayerCommand(GuardedPointer<ILightLayerApi> api, ZCommandId id, QString const& text);
 
+    /// Several roots may share a stack, and each has a layer 2.
+    [[nodiscard]] bool hasApiOf(LightLayerCommand const& other) const {
+        return api_.means(other.api_);
+    }
+
 private:
     virtual void undoIn(ILightLayerApi& api) = 0;
     virtual void redoIn(ILightLayerApi& api) = 0;

@@ -148,7 +148,14 @@ nyx::LightLayerId ZLightLayerApi::createLayer(std::string name) {
     nyx::LightLayerId const id = sceneLayers_->create_layer(unique.c_str(), nyx::LightLayerId());
     if (id.isValid()) {
         workingLayers_.create_layer(unique.c_str(), id);
-        postUpdated(id);
+        try {
+            postUpdated(id);
+        } catch (...) {
+            // The caller never learns the id, so nobody could take the layer back.
+            workingLayers_.delete_layer(id);
+            sceneLayers_->delete_n_remap_layer(*scene(), id);
+            throw;
+        }
     }
     return id;
 }
@@ -177,7 +184,7 @@ void ZLightLayerApi::deleteLayer(nyx::LightLayerId layer) {
 }
 
 void ZLightLayerApi::setLayerName(nyx::LightLayerId layer, std::string name) {
-    if (isEmpty(name) || name == layerName(layer)) {
+    if (isEmpty(name) || name.c_str() == layerName(layer)) {
         return;
     }
     if (sceneLayers_) {
@@ -239,20 +246,35 @@ void ZLightLayerApi::moveLightsToNewLayer(nyx::Span<nyx::ObjectId> lights) {
     }
 }
 
+// As text first: the stream may be set to other bases and groupings.
 void ZLightLayerApi::dump() const {
     auto const ids = layers();
+    std::string text;
+    auto const number = [&text](std::uint32_t n) { text += std::to_string(n); };
+    auto const heading = [&](nyx::LightLayerId id) {
+        text += "Layer ID: ";
+        number(id.toUint());
+        text += ", Name: " + layerName(id) + '\n';
+    };
     for (nyx::LightLayerId const id : ids) {
-        std::cout << "Layer ID: " << id.toUint() << ", Name: " << layerName(id) << '\n';
+        heading(id);
     }
-    std::cout << "Environment Light Mask: " << environmentMask_ << "\nLight Layers:\n";
+    text += "Environment Light Mask: ";
+    number(environmentMask_);
+    text += "\nLight Layers:\n";
     for (nyx::LightLayerId const id : ids) {
-        std::cout << "  Layer ID: " << id.toUint() << ", Name: " << layerName(id)
-                  << "\n    Flags: " << flags(id).bits() << "\n    Lights: ";
+        text += "  ";
+        heading(id);
+        text += "    Flags: ";
+        number(flags(id).bits());
+        text += "\n    Lights: ";
         for (nyx::ObjectId const light : lights(id)) {
-            std::cout << light.toUint() << ' ';
+            number(light.toUint());
+            text += ' ';
         }
-        std::cout << '\n';
+        text += '\n';
     }
+    std::cout.write(text.data(), static_cast<std::streamsize>(text.size()));
 }
 
 } // namespace zsg

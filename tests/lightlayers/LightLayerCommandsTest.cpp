@@ -5,6 +5,7 @@
 #include "zcore/ZUndoStack.h"
 
 #include <memory>
+#include <stdexcept>
 
 using namespace zsg;
 
@@ -35,6 +36,32 @@ TEST_F(LightLayerCommandsTest, editsOfOneLayerMergeWhenTheyDoTheSame) {
     edit->deleteLayer(first);
     edit->deleteLayer(first);
     EXPECT_EQ(stack.count(), 7);
+}
+
+TEST_F(LightLayerCommandsTest, editsOfTwoScenesDoNotMerge) {
+    ZLightLayerApi otherApi(nullptr, renderer.api());
+    otherApi.sync();
+    ZLightLayerController other(&otherApi, &stack);
+    edit->addLightsToLayer(accent, {key});
+    other.addLightsToLayer(accent, {lamp});
+    EXPECT_EQ(stack.count(), 2);
+    stack.clear();
+}
+
+// The stack takes back what an edit did before its listener threw.
+TEST_F(LightLayerCommandsTest, anEditWhoseListenerThrowsLeavesNothingWithoutAnEntry) {
+    struct Thrower : IEventListener {
+        void onEvent(Event const*) override { throw std::runtime_error("listener"); }
+    } thrower;
+    std::string const before = inScene();
+    queue.subscribe(&thrower, EventType::LightLayerUpdated);
+    EXPECT_THROW(edit->createLayer("Rim"), std::runtime_error);
+    EXPECT_THROW(edit->deleteLayer(practical), std::runtime_error);
+    EXPECT_THROW(edit->setItemsLightLayer(first, {Item(spot.toUint()), Item(lamp.toUint())}),
+                 std::runtime_error);
+    queue.unsubscribe(&thrower);
+    EXPECT_EQ(stack.count(), 0);
+    EXPECT_EQ(inScene(), before);
 }
 
 // What undo does not bring back; docs/undo.md lists it.

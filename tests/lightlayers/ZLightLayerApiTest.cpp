@@ -200,11 +200,13 @@ TEST_F(ZLightLayerApiTest, theDumpShowsTheWorkingCopyAndTheMaskOfTheLastSync) {
     api.setFlags(accent, layerFlags::Inverted);
     std::ostringstream out;
     std::streambuf* const before = std::cout.rdbuf(out.rdbuf());
+    std::cout << std::hex << std::showbase; // as somebody before left it
     api.dump();
     api.deleteLayer(accent);
     api.deleteLayer(practical);
     api.sync();
     api.dump();
+    std::cout << std::dec << std::noshowbase;
     std::cout.rdbuf(before);
     EXPECT_EQ(out.str(), R"(Layer ID: 1, Name: Default
 Layer ID: 2, Name: Accent
