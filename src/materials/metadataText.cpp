@@ -15,8 +15,11 @@ nlohmann::json metadataFromText(std::string_view text, bool& readable) {
     if (text.empty()) {
         return nullptr;
     }
-    auto const checkDepth = [](int depth, nlohmann::json::parse_event_t, nlohmann::json&) {
-        if (depth > deepest) {
+    using Event = nlohmann::json::parse_event_t;
+    auto const checkDepth = [](int depth, Event event, nlohmann::json&) {
+        // What begins says the depth around it.
+        bool const begins = event == Event::object_start || event == Event::array_start;
+        if (depth + (begins ? 1 : 0) > deepest) {
             throw TooDeep();
         }
         return true;

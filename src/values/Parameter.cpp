@@ -141,7 +141,7 @@ Parameter& Parameter::operator=(Parameter const& other) = default;
 
 Parameter::~Parameter() = default;
 
-QString Parameter::name() const { return d_->name; }
+QString Parameter::name() const { return d_ ? d_->name : QString(); }
 
 QString Parameter::displayName() const { return d_->displayName; }
 
