@@ -43,7 +43,7 @@ void runRequest(Interpreter& interpreter, Json const& request) {
             }
             words.push_back(word.get<std::string>());
         }
-        return interpreter.run(std::move(words));
+        return interpreter.run(words);
     }
     throw CommandError("expected \"command\" to be a text or a list of texts");
 }

@@ -65,7 +65,7 @@ public:
     bool binary(binary_t&) override { return false; } // JSON text has none
     bool start_object(std::size_t) override { return open(Kind::Object); }
     bool key(string_t& key) override {
-        open_.back()->keys.emplace_back(std::move(key), PlacedJson());
+        open_.back()->keys.push_back({std::move(key), PlacedJson()});
         return true;
     }
     bool end_object() override { return close(); }
@@ -80,7 +80,7 @@ private:
         PlacedJson* place = &root_;
         if (!open_.empty()) {
             PlacedJson& parent = *open_.back();
-            place = parent.kind == Kind::Object ? &parent.keys.back().second
+            place = parent.kind == Kind::Object ? &parent.keys.back().value
                                                 : &parent.elements.emplace_back();
         }
         place->kind = kind;
@@ -114,8 +114,8 @@ private:
 
 PlacedJson const* PlacedJson::find(std::string_view key) const {
     auto const found =
-        std::find_if(keys.rbegin(), keys.rend(), [key](auto const& k) { return k.first == key; });
-    return found == keys.rend() ? nullptr : &found->second;
+        std::find_if(keys.rbegin(), keys.rend(), [key](auto const& k) { return k.name == key; });
+    return found == keys.rend() ? nullptr : &found->value;
 }
 
 PlacedJson readPlacedJson(std::string_view text, int firstLine, int& failedLine) {

@@ -2,7 +2,6 @@
 
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace app {
@@ -10,16 +9,22 @@ namespace app {
 /// A JSON value that knows the line on which it stands.
 struct PlacedJson {
     enum class Kind { Null, Boolean, Number, String, Array, Object };
+    struct Key;
 
     Kind kind = Kind::Null;
     int line = 0;
     double number = 0;
-    std::string text;                                     ///< strings
-    std::vector<PlacedJson> elements;                     ///< arrays
-    std::vector<std::pair<std::string, PlacedJson>> keys; ///< objects, in the order of the file
+    std::string text;                 ///< strings
+    std::vector<PlacedJson> elements; ///< arrays
+    std::vector<Key> keys;            ///< objects, in the order of the file
 
     /// What JSON parsers go by when a key stands twice: the last value; null when there is none.
     [[nodiscard]] PlacedJson const* find(std::string_view key) const;
+};
+
+struct PlacedJson::Key {
+    std::string name;
+    PlacedJson value;
 };
 
 /// Reads a text whose first line has the number `firstLine`. When it is no JSON by the letter of
