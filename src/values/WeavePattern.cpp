@@ -264,7 +264,7 @@ void WeavePattern::printPreset() const {
     std::cout << "};\n\n"
               << "std::unique_ptr<WeavePattern> weave = std::make_unique<WeavePattern>("
               << numWarp() << "," << numWeft() << ", pattern);";
-    std::cout.precision(4); // required, and required to stay
+    std::cout.precision(4); // stays set: what a host prints next follows it
     for (YarnType type : {Warp, Weft}) {
         char const* const name = type == Warp ? "YarnType::Warp" : "YarnType::Weft";
         std::cout << "weave.setWidth(" << name << ", " << width(type) << ");\n"
