@@ -64,12 +64,12 @@ Mode const modes[layerCount] = {
 /// Noise of every alpha, on all tiles.
 LayerPixels painted(int resolution, unsigned seed) {
     LayerPixels pixels(resolution);
-    std::minstd_rand random(seed);
+    std::mt19937 random(seed);
     for (int row = 0; row < pixels.tilesAcross(); ++row) {
         for (int column = 0; column < pixels.tilesAcross(); ++column) {
             PixelTile& tile = pixels.writableTile(column, row);
             for (int i = 0; i < PixelTile::texels; ++i) {
-                auto const bits = static_cast<unsigned>(random());
+                auto const bits = static_cast<std::uint32_t>(random());
                 unsigned const alpha = bits & 0xff;
                 tile.planes[PixelTile::alpha][i] = static_cast<std::uint8_t>(alpha);
                 for (int plane = 0; plane < PixelTile::alpha; ++plane) {
