@@ -4,6 +4,7 @@
 #include "zsg/colors/IColorDB.h"
 #include "zsg/colors/IColorLinkHandler.h"
 
+#include <algorithm>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
@@ -94,6 +95,7 @@ std::string ZColorLinker::uniqueColorName(std::string const& name) {
 
 nyx::ColorId ZColorLinker::importColor(ZColorExt& color) {
     std::vector<ZColorExt::ZColorWithId> elements;
+    elements.reserve(static_cast<std::size_t>(std::max(0, color.nColors())));
     for (int i = 0; i < color.nColors(); ++i) {
         elements.emplace_back(color.getColor(i), color.getSubColorId(i));
     }

@@ -46,8 +46,10 @@ void readRow(LayerPixels const& pixels, int plane, int y, std::vector<float>& ro
         PixelTile const* const tile = pixels.tile(column, y / edge).get();
         int const count = std::min(edge, pixels.resolution() - column * edge);
         for (int x = 0; x < count; ++x) {
-            row[static_cast<std::size_t>(column * edge + x)] =
-                tile == nullptr ? 0.0f : tile->planes[plane][y % edge * edge + x];
+            int const at = column * edge + x;
+            row[static_cast<std::size_t>(at)] =
+                tile == nullptr ? 0.0f
+                                : static_cast<float>(tile->planes[plane][y % edge * edge + x]);
         }
     }
 }

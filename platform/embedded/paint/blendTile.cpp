@@ -7,6 +7,9 @@ namespace nyx::embedded {
 
 namespace {
 
+/// Rounds what is not negative; the library's own rounding does not fit into vector registers.
+constexpr float half = 0.5f;
+
 using Mode = nyx::ColorBlendMode;
 using Word = std::uint16_t; // eight of them fit a vector register; sums may wrap on the way
 
@@ -102,7 +105,7 @@ void blendPlane(std::uint8_t* __restrict backdrop, std::uint8_t const* __restric
             float const both = blended<mode>(static_cast<float>(s), static_cast<float>(d),
                                              static_cast<float>(a), static_cast<float>(b));
             sum = plus(plus(times(s, minus(255, b)), times(d, minus(255, a))),
-                       static_cast<Word>(static_cast<int>(both + 0.5f)));
+                       static_cast<Word>(static_cast<int>(both + half)));
         } else {
             sum = plus(plus(times(s, minus(255, b)), times(d, minus(255, a))),
                        blended<mode>(s, d, a, b));

@@ -32,19 +32,20 @@ void copyOut(PixelTile const& tile, Image& image, int left, int top) {
     int const columns = std::min(edge, image.width - left);
     int const rows = std::min(edge, image.height - top);
     for (int y = 0; y < rows; ++y) {
-        std::uint8_t const* const red = tile.planes[0] + y * edge;
-        std::uint8_t const* const green = tile.planes[1] + y * edge;
-        std::uint8_t const* const blue = tile.planes[2] + y * edge;
-        std::uint8_t const* const alpha = tile.planes[3] + y * edge;
-        std::uint8_t* const to = image.rgba.data() + (static_cast<std::size_t>(top + y) *
-                                                          static_cast<std::size_t>(image.width) +
-                                                      static_cast<std::size_t>(left)) *
-                                                         4;
-        for (int x = 0; x < columns; ++x) {
-            to[4 * x] = red[x];
-            to[4 * x + 1] = green[x];
-            to[4 * x + 2] = blue[x];
-            to[4 * x + 3] = alpha[x];
+        int const row = y * edge;
+        std::uint8_t const* const red = tile.planes[0] + row;
+        std::uint8_t const* const green = tile.planes[1] + row;
+        std::uint8_t const* const blue = tile.planes[2] + row;
+        std::uint8_t const* const alpha = tile.planes[3] + row;
+        std::uint8_t* to = image.rgba.data() + (static_cast<std::size_t>(top + y) *
+                                                    static_cast<std::size_t>(image.width) +
+                                                static_cast<std::size_t>(left)) *
+                                                   4;
+        for (int x = 0; x < columns; ++x, to += 4) {
+            to[0] = red[x];
+            to[1] = green[x];
+            to[2] = blue[x];
+            to[3] = alpha[x];
         }
     }
 }

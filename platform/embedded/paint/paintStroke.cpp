@@ -20,12 +20,15 @@ Stroke::Point nearby(Stroke::Point p) {
     return {std::clamp(p.x, -farthest, farthest), std::clamp(p.y, -farthest, farthest)};
 }
 
+/// Rounds what is not negative; the library's own rounding does not fit into vector registers.
+constexpr float half = 0.5f;
+
 constexpr int divideBy255(int x) { return (x + 128 + ((x + 128) >> 8)) >> 8; }
 
 } // namespace
 
 std::uint8_t toByte(float part) {
-    return part > 0 ? static_cast<std::uint8_t>(std::min(part, 1.0f) * 255.0f + 0.5f)
+    return part > 0 ? static_cast<std::uint8_t>(std::min(part, 1.0f) * 255.0f + half)
                     : std::uint8_t{0};
 }
 
@@ -52,16 +55,16 @@ void StrokeMask::addDab(Stroke::Point center, float radius, float hardness) {
     constexpr int edge = PixelTile::edge;
     for (int tileTop = top / edge * edge; tileTop < bottom; tileTop += edge) {
         for (int tileLeft = left / edge * edge; tileLeft < right; tileLeft += edge) {
-            auto& tile =
-                tiles_[static_cast<std::size_t>(tileTop / edge * tilesAcross_ + tileLeft / edge)];
+            int const number = tileTop / edge * tilesAcross_ + tileLeft / edge;
+            auto& tile = tiles_[static_cast<std::size_t>(number)];
             if (!tile) {
                 tile = std::make_unique<Tile>();
             }
             int const firstX = std::max(left, tileLeft);
             int const count = std::min(right, tileLeft + edge) - firstX;
             for (int y = std::max(top, tileTop); y < std::min(bottom, tileTop + edge); ++y) {
-                std::uint8_t* const row =
-                    tile->coverage + (y - tileTop) * edge + (firstX - tileLeft);
+                int const begin = (y - tileTop) * edge + (firstX - tileLeft);
+                std::uint8_t* const row = tile->coverage + begin;
                 float const dy = static_cast<float>(y) + 0.5f - center.y;
                 float const startX = static_cast<float>(firstX) + 0.5f - center.x;
                 for (int i = 0; i < count; ++i) {
@@ -69,7 +72,7 @@ void StrokeMask::addDab(Stroke::Point center, float radius, float hardness) {
                     float const distance = std::sqrt(dx * dx + dy * dy);
                     float const t = std::clamp((outer - distance) * slope, 0.0f, 1.0f);
                     float const smooth = t * t * (3.0f - 2.0f * t);
-                    int const covered = static_cast<int>(smooth * 255.0f + 0.5f);
+                    int const covered = static_cast<int>(smooth * 255.0f + half);
                     row[i] = static_cast<std::uint8_t>(std::max<int>(row[i], covered));
                 }
             }
@@ -82,8 +85,8 @@ void StrokeMask::apply(LayerPixels& pixels, nyxColor_rgba const& color, bool era
     int const straight[] = {toByte(color.r), toByte(color.g), toByte(color.b), 255};
     for (int row = 0; row < tilesAcross_; ++row) {
         for (int column = 0; column < tilesAcross_; ++column) {
-            Tile const* const mask =
-                tiles_[static_cast<std::size_t>(row * tilesAcross_ + column)].get();
+            int const number = row * tilesAcross_ + column;
+            Tile const* const mask = tiles_[static_cast<std::size_t>(number)].get();
             if (mask == nullptr || (erase && !pixels.tile(column, row))) {
                 continue;
             }
