@@ -1,0 +1,115 @@
+// The layers of the current surface. A layer is given by its index from the top or by its name.
+
+#include "host/ColorArguments.h"
+#include "host/Command.h"
+#include "host/Host.h"
+#include "host/PaintState.h"
+#include "host/printable.h"
+
+#include "zsg/painting/IPainterSurface.h"
+
+#include <ostream>
+
+namespace app {
+
+namespace {
+
+void list(Host& host, Arguments&) {
+    zsg::IPainterSurface& surface = currentSurface(host);
+    unsigned index = 0;
+    for (nyxLayerInfo const& layer : surface.layers()) {
+        host.out() << (index == surface.editLayer() ? "  * " : "    ") << index << ' '
+                   << (layer.name ? printable(layer.name) : std::string("(no name)"));
+        if (layer.blend_mode != nyx::ColorBlendMode::Normal) {
+            host.out() << ", " << blendModeName(layer.blend_mode);
+        }
+        nyxColor_rgba const& c = layer.background;
+        if (c.a != 0) {
+            host.out() << ", on " << c.r << ' ' << c.g << ' ' << c.b << ' ' << c.a;
+        }
+        host.out() << (layer.visible ? "" : ", hidden") << (layer.deleted ? ", deleted" : "")
+                   << '\n';
+        ++index;
+    }
+}
+
+void add(Host& host, Arguments& arguments) {
+    int const index = arguments.empty() ? 0 : arguments.integer("an index");
+    arguments.done();
+    currentSurface(host).addLayer(index);
+}
+
+template <bool deleted>
+void setDeleted(Host& host, Arguments& arguments) {
+    unsigned const layer = takePaintLayer(host, arguments);
+    arguments.done();
+    currentSurface(host).setLayerDeleted(layer, deleted);
+}
+
+template <bool visible>
+void setVisible(Host& host, Arguments& arguments) {
+    unsigned const layer = takePaintLayer(host, arguments);
+    arguments.done();
+    currentSurface(host).setLayerVisibility(layer, visible);
+}
+
+void blend(Host& host, Arguments& arguments) {
+    unsigned const layer = takePaintLayer(host, arguments);
+    nyx::ColorBlendMode const mode = takeBlendMode(arguments);
+    arguments.done();
+    currentSurface(host).setLayerBlend(layer, mode);
+}
+
+void name(Host& host, Arguments& arguments) {
+    unsigned const layer = takePaintLayer(host, arguments);
+    std::string const text = arguments.word("a name");
+    arguments.done();
+    // The renderer is told at once, and so has to have the layer where the list has it.
+    host.taskQueue().waitIdle();
+    currentSurface(host).setLayerName(layer, QString::fromStdString(text));
+}
+
+void move(Host& host, Arguments& arguments) {
+    unsigned const from = takePaintLayer(host, arguments);
+    unsigned const to = takePaintLayer(host, arguments);
+    arguments.done();
+    currentSurface(host).moveLayer(from, to);
+}
+
+void background(Host& host, Arguments& arguments) {
+    unsigned const layer = takePaintLayer(host, arguments);
+    nyxColor_rgba const color = takeRgba(arguments);
+    bool const isPreview = arguments.flag("preview");
+    arguments.done();
+    if (!currentSurface(host).setLayerBackgroundColor(layer, color, !isPreview)) {
+        throw CommandError("it has that background already");
+    }
+}
+
+void edit(Host& host, Arguments& arguments) {
+    unsigned const layer = takePaintLayer(host, arguments);
+    arguments.done();
+    currentSurface(host).setEditLayer(layer);
+}
+
+constexpr Command table[] = {
+    {"layer list", "", "list the layers from the top, * marks the edit layer", list},
+    {"layer add", "[INDEX]", "add one, above that of the index or at the top", add},
+    {"layer delete", "LAYER", "mark it as deleted", setDeleted<true>},
+    {"layer undelete", "LAYER",
+     "what the library makes of it: another entry that deletes; use undo", setDeleted<false>},
+    {"layer show", "LAYER", "make it visible", setVisible<true>},
+    {"layer hide", "LAYER", "make it invisible", setVisible<false>},
+    {"layer blend", "LAYER MODE", "how it is laid over those below", blend},
+    {"layer name", "LAYER NAME", "name it; \"\" takes the name away", name},
+    {"layer move", "LAYER LAYER", "take the first to where the second is", move},
+    {"layer background", "LAYER R G B [A] [preview]",
+     "the colour beneath the paint; preview: no undo", background},
+    {"layer edit", "LAYER", "the layer that paint goes to (no undo)", edit},
+};
+
+} // namespace
+
+Family layerFamily() { return {"the layers of the current surface", table}; }
+
+} // namespace app

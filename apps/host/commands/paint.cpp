@@ -1,0 +1,119 @@
+// Strokes on the edit layer of the current surface.
+
+#include "host/ColorArguments.h"
+#include "host/Command.h"
+#include "host/Host.h"
+#include "host/PaintState.h"
+
+#include "nyxembedded/LayerPixels.h"
+#include "painting/PaintCommand.h"
+#include "zsg/painting/IPainterSurface.h"
+
+#include <ostream>
+#include <utility>
+#include <vector>
+
+namespace app {
+
+namespace {
+
+using nyx::embedded::LayerPixels;
+using nyx::embedded::Stroke;
+using Points = std::vector<Stroke::Point>;
+
+void with(Host& host, Arguments& arguments) {
+    auto const radius = static_cast<float>(arguments.real("a radius in texels"));
+    auto const hardness = static_cast<float>(arguments.real("a hardness, 0 to 1"));
+    nyxColor_rgba const color = takeRgba(arguments);
+    arguments.done();
+    if (!(radius > 0 && radius <= 16384)) {
+        throw CommandError("expected a radius above 0, at most 16384");
+    }
+    Stroke& stroke = host.sceneState<PaintState>().stroke;
+    stroke.radius = radius;
+    stroke.hardness = hardness;
+    stroke.color = color;
+}
+
+Points takePoints(Arguments& arguments) {
+    Points points;
+    do {
+        auto const x = static_cast<float>(arguments.real("x of a point"));
+        points.push_back({x, static_cast<float>(arguments.real("y of a point"))});
+    } while (!arguments.empty());
+    return points;
+}
+
+/// A smooth line through all points (Catmull and Rom's).
+Points smooth(Points const& through) {
+    constexpr int pieces = 12;
+    Points line;
+    auto const at = [&through](std::ptrdiff_t i) {
+        auto const last = static_cast<std::ptrdiff_t>(through.size()) - 1;
+        return through[static_cast<std::size_t>(i < 0 ? 0 : i > last ? last : i)];
+    };
+    for (std::ptrdiff_t i = 0; i + 1 < static_cast<std::ptrdiff_t>(through.size()); ++i) {
+        Stroke::Point const a = at(i - 1), b = at(i), c = at(i + 1), d = at(i + 2);
+        for (int k = 0; k < pieces; ++k) {
+            float const t = static_cast<float>(k) / pieces;
+            auto const blend = [t](float p, float q, float r, float s) {
+                return 0.5f * (2 * q + (r - p) * t + (2 * p - 5 * q + 4 * r - s) * t * t +
+                               (3 * q - p - 3 * r + s) * t * t * t);
+            };
+            line.push_back({blend(a.x, b.x, c.x, d.x), blend(a.y, b.y, c.y, d.y)});
+        }
+    }
+    line.push_back(through.back());
+    return line;
+}
+
+void paint(Host& host, Stroke stroke, char const* text) {
+    zsg::IPainterSurface& surface = currentSurface(host);
+    auto const layers = surface.layers();
+    if (surface.editLayer() >= layers.size() || layers[surface.editLayer()].deleted) {
+        throw CommandError("no layer is being edited; \"layer edit\" chooses one");
+    }
+    host.undoStack().push(new example::PaintCommand(
+        QString::fromUtf8(text), host.renderer().painting(), host.taskQueue(),
+        *host.renderer().api(), surface.id(), layers[surface.editLayer()].id,
+        [stroke = std::move(stroke)](LayerPixels& pixels) { paintStroke(pixels, stroke); }));
+}
+
+enum class Line { Straight, Smooth };
+
+template <Line line, bool erase>
+void stroke(Host& host, Arguments& arguments) {
+    Stroke made = host.sceneState<PaintState>().stroke;
+    made.points = takePoints(arguments);
+    if (line == Line::Smooth) {
+        made.points = smooth(made.points);
+    }
+    made.erase = erase;
+    paint(host, std::move(made), erase ? "Erase" : "Paint");
+}
+
+void memory(Host& host, Arguments&) {
+    host.taskQueue().waitIdle();
+    std::size_t bytes = 0;
+    for (int i = 0; i < host.undoStack().count(); ++i) {
+        auto const* const command =
+            dynamic_cast<example::PaintCommand const*>(host.undoStack().command(i));
+        bytes += command ? command->bytes() : 0;
+    }
+    host.out() << "  " << bytes / 1024 << " KiB of tiles in the history\n";
+}
+
+constexpr Command table[] = {
+    {"paint with", "RADIUS HARDNESS R G B [A]", "the brush of the coming strokes", with},
+    {"paint line", "X Y [X Y...]", "paint along a line; one point makes a dot",
+     stroke<Line::Straight, false>},
+    {"paint curve", "X Y [X Y...]", "paint along a smooth line", stroke<Line::Smooth, false>},
+    {"paint erase", "X Y [X Y...]", "take paint away along a line", stroke<Line::Straight, true>},
+    {"paint memory", "", "what the history keeps for undoing strokes (single entries)", memory},
+};
+
+} // namespace
+
+Family paintFamily() { return {"strokes on the edit layer of the current surface", table}; }
+
+} // namespace app

@@ -1,0 +1,86 @@
+// Painted surfaces.
+
+#include "host/Command.h"
+#include "host/Host.h"
+#include "host/PaintState.h"
+#include "host/printable.h"
+
+#include "nyxembedded/Painting.h"
+#include "zsg/painting/IPainter.h"
+#include "zsg/painting/IPainterSurface.h"
+
+#include <ostream>
+
+namespace app {
+
+namespace {
+
+void list(Host& host, Arguments&) {
+    auto const surfaces = painter(host).surfaces();
+    for (zsg::IPainterSurface* const surface : surfaces) {
+        auto const info = host.renderer().painting().surface(surface->id());
+        host.out() << (surface == &currentSurface(host) ? "  * " : "    ")
+                   << surface->id().toUint();
+        if (info) {
+            host.out() << ' ' << printable(info->name) << (info->name.empty() ? "" : ", ")
+                       << info->resolution << " x " << info->resolution;
+        }
+        host.out() << ", " << surface->layers().size() << " layers"
+                   << (surface->deleted() ? ", deleted" : "") << '\n';
+    }
+}
+
+void make(Host& host, Arguments& arguments) {
+    int const resolution = arguments.integer("a resolution in texels");
+    bool const isCopy = !arguments.empty();
+    nyx::SurfaceId const source(isCopy ? arguments.number("the id of a surface") : ~0u);
+    arguments.done();
+    host.taskQueue().waitIdle();
+    nyx::SurfaceId const id = isCopy ? painter(host).createSurface(resolution, source)
+                                     : painter(host).createSurface(resolution);
+    if (!id.isValid()) {
+        throw CommandError("the renderer makes no such surface");
+    }
+    host.sceneState<PaintState>().surface = id;
+    host.out() << "  surface " << id.toUint() << '\n';
+}
+
+void use(Host& host, Arguments& arguments) {
+    zsg::IPainterSurface& surface = takeSurface(host, arguments);
+    arguments.done();
+    host.sceneState<PaintState>().surface = surface.id();
+}
+
+void setDeleted(Host& host, Arguments& arguments) {
+    zsg::IPainterSurface& surface = takeSurface(host, arguments);
+    bool const deleted = arguments.onOff();
+    arguments.done();
+    surface.setDeleted(deleted);
+}
+
+void resolution(Host& host, Arguments& arguments) {
+    zsg::IPainterSurface& surface = takeSurface(host, arguments);
+    unsigned const texels = arguments.number("a resolution in texels");
+    arguments.done();
+    host.taskQueue().waitIdle();
+    if (!painter(host).changeResolution(surface.id(), texels)) {
+        throw CommandError("the renderer does not take that resolution");
+    }
+}
+
+void reload(Host& host, Arguments&) { painter(host).reload(); }
+
+constexpr Command table[] = {
+    {"surface list", "", "list the surfaces, * marks the current one", list},
+    {"surface make", "TEXELS [SURFACE]", "make one, with the layers of another, and use it", make},
+    {"surface use", "SURFACE", "the one that layer, paint and picture work on", use},
+    {"surface deleted", "SURFACE on|off", "mark it as deleted, or not (no undo)", setDeleted},
+    {"surface resolution", "SURFACE TEXELS", "resample what is painted (no undo)", resolution},
+    {"surface reload", "", "take up what the renderer has made by itself", reload},
+};
+
+} // namespace
+
+Family surfaceFamily() { return {"painted surfaces", table}; }
+
+} // namespace app
