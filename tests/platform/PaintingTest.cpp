@@ -1,0 +1,170 @@
+#include "nyxembedded/Painting.h"
+
+#include "nyxembedded/RenderTaskQueue.h"
+#include "nyxembedded/Renderer.h"
+#include "painting/PaintCommand.h"
+#include "zcore/ZUndoStack.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+using namespace nyx::embedded;
+
+Stroke dot(float x, float y, float radius, nyxColor_rgba color = {1, 0, 0, 1}) {
+    return {{{x, y}}, radius, 1, color};
+}
+
+TEST(LayerPixelsTest, sharesTilesUntilOneSideWrites) {
+    LayerPixels pixels(200);
+    EXPECT_EQ(pixels.tilesAcross(), 4);
+    EXPECT_EQ(pixels.tileCount(), 0u);
+    paintStroke(pixels, dot(64, 64, 10)); // on four tiles
+    EXPECT_EQ(pixels.tileCount(), 4u);
+    LayerPixels const snapshot = pixels;
+    EXPECT_TRUE(snapshot.tile(0, 0) == pixels.tile(0, 0));
+    paintStroke(pixels, dot(20, 20, 5, {0, 0, 1, 1}));
+    EXPECT_FALSE(snapshot.tile(0, 0) == pixels.tile(0, 0));
+    EXPECT_TRUE(snapshot.tile(1, 1) == pixels.tile(1, 1)) << "untouched ones stay shared";
+    EXPECT_EQ(snapshot.texel(20, 20)[3], 0);
+    EXPECT_EQ(pixels.texel(20, 20), (std::array<std::uint8_t, 4>{0, 0, 255, 255}));
+    EXPECT_FALSE(snapshot == pixels);
+    pixels.setTile(0, 0, snapshot.tile(0, 0));
+    EXPECT_TRUE(snapshot == pixels);
+    pixels.setTile(3, 3, TileHandle(PixelTile()));
+    EXPECT_TRUE(snapshot == pixels) << "a transparent tile is as good as none";
+    EXPECT_EQ(pixels.texel(-1, 0)[3] + pixels.texel(0, 200)[3], 0);
+}
+
+TEST(StrokeTest, coversDiscsEvenlyAndSurvivesAnyNumbers) {
+    LayerPixels pixels(128);
+    Stroke soft = dot(64, 64, 40, {1, 0.5f, 0, 0.5f});
+    soft.hardness = 0.5f;
+    paintStroke(pixels, soft);
+    EXPECT_EQ(pixels.texel(64, 64), (std::array<std::uint8_t, 4>{128, 64, 0, 128}));
+    EXPECT_EQ(pixels.texel(82, 64)[3], 128) << "whole up to half of the radius";
+    EXPECT_NEAR(pixels.texel(93, 64)[3], 64, 6) << "half-way down";
+    EXPECT_EQ(pixels.texel(105, 64)[3], 0);
+    int last = 256;
+    for (int x = 64; x < 110; ++x) {
+        EXPECT_LE(pixels.texel(x, 64)[3], last);
+        last = pixels.texel(x, 64)[3];
+    }
+
+    LayerPixels line(128);
+    paintStroke(line, {{{20, 20}, {100, 20}, {20, 20}}, 6, 1, {0, 0, 0, 0.5f}});
+    for (int x = 18; x < 102; ++x) {
+        EXPECT_EQ(line.texel(x, 20)[3], 128) << "overlapping dabs do not add up, " << x;
+    }
+    Stroke rub = dot(60, 20, 20);
+    rub.erase = true;
+    paintStroke(line, rub);
+    EXPECT_EQ(line.texel(60, 20)[3], 0);
+    EXPECT_EQ(line.texel(90, 20)[3], 128);
+
+    LayerPixels empty(64);
+    float const inf = std::numeric_limits<float>::infinity(), nan = std::nanf("");
+    for (Stroke const& stroke :
+         {dot(nan, 3, 5), dot(inf, 3, 5), dot(3, 3, nan), dot(3, 3, inf), dot(3, 3, -1),
+          dot(500, 500, 5), dot(-1e30f, 0, 5), Stroke(), dot(3, 3, 5, {1, 1, 1, nan})}) {
+        paintStroke(empty, stroke);
+        EXPECT_TRUE(empty == LayerPixels(64));
+    }
+    paintStroke(empty, {{{0, 0}, {1e30f, 10}}, 1e6f, nan, {9, -1, nan, 1}, 0});
+    EXPECT_EQ(empty.texel(5, 5), (std::array<std::uint8_t, 4>{255, 0, 0, 255}));
+    LayerPixels none(0);
+    paintStroke(none, dot(0, 0, 5));
+}
+
+TEST(LayerPixelsTest, keepsThePictureAtAnotherResolution) {
+    LayerPixels full(96);
+    paintStroke(full, dot(48, 48, 500, {0.2f, 0.4f, 1, 1}));
+    LayerPixels halves(96); // the left half
+    for (int y = 0; y < 96; ++y) {
+        for (int x = 0; x < 48; ++x) {
+            halves.writableTile(x / 64, y / 64).planes[3][y % 64 * 64 + x % 64] = 200;
+        }
+    }
+    for (int const to : {1, 33, 95, 96, 97, 192, 300}) {
+        LayerPixels const scaled = full.resampled(to);
+        EXPECT_EQ(scaled.resolution(), to);
+        EXPECT_EQ(scaled.texel(0, 0), full.texel(0, 0)) << to;
+        EXPECT_EQ(scaled.texel(to - 1, to - 1), full.texel(0, 0)) << to;
+        if (to > 10) {
+            LayerPixels const other = halves.resampled(to);
+            EXPECT_EQ(other.texel(to / 4, to / 2)[3], 200) << to;
+            EXPECT_EQ(other.texel(to * 3 / 4, to / 2)[3], 0) << to;
+        }
+    }
+    EXPECT_EQ(halves.resampled(1).texel(0, 0)[3], 100) << "the average";
+    EXPECT_EQ(LayerPixels(64).resampled(128).tileCount(), 0u);
+}
+
+class PaintCommandTest : public testing::Test {
+protected:
+    std::unique_ptr<example::PaintCommand> command(Stroke stroke, std::uint32_t layer = 1) {
+        return std::make_unique<example::PaintCommand>(
+            QStringLiteral("Paint"), painting, queue, *renderer.api(), id, layer,
+            [stroke](LayerPixels& pixels) { paintStroke(pixels, stroke); });
+    }
+    LayerPixels pixels() {
+        queue.waitIdle();
+        return painting.pixels(id, 1).value();
+    }
+
+    Renderer renderer;
+    Painting& painting = renderer.painting();
+    nyx::SurfaceId id = renderer.addSurface("", 256);
+    RenderTaskQueue queue{RenderTaskQueue::Mode::Manual};
+    ZUndoStack undo;
+};
+
+TEST_F(PaintCommandTest, undoPutsBackTheTilesThatAStrokeChanged) {
+    auto* const first = command(dot(30, 30, 10)).release();
+    undo.push(first);
+    EXPECT_EQ(renderer.refreshCount(), 1u);
+    EXPECT_EQ(first->bytes(), 0u) << "the render thread has not painted";
+    LayerPixels const one = pixels();
+    EXPECT_EQ(first->bytes(), sizeof(PixelTile)) << "no tile before, one after";
+    auto* const second = command(dot(64, 30, 10, {0, 0, 1, 1})).release();
+    undo.push(second);
+    LayerPixels const two = pixels();
+    EXPECT_FALSE(one == two);
+    EXPECT_EQ(second->bytes(), 3 * sizeof(PixelTile));
+
+    undo.undo();
+    EXPECT_TRUE(pixels() == one);
+    undo.undo();
+    EXPECT_TRUE(pixels() == LayerPixels(256));
+    undo.redo();
+    undo.redo();
+    EXPECT_TRUE(pixels() == two);
+    EXPECT_TRUE(pixels().tile(0, 0) == two.tile(0, 0)) << "the same tiles, not painted again";
+}
+
+TEST_F(PaintCommandTest, taskOutlivesItsCommandAndRespectsChanges) {
+    undo.push(command(dot(30, 30, 10)).release());
+    undo.clear();
+    EXPECT_EQ(pixels().texel(30, 30)[0], 255) << "it was queued";
+    undo.push(command(dot(30, 30, 10, {0, 1, 0, 1})).release());
+    queue.waitIdle();
+    undo.push(command(dot(9, 9, 3), 77).release()); // no such layer
+    EXPECT_TRUE(undo.undo());
+    LayerPixels const before = pixels();
+    EXPECT_FALSE(painting.setPixels(id, 1, LayerPixels(128))) << "another resolution";
+    EXPECT_FALSE(painting.setPixels(nyx::SurfaceId(9), 1, LayerPixels(256)));
+    EXPECT_FALSE(painting.paint(id, 9, dot(1, 1, 1)));
+    EXPECT_FALSE(painting.pixels(id, 9).has_value());
+    EXPECT_TRUE(painting.composite(nyx::SurfaceId(9)).rgba.empty());
+    EXPECT_TRUE(pixels() == before);
+    EXPECT_GT(painting.surface(id)->ignoredCalls, 0u);
+
+    ASSERT_TRUE(renderer.loadSceneText(renderer.saveSceneText()).empty());
+    undo.undo(); // the surface is another one now, or gone
+    queue.waitIdle();
+}
+
+} // namespace
