@@ -196,6 +196,7 @@ void ZPaintSurface::setLayerBackgroundColorInternal(unsigned int id, nyxColor_rg
     }
 }
 
+// Takes its text as setLayerName() does. NOLINTNEXTLINE(performance-unnecessary-value-param)
 void ZPaintSurface::setLayerNameInternal(unsigned int id, QString name) {
     unsigned int const index = layerIndexOf(layers_, id);
     if (index == noLayer) {
