@@ -19,8 +19,9 @@ class Host;
 
 /// What the commands of surfaces, layers and painting keep between them.
 struct PaintState {
-    nyx::SurfaceId surface; ///< the current one
-    nyx::embedded::Stroke stroke{{}, 8, 0.8f, {0, 0, 0, 1}};
+    nyx::SurfaceId surface;                                  ///< the current one
+    nyx::embedded::Stroke stroke{{}, 8, 0.8f, {0, 0, 0, 1}}; ///< the plain tip
+    bool withBrush = true; ///< the current brush paints, where there is one
 };
 
 [[nodiscard]] zsg::IPainter& painter(Host& host);

@@ -2,9 +2,12 @@
 
 #include "host/ColorArguments.h"
 #include "host/Command.h"
+#include "host/CurrentBrush.h"
 #include "host/Host.h"
 #include "host/PaintState.h"
 
+#include "nyxembedded/BrushSettings.h"
+#include "nyxembedded/BrushStroke.h"
 #include "nyxembedded/LayerPixels.h"
 #include "painting/PaintCommand.h"
 #include "zsg/painting/IPainterSurface.h"
@@ -29,10 +32,16 @@ void with(Host& host, Arguments& arguments) {
     if (!(radius > 0 && radius <= 16384)) {
         throw CommandError("expected a radius above 0, at most 16384");
     }
+    host.sceneState<PaintState>().withBrush = false;
     Stroke& stroke = host.sceneState<PaintState>().stroke;
     stroke.radius = radius;
     stroke.hardness = hardness;
     stroke.color = color;
+}
+
+void brush(Host& host, Arguments&) {
+    static_cast<void>(currentBrush(host)); // or a complaint
+    host.sceneState<PaintState>().withBrush = true;
 }
 
 Points takePoints(Arguments& arguments) {
@@ -67,6 +76,25 @@ Points smooth(Points const& through) {
     return line;
 }
 
+/// What paints a stroke: the brush as its nodes are now, or the plain tip.
+example::PaintCommand::Paint painterOf(Host& host, Stroke stroke) {
+    zsg::IPainterBrush const* const brush = host.sceneState<CurrentBrush>().brush.get();
+    if (brush && host.sceneState<PaintState>().withBrush && !stroke.erase) {
+        auto const settings =
+            nyx::embedded::brushSettings(*host.renderer().scene(), brush->brushNode());
+        if (!settings) {
+            throw CommandError("the brush has no nodes");
+        }
+        nyx::embedded::BrushStroke pen;
+        for (Stroke::Point const& point : stroke.points) {
+            pen.points.push_back({point.x, point.y, 1});
+        }
+        return
+            [brush = *settings, pen](LayerPixels& pixels) { paintBrushStroke(pixels, brush, pen); };
+    }
+    return [stroke = std::move(stroke)](LayerPixels& pixels) { paintStroke(pixels, stroke); };
+}
+
 void paint(Host& host, Stroke stroke, char const* text) {
     zsg::IPainterSurface& surface = currentSurface(host);
     auto const layers = surface.layers();
@@ -76,7 +104,7 @@ void paint(Host& host, Stroke stroke, char const* text) {
     host.undoStack().push(new example::PaintCommand(
         QString::fromUtf8(text), host.renderer().painting(), host.taskQueue(),
         *host.renderer().api(), surface.id(), layers[surface.editLayer()].id,
-        [stroke = std::move(stroke)](LayerPixels& pixels) { paintStroke(pixels, stroke); }));
+        painterOf(host, std::move(stroke))));
 }
 
 enum class Line { Straight, Smooth };
@@ -104,7 +132,8 @@ void memory(Host& host, Arguments&) {
 }
 
 constexpr Command table[] = {
-    {"paint with", "RADIUS HARDNESS R G B [A]", "the brush of the coming strokes", with},
+    {"paint with", "RADIUS HARDNESS R G B [A]", "paint with a plain round tip", with},
+    {"paint brush", "", "paint with the current brush, as at first", brush},
     {"paint line", "X Y [X Y...]", "paint along a line; one point makes a dot",
      stroke<Line::Straight, false>},
     {"paint curve", "X Y [X Y...]", "paint along a smooth line", stroke<Line::Smooth, false>},
