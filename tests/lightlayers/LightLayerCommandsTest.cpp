@@ -3,9 +3,11 @@
 #include "lightlayers/LightScene.h"
 #include "lightlayers/ZLightLayerController.h"
 #include "zcore/ZUndoStack.h"
+#include "zsg/core/Event.h"
 
 #include <memory>
 #include <stdexcept>
+#include <vector>
 
 using namespace zsg;
 
@@ -51,7 +53,11 @@ TEST_F(LightLayerCommandsTest, editsOfTwoScenesDoNotMerge) {
 // The stack takes back what an edit did before its listener threw.
 TEST_F(LightLayerCommandsTest, anEditWhoseListenerThrowsLeavesNothingWithoutAnEntry) {
     struct Thrower : IEventListener {
-        void onEvent(Event const*) override { throw std::runtime_error("listener"); }
+        void onEvent(Event const* event) override {
+            left.emplace_back(event); // nobody deletes an event whose listener throws
+            throw std::runtime_error("listener");
+        }
+        std::vector<std::unique_ptr<Event const>> left;
     } thrower;
     std::string const before = inScene();
     queue.subscribe(&thrower, EventType::LightLayerUpdated);
