@@ -45,13 +45,14 @@ ROWS = [
     ("nyxembedded", "platform/embedded/nyxembedded/*",
      "declarations export core colors materials lightlayers painting|material manager"
      "|facade headers|nyxembedded headers"),
+    ("example of painting", "examples/painting/*", "declarations|facade headers"),
     ("host", "apps/host/*",
      "declarations export core values colors materials lightlayers painting|material manager"
-     "|facade headers|nyxembedded headers"),
+     "|facade headers|nyxembedded headers|example of painting"),
     ("console", "apps/console/*", "host"),
 ]
 ROOTS = ["include", "src", "platform/include", "platform/embedded/include", "platform/embedded",
-         "apps"]
+         "apps", "examples"]
 INCLUDE = re.compile(r'^#include "([^"]+)"', re.M)
 
 
