@@ -48,13 +48,14 @@ gate_fuzz() {
         return 1
     local fuzzer name seconds=${ZSG_FUZZ_SECONDS:-20}
     export seconds
+    # Whole paths: some targets change into a folder of their own.
     run_fuzzer() {
         local name
         name=$(basename "$1")
         mkdir -p "build/fuzz/corpus/$name" "build/fuzz/artifacts"
         "$1" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -verbosity=0 \
-            -print_final_stats=0 -artifact_prefix="build/fuzz/artifacts/$name-" \
-            "build/fuzz/corpus/$name" "fuzz/corpus/$name" >"build/fuzz/$name.log" 2>&1 || {
+            -print_final_stats=0 -artifact_prefix="$PWD/build/fuzz/artifacts/$name-" \
+            "$PWD/build/fuzz/corpus/$name" "$PWD/fuzz/corpus/$name" >"build/fuzz/$name.log" 2>&1 || {
             tail -50 "build/fuzz/$name.log"
             return 1
         }
