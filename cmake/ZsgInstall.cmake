@@ -39,6 +39,14 @@ install(FILES
     ${CMAKE_CURRENT_BINARY_DIR}/zscenegraphConfigVersion.cmake
     DESTINATION ${package_dir})
 
-configure_file(cmake/zscenegraph.pc.in zscenegraph.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/zscenegraph.pc
-    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+set(pc_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+file(RELATIVE_PATH pc_to_prefix /prefix/${pc_dir} /prefix)
+set(pc_files zscenegraph)
+if(ZSG_PLATFORM STREQUAL "embedded")
+    set(pc_platform " -lnyxrender -lzcore -lztask")
+    list(APPEND pc_files nyxembedded)
+endif()
+foreach(name IN LISTS pc_files)
+    configure_file(cmake/${name}.pc.in ${name}.pc @ONLY)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${pc_dir})
+endforeach()

@@ -14,7 +14,7 @@ ROWS = [
     # room, files, may include
     ("declarations", "platform/include/*", ""),
     ("export", "include/zsg/Export.h", ""),
-    ("core", "include/zsg/core/* src/core/*", "declarations export"),
+    ("core", "include/zsg/core/* include/zsg/version.h src/core/*", "declarations export"),
     ("values", "include/zsg/values/* src/values/*", "declarations export"),
     ("material manager", "include/zsg/materials/ISceneMaterialManager.h", "declarations export"),
     ("colors", "include/zsg/colors/* src/colors/*",
@@ -49,7 +49,7 @@ ROWS = [
     ("host", "apps/host/*",
      "declarations export core values colors materials lightlayers painting|material manager"
      "|facade headers|nyxembedded headers|example of painting"),
-    ("console", "apps/console/*", "host"),
+    ("console", "apps/console/*", "core host"),
 ]
 ROOTS = ["include", "src", "platform/include", "platform/embedded/include", "platform/embedded",
          "apps", "examples"]

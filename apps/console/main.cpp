@@ -4,6 +4,7 @@
 #include "host/Interpreter.h"
 #include "host/JsonSession.h"
 #include "host/printable.h"
+#include "zsg/version.h"
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
@@ -30,6 +31,7 @@ std::optional<int> readOptions(Options& options) {
         "works on it by commands.",
         "zsg-console");
     parser.add_option("SCENE", options.scene, "scene file (JSON)")->required();
+    parser.set_version_flag("--version", std::string("zsg-console ") + zsg::version());
     auto* const script = parser.add_option("--script", options.script,
                                            "run the commands of a file, - for standard input");
     parser.add_flag("--jsonl", options.jsonLines, "one JSON object per line, in and out")
