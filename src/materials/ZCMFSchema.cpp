@@ -19,8 +19,9 @@ namespace {
 
 constexpr int kindCount = 8;
 
-ZCMFSchema::LoadInfo failure(QString message) {
-    ZCMFSchema::LoadInfo info;
+/// What was warned of so far is still said.
+ZCMFSchema::LoadInfo failure(ZCMFSchema::LoadInfo info, QString message) {
+    info.schema.reset();
     info.status = ZCMFSchema::LoadInfo::Failed;
     info.message = std::move(message);
     return info;
@@ -51,22 +52,24 @@ ZCMFSchema::LoadInfo ZCMFSchema::load(QTextStream& in) {
     text.clear();
     if (document.isNull()) {
         return failure(
+            std::move(info),
             QObject::tr("File does not contain a valid json. Error: %1").arg(error.errorString()));
     }
     if (!document.isObject()) {
-        return failure(QObject::tr("File does not contain a json object at the root"));
+        return failure(std::move(info),
+                       QObject::tr("File does not contain a json object at the root"));
     }
     QJsonObject const root = document.object();
     if (root.value(QLatin1String("version")).toInt() != version()) {
-        return failure(QObject::tr("File format version is too old or unknown"));
+        return failure(std::move(info), QObject::tr("File format version is too old or unknown"));
     }
     QJsonArray const elements = root.value(QLatin1String("attributes")).toArray();
     if (elements.isEmpty()) {
-        return failure(badAttributes());
+        return failure(std::move(info), badAttributes());
     }
     QJsonValue const schemaName = root.value(QLatin1String("schemaName"));
     if (!schemaName.isString()) {
-        return failure(QObject::tr("Schema has no saved name"));
+        return failure(std::move(info), QObject::tr("Schema has no saved name"));
     }
 
     info.schema->schemaName = schemaName.toString();
@@ -78,12 +81,13 @@ ZCMFSchema::LoadInfo ZCMFSchema::load(QTextStream& in) {
     names.reserve(elements.size());
     for (auto const element : elements) {
         if (!element.isObject()) {
-            return failure(badAttributes());
+            return failure(std::move(info), badAttributes());
         }
         QJsonObject const object = element.toObject();
         auto const nameMember = object.constFind(QLatin1String("name"));
         if (nameMember == object.constEnd() || !nameMember->isString()) {
             return failure(
+                std::move(info),
                 QObject::tr("The display name of an attribute is absent or is not a string."));
         }
         QString name = nameMember->toString();
@@ -91,11 +95,13 @@ ZCMFSchema::LoadInfo ZCMFSchema::load(QTextStream& in) {
         qsizetype const others = names.size();
         names.insert(name);
         if (names.size() == others) {
-            return failure(QObject::tr("Two attributes have identical names: %1.").arg(name));
+            return failure(std::move(info),
+                           QObject::tr("Two attributes have identical names: %1.").arg(name));
         }
         auto const kind = object.constFind(QLatin1String("kind"));
         if (kind == object.constEnd() || !kind->isDouble()) {
             return failure(
+                std::move(info),
                 QObject::tr("The kind of an attribute is absent or is not encoded as a number."));
         }
         int const number = kind->toInt();
@@ -110,6 +116,7 @@ ZCMFSchema::LoadInfo ZCMFSchema::load(QTextStream& in) {
         auto const visible = object.constFind(QLatin1String("visible"));
         if (visible == object.constEnd() || !visible->isBool()) {
             return failure(
+                std::move(info),
                 QObject::tr("The visibility of an attribute is absent or is not a boolean."));
         }
         accepted.push_back(

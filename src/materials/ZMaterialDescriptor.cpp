@@ -1,8 +1,23 @@
 #include "zsg/materials/ZMaterialDescriptor.h"
 
+#include "materials/logging.h"
+#include "materials/metadataText.h"
 #include "zsg/materials/cmfFieldKey.h"
 
 namespace zsg {
+
+namespace {
+
+/// Whether a value fits into metadata inside `around` levels; says so when not.
+bool fits(nlohmann::json const& value, int around) {
+    bool const isTooDeep = isNestedDeeper(value, deepestMetadata - around);
+    if (isTooDeep) {
+        qCWarning(zsgMaterials) << "Metadata that is nested too deeply is not taken.";
+    }
+    return !isTooDeep;
+}
+
+} // namespace
 
 ZMaterialDescriptor::ZMaterialDescriptor(MaterialId id, std::vector<unsigned int> const& items)
     : id_(id), values_(std::make_shared<Values>()), items_(items) {}
@@ -58,7 +73,9 @@ void ZMaterialDescriptor::removeMetadata(std::string const& key) {
 }
 
 void ZMaterialDescriptor::setMetadata(std::string const& key, nlohmann::json const& value) {
-    metadata_[key] = value;
+    if (fits(value, 1)) {
+        metadata_[key] = value;
+    }
 }
 
 nlohmann::json ZMaterialDescriptor::metadata(std::string const& key) const {
@@ -71,7 +88,11 @@ nlohmann::json ZMaterialDescriptor::metadata(std::string const& key) const {
 
 nlohmann::json ZMaterialDescriptor::metadata() const { return metadata_; }
 
-void ZMaterialDescriptor::setMetadata(nlohmann::json const& metadata) { metadata_ = metadata; }
+void ZMaterialDescriptor::setMetadata(nlohmann::json const& metadata) {
+    if (fits(metadata, 0)) {
+        metadata_ = metadata;
+    }
+}
 
 void ZMaterialDescriptor::reserved() {}
 

@@ -1,14 +1,34 @@
 #include "materials/metadataText.h"
 
+#include <utility>
+#include <vector>
+
 namespace zsg {
 
 namespace {
 
-constexpr int deepest = 512;
-
 struct TooDeep {};
 
 } // namespace
+
+bool isNestedDeeper(nlohmann::json const& value, int depth) {
+    // With a stack of its own: the value may be deeper than calls may.
+    std::vector<std::pair<nlohmann::json const*, int>> waiting{{&value, 1}};
+    while (!waiting.empty()) {
+        auto const [next, level] = waiting.back();
+        waiting.pop_back();
+        if (!next->is_structured()) {
+            continue;
+        }
+        if (level > depth) {
+            return true;
+        }
+        for (nlohmann::json const& element : *next) {
+            waiting.emplace_back(&element, level + 1);
+        }
+    }
+    return false;
+}
 
 nlohmann::json metadataFromText(std::string_view text, bool& readable) {
     readable = true;
@@ -19,7 +39,7 @@ nlohmann::json metadataFromText(std::string_view text, bool& readable) {
     auto const checkDepth = [](int depth, Event event, nlohmann::json&) {
         // What begins says the depth around it.
         bool const begins = event == Event::object_start || event == Event::array_start;
-        if (depth + (begins ? 1 : 0) > deepest) {
+        if (depth + (begins ? 1 : 0) > deepestMetadata) {
             throw TooDeep();
         }
         return true;

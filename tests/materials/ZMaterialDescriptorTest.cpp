@@ -1,5 +1,7 @@
 #include "zsg/materials/ZMaterialDescriptor.h"
 
+#include "materials/metadataText.h"
+
 #include <gtest/gtest.h>
 
 #include <stdexcept>
@@ -103,6 +105,35 @@ TEST(ZMaterialDescriptor, keepsMetadataOfAnyShape) {
     ZMaterialDescriptor copy(descriptor);
     copy.setMetadata(json::object());
     EXPECT_EQ(descriptor.metadata(), json(true));
+}
+
+TEST(ZMaterialDescriptor, takesMetadataThatCanBeReadBackOnly) {
+    auto const nested = [](int depth) {
+        json value = json::array({1});
+        for (int around = 1; around < depth; ++around) {
+            json outer = json::array();
+            outer.push_back(std::move(value));
+            value = std::move(outer);
+        }
+        return value;
+    };
+    json const deepest = nested(512);
+    ZMaterialDescriptor descriptor(MaterialId(4), {});
+    descriptor.setMetadata(deepest);
+    descriptor.setMetadata(nested(513));
+    descriptor.setMetadata(nested(1'000'000));
+    EXPECT_EQ(descriptor.metadata(), deepest);
+    bool readable = false;
+    EXPECT_EQ(metadataFromText(metadataToText(deepest), readable), deepest);
+    EXPECT_TRUE(readable);
+    EXPECT_EQ(metadataFromText(metadataToText(nested(513)), readable), json());
+    EXPECT_FALSE(readable);
+
+    descriptor.setMetadata(json::object());
+    descriptor.setMetadata("a", nested(511));
+    descriptor.setMetadata("a", deepest);
+    descriptor.setMetadata("b", deepest);
+    EXPECT_EQ(descriptor.metadata(), (json{{"a", nested(511)}}));
 }
 
 } // namespace

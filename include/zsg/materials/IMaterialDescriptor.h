@@ -45,13 +45,15 @@ public:
     /// no object.
     virtual void removeMetadata(std::string const& key) = 0;
     /// Sets one member of the metadata. Null metadata becomes an object first; metadata that is
-    /// anything else throws nlohmann::json::type_error and stays as it was.
+    /// anything else throws nlohmann::json::type_error and stays as it was. What would be nested
+    /// more than 512 deep is not taken, with a warning: nobody could read it back from the scene.
     virtual void setMetadata(std::string const& key, nlohmann::json const& value) = 0;
     /// A copy of one member of the metadata, null when there is none, also when the metadata is no
     /// object.
     [[nodiscard]] virtual nlohmann::json metadata(std::string const& key) const = 0;
     /// A copy of the whole metadata: any JSON value, null when there is none.
     [[nodiscard]] virtual nlohmann::json metadata() const = 0;
+    /// Replaces the whole metadata, unless it is nested more than 512 deep.
     virtual void setMetadata(nlohmann::json const& metadata) = 0;
 
     /// Does nothing: it keeps the place of an operation that no application needs.

@@ -53,7 +53,8 @@ struct ZCMFSchema::LoadInfo {
     std::unique_ptr<ZCMFSchema> schema; ///< empty on failure
     std::int32_t status = Loaded;       ///< Loaded or Failed
     QString message;                    ///< translated; empty on success
-    QStringList warnings;               ///< translated, one per attribute that was left out
+    /// Translated, one per attribute that was left out; of a file that fails behind them, too.
+    QStringList warnings;
 };
 
 } // namespace zsg
