@@ -3,6 +3,7 @@
 #include "host/ColorArguments.h"
 #include "host/NamedValues.h"
 
+#include "zsg/values/Parameter.h"
 #include "zsg/values/ValueVariant.h"
 
 namespace app {
@@ -123,6 +124,23 @@ void withValue(Host& host, Type type, Arguments& arguments,
     default:
         throw CommandError(std::string("a ") + zsg::typeName(type) + " has no value");
     }
+}
+
+bool setValue(Host& host, zsg::Parameter& parameter, Arguments& arguments) {
+    bool changed = false;
+    withValue(host, parameter.type(), arguments, [&](void const* value) {
+        switch (parameter.type()) {
+#define APP_SET(member, number, T)                                                                 \
+    case Type::member:                                                                             \
+        changed = parameter.setValue(*static_cast<T const*>(value));                               \
+        break;
+            ZSG_VALUE_TYPES(APP_SET)
+#undef APP_SET
+        default:
+            break;
+        }
+    });
+    return changed;
 }
 
 Type takeType(Arguments& arguments) {

@@ -6,6 +6,10 @@
 
 #include <functional>
 
+namespace zsg {
+class Parameter;
+}
+
 namespace app {
 
 class Host;
@@ -16,6 +20,10 @@ class Host;
 /// words do not make such a value, or the type has none.
 void withValue(Host& host, zsg::Type type, Arguments& arguments,
                std::function<void(void const*)> const& use);
+
+/// Reads the remaining words as a value of the parameter's type and sets it; whether it changed.
+/// Throws as withValue() does.
+bool setValue(Host& host, zsg::Parameter& parameter, Arguments& arguments);
 
 /// The type of a name as zsg::typeName() writes it; throws CommandError for any other.
 zsg::Type takeType(Arguments& arguments);

@@ -149,18 +149,7 @@ void set(Host& host, Arguments& arguments) {
         choice.setSelection(found->first);
         parameter.setValue(choice); // which compares the options only
     } else {
-        withValue(host, parameter.type(), arguments, [&](void const* value) {
-            switch (parameter.type()) {
-#define APP_SET(member, number, T)                                                                 \
-    case Type::member:                                                                             \
-        changed = parameter.setValue(*static_cast<T const*>(value));                               \
-        break;
-                ZSG_VALUE_TYPES(APP_SET)
-#undef APP_SET
-            default:
-                break;
-            }
-        });
+        changed = setValue(host, parameter, arguments);
     }
     host.out() << (changed ? "  changed\n" : "  unchanged\n");
 }

@@ -1,15 +1,18 @@
 // The CMF schema in force, and schema files.
 
-#include "host/CMFFile.h"
 #include "host/CMFLint.h"
 #include "host/Command.h"
 #include "host/Host.h"
 #include "host/InputFile.h"
+#include "host/OutputFile.h"
 #include "host/printable.h"
 
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/materials/ICMFManager.h"
+#include "zsg/materials/ZCMFSchema.h"
 
+#include <QByteArray>
+#include <QIODevice>
 #include <QTextStream>
 
 #include <algorithm>
@@ -101,7 +104,11 @@ void load(Host& host, Arguments& arguments) {
 void save(Host& host, Arguments& arguments) {
     std::string const path = arguments.word("a path");
     arguments.done();
-    saveCMFFile(manager(host).schema(), path);
+    QByteArray bytes;
+    QTextStream out(&bytes, QIODevice::WriteOnly);
+    manager(host).schema().save(out);
+    out.flush();
+    writeOutputFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 void lint(Host& host, Arguments& arguments) {

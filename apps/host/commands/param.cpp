@@ -98,22 +98,10 @@ void show(Host& host, Arguments& arguments) {
 
 void set(Host& host, Arguments& arguments) {
     Parameter parameter = take(host, arguments);
-    bool changed = false;
     if (!parameter.isValid() || parameter.isPure()) {
         throw CommandError("the parameter has no value");
     }
-    withValue(host, parameter.type(), arguments, [&](void const* value) {
-        switch (parameter.type()) {
-#define APP_SET(member, number, T)                                                                 \
-    case Type::member:                                                                             \
-        changed = parameter.setValue(*static_cast<T const*>(value));                               \
-        break;
-            ZSG_VALUE_TYPES(APP_SET)
-#undef APP_SET
-        default:
-            break;
-        }
-    });
+    bool const changed = setValue(host, parameter, arguments);
     host.out() << (changed ? "  changed\n" : "  unchanged\n");
 }
 
