@@ -49,7 +49,7 @@ ROWS = [
     ("host", "apps/host/*",
      "declarations export core values colors materials lightlayers painting|material manager"
      "|facade headers|nyxembedded headers|example of painting"),
-    ("console", "apps/console/*", "core host"),
+    ("console", "apps/console/*", "core colors host|facade headers|nyxembedded headers"),
 ]
 ROOTS = ["include", "src", "platform/include", "platform/embedded/include", "platform/embedded",
          "apps", "examples"]

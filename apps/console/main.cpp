@@ -4,6 +4,8 @@
 #include "host/Interpreter.h"
 #include "host/JsonSession.h"
 #include "host/printable.h"
+#include "zsg/colors/ColorDB.h"
+#include "zsg/core/ISceneGraph.h"
 #include "zsg/version.h"
 
 #include <CLI/CLI.hpp>
@@ -22,6 +24,9 @@ struct Options {
     bool hasScript = false;
     bool jsonLines = false;
     bool keepGoing = false;
+    bool echo = false;
+    bool check = false;
+    std::string convertTo;
 };
 
 /// The exit code when there is nothing more to do than say it.
@@ -30,7 +35,8 @@ std::optional<int> readOptions(Options& options) {
         "Headless host of the scene graph: loads a scene into the embedded renderer and "
         "works on it by commands.",
         "zsg-console");
-    parser.add_option("SCENE", options.scene, "scene file (JSON)")->required();
+    parser.add_option("SCENE", options.scene, "scene file (JSON)");
+    parser.require_subcommand(0, 1);
     parser.set_version_flag("--version", std::string("zsg-console ") + zsg::version());
     auto* const script = parser.add_option("--script", options.script,
                                            "run the commands of a file, - for standard input");
@@ -38,6 +44,14 @@ std::optional<int> readOptions(Options& options) {
         ->excludes(script);
     parser.add_flag("--keep-going", options.keepGoing,
                     "go on with the script when a command fails");
+    parser.add_flag("--echo", options.echo, "print every line of the script before it runs");
+    auto* const check = parser.add_subcommand(
+        "check", "load a scene, say what it holds or what is wrong with it, and end");
+    check->add_option("SCENE", options.scene, "scene file (JSON)")->required();
+    auto* const convert =
+        parser.add_subcommand("convert", "load a scene and write it as this version does");
+    convert->add_option("IN", options.scene, "scene file (JSON)")->required();
+    convert->add_option("OUT", options.convertTo, "the file to write")->required();
     // Qt knows the arguments in UTF-8 on every system. The parser takes them from the last on.
     std::vector<std::string> arguments;
     for (QString const& argument : QCoreApplication::arguments()) {
@@ -47,6 +61,9 @@ std::optional<int> readOptions(Options& options) {
     std::ranges::reverse(arguments);
     try {
         parser.parse(arguments);
+        if (options.scene.empty()) {
+            throw CLI::RequiredError("SCENE");
+        }
     } catch (CLI::ParseError const& error) {
         std::ostringstream out;
         std::ostringstream errors;
@@ -56,7 +73,23 @@ std::optional<int> readOptions(Options& options) {
         return code == 0 ? 0 : 1;
     }
     options.hasScript = script->count() != 0;
+    options.check = check->parsed();
     return {};
+}
+
+/// What the scene holds, in one line.
+int check(app::Host& host, std::string const& path) {
+    zsg::ColorDB& colors = *host.root().colorDB();
+    std::cout << app::printable(path) << ": " << colors.colors().size() << " colours, "
+              << colors.multiColors().size() << " multi-colours, " << colors.colorways().size()
+              << " colorways, " << host.renderer().materials().size() << " materials\n";
+    return std::cout.flush() ? 0 : 1;
+}
+
+int convert(app::Host& host, std::string const& path) {
+    std::string const message = host.renderer().saveScene(path);
+    std::cerr << app::printable(message) << (message.empty() ? "" : "\n");
+    return message.empty() ? 0 : 1;
 }
 
 } // namespace
@@ -73,7 +106,14 @@ int main(int argc, char** argv) {
         std::cerr << app::printable(message) << '\n';
         return 1;
     }
+    if (options.check) {
+        return check(host, options.scene);
+    }
+    if (!options.convertTo.empty()) {
+        return convert(host, options.convertTo);
+    }
     app::Interpreter interpreter(host);
+    interpreter.echo(options.echo);
     interpreter.showSwatches(isOutputTerminal() && !options.jsonLines);
     int failures = 0;
     if (options.jsonLines) {

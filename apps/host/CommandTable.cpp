@@ -1,6 +1,7 @@
 #include "host/CommandTable.h"
 
 #include "host/Host.h"
+#include "host/closestWords.h"
 #include "host/printable.h"
 
 #include <algorithm>
@@ -44,6 +45,37 @@ Found find(std::vector<std::string> const& words) {
     return result;
 }
 
+// Names of three words are looked for first, so that the rest of the line does not hide the slip.
+std::string_view meantBy(std::vector<std::string> const& words) {
+    for (std::size_t count = std::min(words.size(), mostWords); count > 0; --count) {
+        std::string typed = words[0];
+        for (std::size_t i = 1; i < count; ++i) {
+            typed += ' ' + words[i];
+        }
+        std::vector<std::string_view> names;
+        for (Command const* command : allCommands()) {
+            if (std::size_t(std::ranges::count(command->name, ' ')) + 1 == count) {
+                names.push_back(command->name);
+            }
+        }
+        if (typed.size() > longestWord) {
+            continue;
+        }
+        if (std::string_view const found = closestWords(typed, names); !found.empty()) {
+            return found;
+        }
+    }
+    return {};
+}
+
+std::string unknown(std::vector<std::string> const& words, bool isFamily) {
+    std::string const start = words[0] + (words.size() > 1 ? ' ' + words[1] : std::string());
+    std::string const meant(meantBy(words));
+    return "unknown command \"" + printable(start, longestWord) + "\"; " +
+           (meant.empty() ? std::string() : "did you mean \"" + meant + "\"? ") + "\"help" +
+           (isFamily ? ' ' + words[0] : std::string()) + "\" lists them";
+}
+
 } // namespace
 
 std::vector<Family> const& families() {
@@ -63,11 +95,12 @@ std::vector<Command const*> const& allCommands() {
 void carryOut(Host& host, std::vector<std::string> const& words) {
     auto const [command, used] = find(words);
     if (command == nullptr) {
-        std::string const start = words[0] + (words.size() > 1 ? ' ' + words[1] : std::string());
         bool const isFamily = std::ranges::any_of(
             allCommands(), [&](Command const* c) { return c->name.starts_with(words[0] + ' '); });
-        throw CommandError("unknown command \"" + printable(start, longestWord) + "\"; \"help" +
-                           (isFamily ? ' ' + words[0] : std::string()) + "\" lists them");
+        if (isFamily && words.size() == 1) {
+            return carryOut(host, {"help", words[0]});
+        }
+        throw CommandError(unknown(words, isFamily));
     }
     Arguments arguments({words.begin() + static_cast<std::ptrdiff_t>(used), words.end()});
     try {

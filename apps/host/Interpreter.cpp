@@ -36,6 +36,13 @@ std::string withSwatches(std::string const& text) {
     return result + text.substr(done);
 }
 
+void echoLine(std::ostream& out, std::string_view line) {
+    std::size_t const first = line.find_first_not_of(" \t\r");
+    bool const isCommand = first != std::string_view::npos && line[first] != '#';
+    out << (isCommand ? "zsg> " : "") << printable(line.substr(0, line.find_last_not_of('\r') + 1))
+        << '\n';
+}
+
 } // namespace
 
 void Interpreter::run(std::string_view line) {
@@ -89,6 +96,9 @@ int Interpreter::runScript(std::istream& in, std::string const& name, bool keepG
             if (result == ReadResult::TooLong) {
                 throw CommandError("the line is longer than " + std::to_string(longestLine) +
                                    " bytes");
+            }
+            if (echo_) {
+                echoLine(host_.out(), line);
             }
             run(line);
         } catch (std::exception const& error) {

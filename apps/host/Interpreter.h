@@ -28,6 +28,10 @@ public:
     /// Puts a block of the colour before every "#rrggbb", for a terminal that can show it.
     void showSwatches(bool on) { swatches_ = on; }
 
+    /// Prints every line of a script before it is run, as if it had been typed; comments stand as
+    /// they are, so that they title what follows.
+    void echo(bool on) { echo_ = on; }
+
     /// Runs a script. A failing command is reported on `errors` as "file:line: message" and ends
     /// the script, or, with `keepGoing`, only counts. Returns how many failed.
     int runScript(std::istream& in, std::string const& name, bool keepGoing, std::ostream& errors);
@@ -38,6 +42,7 @@ public:
 private:
     Host& host_;
     bool swatches_ = false;
+    bool echo_ = false;
 };
 
 } // namespace app
