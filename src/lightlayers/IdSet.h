@@ -10,6 +10,10 @@ namespace zsg {
 /// other, so ids share pages of bits: adding the neighbours of an id costs a few instructions.
 class IdSet {
 public:
+    IdSet() = default;
+    IdSet(IdSet const&) = delete;
+    IdSet& operator=(IdSet const&) = delete;
+
     /// True when it was not in the set before.
     bool insert(std::uint32_t id);
 

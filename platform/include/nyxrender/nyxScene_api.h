@@ -18,7 +18,8 @@ struct nyxColor_record {
     std::uint32_t flags = 0;
 };
 
-/// Makes new things in a scene, between a begin and an end call. Main thread, under the API's lock.
+/// Makes new things in a scene, between a begin and an end call. Main thread; colours and colorways
+/// are made under the API's lock, brush nodes without it.
 class NYXRENDER_EXPORT nyxScene_api {
 public:
     /// Type codes of set_param and of brush node parameters.
