@@ -19,4 +19,15 @@ char const* eventTypeString(EventType type) noexcept {
     return index < names.size() ? names[index] : "Unknown event type";
 }
 
+char const* eventKindText(EventType type) noexcept {
+    switch (type) {
+    case EventType::LightLayerUpdated:
+        return "LightLayerUpdated";
+    case EventType::LightLayerSynced:
+        return "LightLayerSynced";
+    default:
+        return eventTypeString(type);
+    }
+}
+
 } // namespace zsg

@@ -17,8 +17,8 @@ protected:
     using ColorwayId = nyx::ColorwayId;
 
     ColorScene() : db(std::make_unique<zsg::ColorDB>(&queue, renderer.api())) {
-        for (unsigned type = 0; type < 14; ++type) {
-            queue.subscribe(this, static_cast<zsg::EventType>(type));
+        for (zsg::EventType const type : zsg::allEventTypes) {
+            queue.subscribe(this, type);
         }
     }
 

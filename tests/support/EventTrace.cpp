@@ -7,21 +7,6 @@
 
 using namespace zsg;
 
-namespace {
-
-std::string name(EventType type) {
-    switch (type) {
-    case EventType::LightLayerUpdated:
-        return "LightLayerUpdated";
-    case EventType::LightLayerSynced:
-        return "LightLayerSynced";
-    default:
-        return eventTypeString(type);
-    }
-}
-
-} // namespace
-
 EventTrace::EventTrace(IEventQueue& queue) : EventTrace(queue, {}) {
     for (EventType const type : allEventTypes) {
         queue.subscribe(this, type);
@@ -42,5 +27,5 @@ std::string EventTrace::take() { return std::exchange(lines_, {}); }
 
 std::string EventTrace::line(Event const& event) {
     std::string const payload = eventPayloadText(event);
-    return name(event.type()) + (payload.empty() ? "" : " ") + payload;
+    return eventKindText(event.type()) + std::string(payload.empty() ? "" : " ") + payload;
 }

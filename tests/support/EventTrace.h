@@ -8,8 +8,7 @@
 #include <string>
 
 /// Writes down the events that a queue delivers, one line each: "ColorUpdated 3", several ids with
-/// blanks between them, an invalid one as "invalid". The words are eventTypeString()'s; the
-/// light-layer kinds, which have none, are "LightLayerUpdated" and "LightLayerSynced".
+/// blanks between them, an invalid one as "invalid". The words are eventKindText()'s.
 class EventTrace final : public zsg::IEventListener {
 public:
     /// Hears of every kind of event.

@@ -41,4 +41,8 @@ inline constexpr std::array allEventTypes{
 /// number that is no kind at all give "Unknown event type". Any thread.
 [[nodiscard]] ZSG_EXPORT char const* eventTypeString(EventType type) noexcept;
 
+/// The same, but for the light-layer kinds "LightLayerUpdated" and "LightLayerSynced": for readers
+/// who would tell them apart. Static and never null. Any thread.
+[[nodiscard]] ZSG_EXPORT char const* eventKindText(EventType type) noexcept;
+
 } // namespace zsg
