@@ -32,7 +32,7 @@ std::array<char const*, 3> const colorwayTexts = {
 char const* const clearColorwayName =
     QT_TRANSLATE_NOOP("ZEditColorWayCommand", "Clear Colorway name");
 
-// "(%1)" filled with a name, or nothing.
+/// "(%1)" filled with a name, or nothing.
 QString inBrackets(std::string const& name) {
     return name.empty() ? QString() : '(' + QString::fromStdString(name) + ')';
 }

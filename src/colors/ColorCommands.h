@@ -1,11 +1,12 @@
 #pragma once
 
 #include "core/AliveGuard.h"
-#include "nyxrender/Ids.h"
-#include "zcore/ZUndoCommand.h"
 #include "zsg/colors/MultiColorPair.h"
 #include "zsg/colors/ZColorExtEdit.h"
 #include "zsg/colors/ZColorwayEdit.h"
+
+#include "nyxrender/Ids.h"
+#include "zcore/ZUndoCommand.h"
 
 #include <memory>
 #include <vector>

@@ -3,8 +3,9 @@
 #include "colors/ColorCommands.h"
 #include "colors/colorwayAccess.h"
 #include "colors/subColorEdits.h"
-#include "zcore/ZUndoStack.h"
 #include "zsg/colors/ColorDB.h"
+
+#include "zcore/ZUndoStack.h"
 
 #include <QCoreApplication>
 #include <QObject>
@@ -25,7 +26,7 @@ bool lists(nyx::Span<nyx::ColorId> ids, nyx::ColorId id) {
     return std::ranges::find(ids, id) != ids.end();
 }
 
-// A NaN differs from everything, an infinity only from others.
+/// A NaN differs from everything, an infinity only from others.
 bool differ(nyxColor_rgba const& a, nyxColor_rgba const& b) {
     constexpr float tolerance = 1e-4f;
     auto const near = [](float x, float y) { return x == y || std::fabs(x - y) < tolerance; };

@@ -34,7 +34,7 @@ nyx::ColorwayId ColorController::createColorway(std::string const& name,
         return {};
     }
     // The caller's pairs may lie in a list that making the record lets go of.
-    MultiColorPairs const given(pairs.begin(), pairs.end());
+    std::vector<MultiColorPair> const given(pairs.begin(), pairs.end());
     nyx::ColorwayId const id = colorDB_->createColorway();
     if (ZColorwayEdit* const edit = id.isValid() ? colorDB_->getColorwayParameters(id) : nullptr) {
         edit->setDisplayName(name);

@@ -14,8 +14,8 @@ namespace zsg {
 
 namespace {
 
-// Binds all places in one open edit. The edit is closed whatever happens; closing it pushes a
-// command, which may throw, so that a destructor could not do it.
+/// Binds all places in one open edit. The edit is closed whatever happens; closing it pushes a
+/// command, which may throw, so that a destructor could not do it.
 void rebind(IMaterialEdit& edit, std::vector<MaterialColorPlace> const& places, nyx::ColorId to) {
     edit.beginEdit();
     try {

@@ -13,7 +13,7 @@ namespace zsg {
 
 namespace {
 
-// A name that fills its field needs no terminator.
+/// A name that fills its field needs no terminator.
 bool isNamed(nyxParameter_entry const& entry, std::string_view name) {
     return name.size() <= sizeof entry.name &&
            std::memcmp(entry.name, name.data(), name.size()) == 0 &&

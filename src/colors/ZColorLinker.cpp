@@ -14,8 +14,8 @@ namespace zsg {
 
 namespace {
 
-// Two elements may have been linked to one colour; it becomes a sub-colour once. Returns where the
-// element at `active` stands then.
+/// Two elements may have been linked to one colour; it becomes a sub-colour once. Returns where the
+/// element at `active` stands then.
 int dropRepeated(std::vector<ZColorExt::ZColorWithId>& elements, int active) {
     std::vector<ZColorExt::ZColorWithId> kept;
     std::unordered_map<nyx::ColorId, std::size_t> places;
@@ -37,8 +37,8 @@ int dropRepeated(std::vector<ZColorExt::ZColorWithId>& elements, int active) {
     return newActive;
 }
 
-// Finds names for elements that are not in the scene yet: the renderer does not know the names of
-// the others, nor the one that the multi-colour itself will get.
+/// Finds names for elements that are not in the scene yet: the renderer does not know the names of
+/// the others, nor the one that the multi-colour itself will get.
 class NewNames {
 public:
     explicit NewNames(IColorLinker& linker) : linker_(linker) {}

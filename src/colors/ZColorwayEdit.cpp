@@ -72,7 +72,7 @@ bool ZColorwayEdit::isModified() const { return block_.isChanged(); }
 std::vector<MultiColorPair> ZColorwayEdit::pairs() const {
     auto const multis = multiColors();
     auto const subs = activeSubIndices();
-    MultiColorPairs list(std::min(multis.size(), subs.size()));
+    std::vector<MultiColorPair> list(std::min(multis.size(), subs.size()));
     for (std::size_t i = 0; i < list.size(); ++i) {
         list[i] = {multis[i], subs[i]};
     }
@@ -128,7 +128,7 @@ void ZColorwayEdit::repairPairs() {
     if (!hasBothLists()) {
         return;
     }
-    MultiColorPairs const all = pairs();
+    std::vector<MultiColorPair> const all = pairs();
     if (auto const distinct = distinctPairs(all)) {
         setPairs(*distinct);
     } else if (multiColors().size() != activeSubIndices().size()) {

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "core/postEvent.h"
-#include "nyxrender/Span.h"
 #include "zsg/core/Events.h"
+
+#include "nyxrender/Span.h"
 
 #include <memory>
 #include <vector>

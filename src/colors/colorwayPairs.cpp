@@ -5,8 +5,8 @@
 
 namespace zsg {
 
-std::optional<MultiColorPairs> distinctPairs(nyx::Span<MultiColorPair> pairs) {
-    MultiColorPairs sorted(pairs.begin(), pairs.end());
+std::optional<std::vector<MultiColorPair>> distinctPairs(nyx::Span<MultiColorPair> pairs) {
+    std::vector<MultiColorPair> sorted(pairs.begin(), pairs.end());
     // Stable: of one multi-colour the first pair stays in front.
     std::ranges::stable_sort(sorted, {}, &MultiColorPair::multiColor);
     auto const repeated = std::unique(sorted.begin(), sorted.end(),
@@ -20,21 +20,22 @@ std::optional<MultiColorPairs> distinctPairs(nyx::Span<MultiColorPair> pairs) {
     return sorted;
 }
 
-MultiColorPairs pairsWithout(nyx::Span<MultiColorPair> pairs, nyx::Span<nyx::ColorId> removed) {
+std::vector<MultiColorPair> pairsWithout(nyx::Span<MultiColorPair> pairs,
+                                         nyx::Span<nyx::ColorId> removed) {
     std::vector<nyx::ColorId> sorted(removed.begin(), removed.end());
     std::ranges::sort(sorted);
-    MultiColorPairs kept(pairs.begin(), pairs.end());
+    std::vector<MultiColorPair> kept(pairs.begin(), pairs.end());
     std::erase_if(kept, [&](MultiColorPair const& pair) {
         return std::ranges::binary_search(sorted, pair.multiColor);
     });
     return kept;
 }
 
-MultiColorPairs pairsWith(nyx::Span<MultiColorPair> pairs, nyx::Span<MultiColorPair> added,
-                          int index, bool replace) {
+std::vector<MultiColorPair> pairsWith(nyx::Span<MultiColorPair> pairs,
+                                      nyx::Span<MultiColorPair> added, int index, bool replace) {
     // Of what is added, for it is usually one pair, and the colorway may hold many.
     std::unordered_map<nyx::ColorId, std::size_t> places;
-    MultiColorPairs news;
+    std::vector<MultiColorPair> news;
     for (MultiColorPair const& pair : added) {
         auto const [place, isNew] = places.emplace(pair.multiColor, news.size());
         if (isNew) {
@@ -43,7 +44,7 @@ MultiColorPairs pairsWith(nyx::Span<MultiColorPair> pairs, nyx::Span<MultiColorP
             news[place->second].subColor = pair.subColor;
         }
     }
-    MultiColorPairs list(pairs.begin(), pairs.end());
+    std::vector<MultiColorPair> list(pairs.begin(), pairs.end());
     for (MultiColorPair& pair : list) {
         auto const place = places.find(pair.multiColor);
         if (place == places.end()) {

@@ -25,7 +25,7 @@ void clearDeletedMark(ILightLayerApi& api, nyx::LightLayerId layer) {
     api.setFlags(layer, nyx::Flags<layerFlags>::fromBits(api.flags(layer).bits() & ~deleted));
 }
 
-// An object and its item have the same number.
+/// An object and its item have the same number.
 std::vector<nyx::GroupItemId> itemsOf(nyx::Span<nyx::ObjectId> objects) {
     std::vector<nyx::GroupItemId> items;
     items.reserve(objects.size());

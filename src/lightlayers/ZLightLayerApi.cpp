@@ -18,7 +18,7 @@ namespace {
 
 constexpr nyx::LightLayerId firstLayer{1};
 
-// What change_layer_lights() is to do.
+/// What change_layer_lights() is to do.
 constexpr int add = 0;
 constexpr int remove = 1;
 
@@ -26,10 +26,10 @@ nyxLight_layer_db* databaseOf(nyxScene const* scene) {
     return scene ? nyx_light_layer_db_get(*scene) : nullptr;
 }
 
-// The databases see the text up to its first NUL, so that is what counts as empty here.
+/// The databases see the text up to its first NUL, so that is what counts as empty here.
 bool isEmpty(std::string const& name) { return *name.c_str() == '\0'; }
 
-// Unknown ones are skipped.
+/// Unknown ones are skipped.
 std::vector<nyxGroup_item*> itemsOf(nyxScene* scene, nyx::Span<nyx::GroupItemId> ids) {
     std::vector<nyxGroup_item*> items;
     items.reserve(ids.size());

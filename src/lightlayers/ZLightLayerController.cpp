@@ -1,8 +1,9 @@
 #include "lightlayers/ZLightLayerController.h"
 
 #include "lightlayers/LightLayerCommands.h"
-#include "zcore/ZUndoStack.h"
 #include "zsg/lightlayers/ILightLayerApi.h"
+
+#include "zcore/ZUndoStack.h"
 
 #include <utility>
 #include <vector>

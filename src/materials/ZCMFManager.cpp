@@ -38,7 +38,7 @@ void ZCMFManager::setSchema(ZCMFSchema const& schema) {
     if (&schema != &current_) {
         current_ = ZCMFSchema(schema); // copied first: the old one stays when that fails
     }
-    if (root_ != nullptr) {
+    if (root_) {
         post(root_->eventQueue(), std::make_unique<CMFSchemaChangedEvent>());
     }
 }

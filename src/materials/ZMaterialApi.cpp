@@ -15,7 +15,7 @@ namespace zsg {
 
 namespace {
 
-std::string textOf(char const* text) { return text == nullptr ? std::string() : text; }
+std::string textOf(char const* text) { return text ? text : std::string(); }
 
 } // namespace
 
@@ -24,12 +24,12 @@ ZMaterialApi::ZMaterialApi(nyxRT_api* rtApi) : rtApi_(rtApi) {}
 ZMaterialApi::~ZMaterialApi() = default;
 
 nyxMaterial* ZMaterialApi::material(MaterialId id) const {
-    return rtApi_ == nullptr ? nullptr : nyx_material_from_id(rtApi_->scene(), id);
+    return rtApi_ ? nyx_material_from_id(rtApi_->scene(), id) : nullptr;
 }
 
 std::unique_ptr<IMaterialDescriptor> ZMaterialApi::descriptor(MaterialId id) const {
     nyxMaterial const* const found = material(id);
-    if (found == nullptr) {
+    if (!found) {
         return nullptr;
     }
     nyx::Span<unsigned> const items = nyx_material_items(*found);
@@ -50,12 +50,12 @@ std::unique_ptr<IMaterialDescriptor> ZMaterialApi::descriptor(MaterialId id) con
 
 QString ZMaterialApi::materialName(MaterialId id) const {
     nyxMaterial const* const found = material(id);
-    return found == nullptr ? QString() : QString::fromUtf8(nyx_material_name(*found));
+    return found ? QString::fromUtf8(nyx_material_name(*found)) : QString();
 }
 
 bool ZMaterialApi::applyDescriptor(IMaterialDescriptor const& descriptor) {
     nyxMaterial* const found = material(descriptor.id());
-    if (found == nullptr) {
+    if (!found) {
         return false;
     }
     // All that can refuse comes first. Equal metadata keeps its spelling, and what nobody could

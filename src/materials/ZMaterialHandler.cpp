@@ -21,7 +21,7 @@ std::unique_ptr<IMaterialDescriptor> ZMaterialHandler::descriptor(MaterialId id)
 bool ZMaterialHandler::applyDescriptor(IMaterialDescriptor const& descriptor) {
     bool const applied = api_->applyDescriptor(descriptor);
     // Also for a material that is gone: whoever shows its description learns of it so.
-    if (root_ != nullptr) {
+    if (root_) {
         post(root_->eventQueue(),
              std::make_unique<MaterialDescriptionChangedEvent>(descriptor.id()));
     }
@@ -29,7 +29,7 @@ bool ZMaterialHandler::applyDescriptor(IMaterialDescriptor const& descriptor) {
 }
 
 bool ZMaterialHandler::assignMaterial(MaterialId material, nyx::Span<nyx::ObjectId> objects) {
-    return service_ != nullptr && service_->assignMaterial(material, objects);
+    return service_ && service_->assignMaterial(material, objects);
 }
 
 QString ZMaterialHandler::materialName(MaterialId id) const { return api_->materialName(id); }

@@ -11,7 +11,7 @@ namespace zsg {
 
 namespace {
 
-// The pieces of the text between its values.
+/// The pieces of the text between its values.
 constexpr QLatin1String opening("{\n    \"attributes\": [\n");
 constexpr QLatin1String beforeKind("        {\n            \"kind\": ");
 constexpr QLatin1String beforeName(",\n            \"name\": ");

@@ -24,7 +24,7 @@ BrushNodeIndex::BrushNodeIndex(nyxBrush_node* root) {
     std::unordered_set<nyxBrush_node*> onPath;
     std::string prefix;
     auto const enter = [&](nyxBrush_node* node, std::size_t prefixLength) {
-        if (node != nullptr && onPath.insert(node).second) {
+        if (node && onPath.insert(node).second) {
             nodes_.push_back(node);
             path.push_back({node->params(), 0, prefixLength, node});
         }
@@ -39,10 +39,10 @@ BrushNodeIndex::BrushNodeIndex(nyxBrush_node* root) {
             continue;
         }
         nyxBrush_param* const record = step.params[step.next++];
-        if (record == nullptr) {
+        if (!record) {
             continue;
         }
-        prefix += record->name == nullptr ? "" : record->name;
+        prefix += record->name ? record->name : "";
         if (record->type == nyxScene_api::TypeNode) {
             prefix += '_';
             enter(record->value.node, prefix.size());

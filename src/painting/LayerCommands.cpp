@@ -1,6 +1,7 @@
 #include "painting/LayerCommands.h"
 
 #include "painting/ZPaintSurface.h"
+
 #include "zcore/splitTrailingNumber.h"
 
 #include <QCoreApplication>

@@ -1,14 +1,15 @@
 #include "painting/ZPaintSurface.h"
 
 #include "core/postEvent.h"
-#include "nyxrender/nyxCustomSurface.h"
-#include "nyxrender/nyxRT_api.h"
-#include "nyxrender/nyx_memory.h"
 #include "painting/LayerCommands.h"
 #include "painting/LayerTasks.h"
 #include "painting/layerIndex.h"
-#include "zcore/ZUndoStack.h"
 #include "zsg/core/Events.h"
+
+#include "nyxrender/nyxCustomSurface.h"
+#include "nyxrender/nyxRT_api.h"
+#include "nyxrender/nyx_memory.h"
+#include "zcore/ZUndoStack.h"
 #include "ztask/ZTaskQueue.h"
 
 #include <algorithm>

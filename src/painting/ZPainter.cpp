@@ -1,9 +1,10 @@
 #include "painting/ZPainter.h"
 
+#include "painting/ZPaintSurface.h"
+
 #include "nyxrender/nyxCustomSurface.h"
 #include "nyxrender/nyxPainter.h"
 #include "nyxrender/nyxRT_api.h"
-#include "painting/ZPaintSurface.h"
 
 namespace zsg {
 

@@ -27,7 +27,7 @@ QString translated(char const* text) { return QCoreApplication::translate("ZPain
 Enumerable optionsOf(BrushRow const& row) {
     Enumerable options;
     for (char const* const label : row.options) {
-        if (label != nullptr) {
+        if (label) {
             options.emplaceBack(static_cast<int>(options.size()), translated(label));
         }
     }
@@ -60,12 +60,12 @@ struct OwnerOf<T Owner::*> {
     using type = Owner;
 };
 
-// The bits of basic_pen_pressure_mode.
+/// The bits of basic_pen_pressure_mode.
 constexpr int flowPressure = 1;
 constexpr int opacityPressure = 2;
 constexpr int sizePressure = 4;
 
-// The ids of color_selection.
+/// The ids of color_selection.
 constexpr int solidColor = 0;
 constexpr int textureColor = 1;
 constexpr int shaderColor = 2;
@@ -112,7 +112,7 @@ Parameter ZPainterBrush::addParameter(Parameter const& parameter) {
 template <class T>
 T* ZPainterBrush::nodeValue(std::string_view key, T BrushNodeValue::*member) const {
     nyxBrush_param* const record = nodes_.find(key);
-    return record == nullptr ? nullptr : &(record->value.*member);
+    return record ? &(record->value.*member) : nullptr;
 }
 
 Parameter ZPainterBrush::parameter(QString const& name) const { return parameters_.value(name); }
@@ -188,7 +188,7 @@ void ZPainterBrush::applyToNode() {
                     (f.opacityPenPressure ? opacityPressure : 0) |
                     (f.sizePenPressure ? sizePressure : 0);
     }
-    if (rtApi_ != nullptr) {
+    if (rtApi_) {
         for (nyxBrush_node* const node : nodes_.nodes()) {
             rtApi_->update_brush_node(node);
         }
@@ -198,8 +198,8 @@ void ZPainterBrush::applyToNode() {
 // Also an empty path is loaded: that is how the node lets go of its image.
 void ZPainterBrush::loadFile(std::string_view key, QString const& path) {
     nyxBrush_param* const record = nodes_.find(key);
-    nyxScene_api* const scene = rtApi_ == nullptr ? nullptr : nyx_get_scene_api(rtApi_->scene());
-    if (record != nullptr && scene != nullptr) {
+    nyxScene_api* const scene = rtApi_ ? nyx_get_scene_api(rtApi_->scene()) : nullptr;
+    if (record && scene) {
         scene->load_brush_file(*record, path.toUtf8().constData());
     }
 }

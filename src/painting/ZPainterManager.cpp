@@ -1,10 +1,11 @@
 #include "painting/ZPainterManager.h"
 
-#include "nyxrender/nyxPainter.h"
-#include "nyxrender/nyxRT_api.h"
 #include "painting/ZPainter.h"
 #include "painting/ZPainterBrush.h"
 #include "painting/createBrush.h"
+
+#include "nyxrender/nyxPainter.h"
+#include "nyxrender/nyxRT_api.h"
 
 namespace zsg {
 

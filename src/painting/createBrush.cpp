@@ -71,9 +71,9 @@ nyxBrush_node* makeGraph(nyxScene& scene, float size) {
 } // namespace
 
 std::unique_ptr<IPainterBrush> createBrush(nyxRT_api* rtApi, float size, nyx::MaterialId material) {
-    nyxScene* const scene = rtApi == nullptr ? nullptr : rtApi->scene();
-    return std::make_unique<ZPainterBrush>(scene == nullptr ? nullptr : makeGraph(*scene, size),
-                                           rtApi, material);
+    nyxScene* const scene = rtApi ? rtApi->scene() : nullptr;
+    return std::make_unique<ZPainterBrush>(scene ? makeGraph(*scene, size) : nullptr, rtApi,
+                                           material);
 }
 
 } // namespace zsg

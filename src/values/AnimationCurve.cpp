@@ -35,7 +35,7 @@ nyxVector2f weighted(nyxVector2f const& handle, nyxVector2f const& pos, float we
     return {static_cast<float>(pos.x + dx * scale), static_cast<float>(pos.y + dy * scale)};
 }
 
-// The point on the way from the key at `pos` to its neighbour where the key's handle lies.
+/// The point on the way from the key at `pos` to its neighbour where the key's handle lies.
 nyxVector2f thirdOfWay(nyxVector2f const& pos, nyxVector2f const& neighbour) {
     auto const third = [](double from, double to) {
         return static_cast<float>(from + (to - from) / 3);
@@ -56,7 +56,7 @@ nyx::AnimationKey keyOnStep(nyx::AnimationKey const& start, nyx::AnimationKey co
             start.type};
 }
 
-// Moves the handles of the two keys that face each other, to keep the shape.
+/// Moves the handles of the two keys that face each other, to keep the shape.
 nyx::AnimationKey splitBezier(nyx::AnimationKey& start, nyx::AnimationKey& end, float x) {
     BezierSegment const segment{start.pos, start.out, end.in, end.pos};
     BezierSplit halves = split(segment, segment.parameterAt(x));

@@ -7,7 +7,7 @@ namespace zsg {
 
 namespace {
 
-// operator<, with the NaNs behind all numbers: they would break the order that sorting relies on.
+/// operator<, with the NaNs behind all numbers: they would break the order that sorting relies on.
 bool before(ColorGradientStop const& a, ColorGradientStop const& b) {
     return a < b || (std::isnan(b.getLocation()) && !std::isnan(a.getLocation()));
 }

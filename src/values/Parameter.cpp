@@ -1,9 +1,8 @@
 #include "zsg/values/Parameter.h"
 
+#include "values/hintParsing.h"
 #include "zsg/values/ParameterData.h"
 #include "zsg/values/Variant.h"
-
-#include "values/hintParsing.h"
 
 #include "zcore/ZColorExtAlpha.h"
 

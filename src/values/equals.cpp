@@ -1,11 +1,10 @@
 #include "zsg/values/equals.h"
 
+#include "values/equality.h"
 #include "zsg/values/AnimationCurve.h"
 #include "zsg/values/AxaltaColor.h"
 #include "zsg/values/ColorGradient.h"
 #include "zsg/values/FilePath.h"
-
-#include "values/equality.h"
 
 #include "zcore/ZColorExt.h"
 #include "zcore/ZColorExtAlpha.h"

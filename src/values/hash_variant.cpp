@@ -1,11 +1,10 @@
 #include "zsg/values/hash_variant.h"
 
-#include "zsg/values/ValueVariant.h"
-#include "zsg/values/hash.h"
-
 #include "values/defaults.h"
 #include "values/exactValue.h"
 #include "values/hashCombine.h"
+#include "zsg/values/ValueVariant.h"
+#include "zsg/values/hash.h"
 
 #include <QHashFunctions>
 

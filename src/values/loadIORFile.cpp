@@ -1,8 +1,7 @@
 #include "zsg/values/loadIORFile.h"
 
-#include "zsg/values/pathFromUtf8.h"
-
 #include "values/IORLayouts.h"
+#include "zsg/values/pathFromUtf8.h"
 
 #include <algorithm>
 #include <fstream>

@@ -1,8 +1,7 @@
+#include "values/defaults.h"
 #include "zsg/values/Parameter.h"
 #include "zsg/values/ParameterData.h"
 #include "zsg/values/ValueVariant.h"
-
-#include "values/defaults.h"
 
 #include <ostream>
 #include <string_view>

@@ -6,8 +6,8 @@ using namespace zsg;
 
 namespace {
 
-MultiColorPairs pairs(std::vector<std::pair<unsigned, unsigned>> const& numbers) {
-    MultiColorPairs list;
+std::vector<MultiColorPair> pairs(std::vector<std::pair<unsigned, unsigned>> const& numbers) {
+    std::vector<MultiColorPair> list;
     for (auto const& [multi, sub] : numbers) {
         list.push_back({nyx::ColorId(multi), nyx::ColorId(sub)});
     }
