@@ -66,8 +66,11 @@ TEST_F(Notifications, OneTurnDeliversColorsThenMessagesThenFunctions) {
     EXPECT_FALSE(renderer.activateColorway(nyx::ColorwayId(9)) ||
                  renderer.changeColor(ColorId(99), {}));
     renderer.changeColor(made.green, {0, 1, 0, 1});
+    edit(made.cover, [&](nyxParameter_edit& block) {
+        setList(value(block, "sub_colors"), std::vector{made.green, made.red}); // and nothing else
+    });
     renderer.processEvents();
-    EXPECT_EQ(take(), "5006 2\n5007 1\n");
+    EXPECT_EQ(take(), "5006 2 4\n5007 1\n");
 
     // Only a sub-colour that a multi-colour lists becomes its active one.
     nyx::ColorwayId const odd = renderer.addColorway(

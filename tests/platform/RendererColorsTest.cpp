@@ -72,6 +72,7 @@ TEST_F(RendererColors, UniqueNamesSplitTheNumberOffAndTakeTheSmallestFreeOne) {
         {{"Red 7"}, "Red 7", "Red 1"},
         {{"Red 1", "Red 1 1"}, "Red 1 1", "Red 1 2"},
         {{"Red 007"}, "Red 007", "Red 1"},
+        {{"Red", "Red 01"}, "Red", "Red 1"}, // which is another name
         {{"Red7"}, "Red7", "Red7 1"},
         {{"42"}, "42", "42 1"},
         {{" 42"}, " 42", " 42 1"},
@@ -100,7 +101,7 @@ TEST_F(RendererColors, IgnoredColorsFreeTheirNumbersAndRenamedOnesToo) {
     create("Red 2");
     ColorId const twin = create("Red 1");
     EXPECT_EQ(uniqueName("Red", {one}), "Red 3") << "its twin still holds Red 1";
-    EXPECT_EQ(uniqueName("Red", {one, twin, ColorId(99), ColorId()}), "Red 1");
+    EXPECT_EQ(uniqueName("Red", {ColorId(), ColorId(99), twin, one}), "Red 1");
     create("");
     for (ColorId const id : renderer.colors()) {
         nyx_color_set_unique_name(scene(), id);
