@@ -49,12 +49,15 @@ TYPED_TEST(EveryValueType, MadeInsideIsReadChangedComparedAndDeletedOutside) {
     EXPECT_FALSE(holder->set(&sample));
     EXPECT_TRUE(equals(*tryGet<T>(*holder), sample));
     EXPECT_NE(hash_variant(holder.get()), initialHash);
+    EXPECT_EQ(text(*holder), test::Sample<T>::text);
+    if (test::Sample<T>::hash != 0) {
+        EXPECT_EQ(hash_variant(holder.get()), test::Sample<T>::hash);
+    }
 
     std::unique_ptr<Variant> const clone(holder->cloneValue());
     ASSERT_TRUE(clone);
     EXPECT_EQ(clone->type(), typeOf<T>);
     EXPECT_EQ(hash_variant(clone.get()), hash_variant(holder.get()));
-    EXPECT_EQ(text(*clone), text(*holder));
     EXPECT_TRUE(holder->set(&*initial));
     EXPECT_EQ(hash_variant(holder.get()), initialHash);
     EXPECT_TRUE(equals(*tryGet<T>(*clone), sample)) << "the clone is independent";
