@@ -1,9 +1,12 @@
 #pragma once
 
 #include "core/ZEventQueue.h"
+#include "lightlayers/ZLightLayerController.h"
 #include "nyxrender/nyxLight_layer_db.h"
 #include "support/EventTrace.h"
 #include "support/TestScene.h"
+#include "support/lines.h"
+#include "zcore/ZUndoStack.h"
 #include "zsg/lightlayers/ZLightLayerApi.h"
 
 #include <regex>
@@ -59,17 +62,16 @@ protected:
         lines += takeJournal() + "\n> " + EventTrace::line(*event) + '\n';
     }
 
-    /// The calls to the renderer and, marked with "> ", the events, one line each. "copy" is the
-    /// working copy of the scene's "layers".
+    /// The calls to the renderer and, marked with "> ", the events, with "; " between them. "copy"
+    /// is the working copy of the scene's "layers".
     std::string trace(std::function<void()> const& action) {
         takeJournal();
         lines.clear();
         action();
-        lines = '\n' + lines + takeJournal();
+        lines += takeJournal();
         lines = std::regex_replace(lines, std::regex("light_layers_copy"), "copy");
         lines = std::regex_replace(lines, std::regex("light_layers"), "layers");
-        lines = std::regex_replace(lines, std::regex("\n+"), "\n");
-        return std::regex_replace(lines, std::regex("\n$"), "");
+        return selectLines(lines, "; ", [](std::string const&) { return true; });
     }
 
     static constexpr Layer none{};
@@ -87,4 +89,13 @@ protected:
 
 private:
     std::string lines;
+};
+
+/// The same with a controller.
+class LightEditScene : public LightScene {
+protected:
+    void TearDown() override { stack.clear(); }
+
+    ZUndoStack stack;
+    zsg::ZLightLayerController edit{&api, &stack};
 };

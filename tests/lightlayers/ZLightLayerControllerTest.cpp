@@ -1,118 +1,96 @@
 #include "lightlayers/ZLightLayerController.h"
 
 #include "lightlayers/LightScene.h"
+#include "support/MarkingTranslator.h"
+#include "support/UndoRoundTrip.h"
 #include "zcore/ZUndoCommand.h"
-#include "zcore/ZUndoStack.h"
+#include "zsg/core/ISceneGraph.h"
 
 using namespace zsg;
 
 namespace {
 
-class ZLightLayerControllerTest : public LightScene {
+class ZLightLayerControllerTest : public LightEditScene {
 protected:
-    void TearDown() override { stack.clear(); }
-
-    /// What an edit does, its number and text, and what undo and redo do.
-    std::string story(std::function<void()> const& run) {
-        std::string story = trace(run);
-        ZUndoCommand const& made = *stack.command(stack.index() - 1);
-        story += "\n= " + std::to_string(static_cast<int>(made.id())) + ' ' +
-                 made.text().toStdString() + "\nundo" + trace([this] { stack.undo(); }) + "\nredo";
-        return story + trace([this] { stack.redo(); });
+    /// Every light where it was in the beginning.
+    void reset() {
+        api.setFlags(accent, {});
+        api.setItemsLightLayer(first, {Item(key.toUint())});
+        api.setItemsLightLayer(accent, {rig});
+        api.setItemsLightLayer(practical, {Item(lamp.toUint())});
+        api.sync();
     }
 
-    ZUndoStack stack;
-    ZLightLayerController edit{&api, &stack};
+    UndoRoundTrip trip{
+        stack, [this] { return std::regex_replace(inScene(), std::regex("; "), "\n") + '\n'; }};
 };
 
+// Some of what undo leaves is not what was there before; docs/undo.md lists it.
 TEST_F(ZLightLayerControllerTest, everyEditIsACommandThatGoesToAndFro) {
     EXPECT_EQ(edit.lightLayerApi(), &api);
-    EXPECT_EQ(story([&] { EXPECT_EQ(edit.createLayer("Accent"), Layer(4)); }), R"(
-layers.find_unique_name "Accent"
-layers.create_layer "Accent 1" -
-copy.create_layer "Accent 1" 4
-> LightLayerUpdated 4
-copy.get_layer_name 4
-= 184 Create Light Layer (Accent 1)
-undo
-copy.delete_layer 4
-layers.delete_n_remap_layer 4
-> LightLayerUpdated 4
-redo
-copy.flags 4
-copy.set_flags 4 0
-set_layer_flags 4 0
-> LightLayerUpdated 4)");
-    EXPECT_EQ(story([&] { EXPECT_TRUE(edit.deleteLayer(accent)); }), R"(
-copy.get_layer_name 2
-layers.layer_bitmask 2
-walk
-copy.delete_layer 2
-layers.delete_n_remap_layer 2
-> LightLayerUpdated 2
-= 185 Delete Light Layer (Accent)
-undo
-copy.flags 2
-copy.set_flags 2 0
-set_layer_flags 2 0
-> LightLayerUpdated 2
-assign_layer_lights 2 [4]
-> LightLayerUpdated 2
-redo
-copy.delete_layer 2
-layers.delete_n_remap_layer 2
-> LightLayerUpdated 2)");
-    EXPECT_EQ(story([&] {
-                  edit.setItemsLightLayer(Layer(4), {Item(7), rig});
-              }),
-              R"(
-walk
-layers.layer_id_from_mask 1
-layers.layer_id_from_mask 4
-assign_layer_lights 4 [4 5 7]
-> LightLayerUpdated 4
-= 185 Update light layer
-undo
-assign_layer_lights 1 [4]
-> LightLayerUpdated 1
-assign_layer_lights 3 [7]
-> LightLayerUpdated 3
-redo
-assign_layer_lights 4 [4 5 7]
-> LightLayerUpdated 4)");
-    EXPECT_EQ(inScene(), "1 Default: 2; 3 Practical:; 4 Accent 1: 4 5 7");
-    edit.deleteLayer(Layer(9));
-    EXPECT_EQ(stack.text(3), "Delete Light Layer ()");
+    for (UndoRoundTrip::Edit const& wanted : std::initializer_list<UndoRoundTrip::Edit>{
+             {[&] { EXPECT_TRUE(edit.deleteLayer(practical)); }, "Delete Light Layer (Practical)",
+              "1 Default: 2 7"},
+             // An unlisted light stays where the edit put it.
+             {[&] { EXPECT_TRUE(edit.deleteLayer(accent)); }, "Delete Light Layer (Accent)",
+              "1 Default: 2 4 5", "1 Default: 2 5; 2 Accent: 4"},
+             {[&] { edit.setItemsLightLayer(practical, {rig}); }, "Update light layer",
+              "2 Accent:; 3 Practical: 4 5 7", "2 Accent: 4; 3 Practical: 5 7"},
+             // Lights that come out go to layer 1, wherever they were; those that go in were not
+             // all in the layer.
+             {[&] {
+                  edit.setLayerFlags(accent, Flags::fromBits(0x20));
+                  edit.addLightsToLayer(accent, {lamp, spot});
+              },
+              "Update light layer",
+              "2 Accent/32: 4 5 7; 3 Practical:", "1 Default: 2 4 7; 2 Accent/32: 5; 3 Practical:"},
+             {[&] {
+                  edit.removeLightsFromLayer(accent, {spot, key});
+              },
+              "Update light layer", "1 Default: 2 4; 2 Accent: 5", "1 Default:; 2 Accent: 2 4 5"},
+             // An inverted layer is edited the other way round, and the flag counts as it was then.
+             {[&] {
+                  edit.setLayerFlags(accent, layerFlags::Inverted);
+                  edit.addLightsToLayer(accent, {spot});
+                  edit.setLayerFlags(accent, {});
+              },
+              "Update light layer", "1 Default: 2 4; 2 Accent: 5"},
+             {[&] {
+                  edit.setLayerFlags(accent, Flags::fromBits(0x21));
+                  edit.removeLightsFromLayer(accent, {key});
+                  edit.setLayerFlags(accent, {});
+              },
+              "Update light layer", "1 Default:; 2 Accent: 2 4 5"},
+             {[&] { EXPECT_TRUE(edit.deleteLayer(Layer(9))); }, "Delete Light Layer ()", ""},
+             {[&] { EXPECT_EQ(edit.createLayer(""), none); }, "Create light layer", ""},
+             {[&] { EXPECT_EQ(edit.createLayer("Accent"), Layer(4)); },
+              "Create Light Layer (Accent 1)", "4 Accent 1:"}}) {
+        trip.check({wanted});
+        reset();
+    }
 }
 
-TEST_F(ZLightLayerControllerTest, anInvertedLayerIsEditedTheOtherWayRound) {
-    std::string const add = "copy.add_lights [2 7] 2\nchange_layer_lights 2 [2 7] 0"
-                            "\n> LightLayerUpdated 2\n";
-    std::string const remove = "copy.remove_lights [2 7] 2\nchange_layer_lights 2 [2 7] 1"
-                               "\n> LightLayerUpdated 2\n";
-    for (unsigned const inverted : {0u, 1u}) {
-        for (bool const removes : {false, true}) {
-            edit.setLayerFlags(accent, Flags::fromBits(0x20 | inverted));
-            std::string const told = story([&] {
-                removes ? edit.removeLightsFromLayer(accent, {key, lamp})
-                        : edit.addLightsToLayer(accent, {key, lamp});
-                api.setFlags(accent, Flags::fromBits(1 - inverted)); // no longer matters
-            });
-            bool const takesOut = (inverted == 1) != removes;
-            std::string const& done = takesOut ? remove : add;
-            EXPECT_EQ(told.find("\ncopy.flags 2\n" + done), 0u) << told;
-            EXPECT_EQ(told.substr(told.find("= ")) + '\n', "= 185 Update light layer\nundo\n" +
-                                                               (takesOut ? add : remove) +
-                                                               "redo\n" + done);
-            stack.clear();
-        }
+TEST_F(ZLightLayerControllerTest, commandsHaveTheirNumbersAndTheContextOfTheirTexts) {
+    {
+        MarkingTranslator const marking;
+        edit.createLayer("Rim");
+        edit.deleteLayer(accent);
+        edit.addLightsToLayer(practical, {key});
+        edit.setItemsLightLayer(practical, {rig});
+    }
+    EXPECT_EQ(trip.history(), "ZUndoCommand:Create Light Layer (Rim); "
+                              "ZUndoCommand:Delete Light Layer (Accent); "
+                              "ZUndoCommand:Update light layer; ZUndoCommand:Update light layer");
+    EXPECT_EQ(stack.command(0)->id(), ZCommandId::CreateLightLayer);
+    EXPECT_EQ(static_cast<int>(stack.command(0)->id()), 184);
+    for (int i = 1; i < 4; ++i) {
+        EXPECT_EQ(static_cast<int>(stack.command(i)->id()), 185) << i;
     }
 }
 
 TEST_F(ZLightLayerControllerTest, withoutAStackEveryCommandIsDoneOnceForGood) {
     ZLightLayerController plain(&api, nullptr);
     EXPECT_EQ(plain.createLayer("Rim"), Layer(4));
-    EXPECT_EQ(plain.createLayer(""), none);
     plain.addLightsToLayer(Layer(4), {key, lamp});
     plain.removeLightsFromLayer(Layer(4), {lamp});
     plain.setItemsLightLayer(practical, {rig});
@@ -131,16 +109,9 @@ public:
 
 TEST_F(ZLightLayerControllerTest, creationsMayMakeNothingBeRefusedOrBeDroppedAtOnce) {
     std::string const before = renderer.dump();
-    EXPECT_EQ(story([&] { EXPECT_EQ(edit.createLayer(""), none); }), R"(
-= 184 Create light layer
-undo
-copy.delete_layer -
-layers.delete_n_remap_layer -
-> LightLayerUpdated invalid
-redo)");
     renderer.faults().failCreations = 1;
     EXPECT_EQ(edit.createLayer("Rim"), none);
-    EXPECT_EQ(stack.text(1), "Create light layer");
+    EXPECT_EQ(stack.text(0), "Create light layer");
     RefusingStack refusing;
     ZLightLayerController refused(&api, &refusing);
     EXPECT_EQ(refused.createLayer("Rim"), none);
@@ -148,6 +119,25 @@ redo)");
     EXPECT_EQ(renderer.dump(), before);
     stack.setChangeCallback([this] { stack.count() == 0 || stack.clear(); });
     EXPECT_EQ(edit.createLayer("Rim"), Layer(4));
+}
+
+// The controller goes first: when the queue goes, no command reaches the scene any more.
+TEST_F(ZLightLayerControllerTest, commandsThatOutliveTheRootFail) {
+    SceneGraphPars pars;
+    pars.rtApi = renderer.api();
+    pars.undoStack = &stack;
+    std::unique_ptr<ISceneGraph> root = ISceneGraph::create(pars);
+    root->lightLayerController()->createLayer("Rim");
+    root->lightLayerController()->deleteLayer(accent);
+    std::string const before = renderer.dump();
+    bool undone = true;
+    QObject::connect(root->eventQueue(), &QObject::destroyed, [&] { undone = stack.undo(); });
+    testing::internal::CaptureStderr();
+    root.reset();
+    EXPECT_FALSE(undone);
+    EXPECT_FALSE(stack.goTo(2));
+    testing::internal::GetCapturedStderr();
+    EXPECT_EQ(renderer.dump(), before);
 }
 
 } // namespace
