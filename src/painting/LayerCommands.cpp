@@ -8,23 +8,43 @@
 #include <QObject>
 
 #include <algorithm>
+#include <charconv>
 #include <cstring>
+#include <optional>
 #include <string>
+#include <system_error>
 #include <utility>
 
 namespace zsg {
 
 namespace {
 
-/// The prefix with the number after the largest in use. A name that does not begin with the
-/// prefix's bytes is passed over before a QString is made of it.
+/// The number of a name that ends in a blank and digits behind the prefix; nothing for any other
+/// text, and for a number that no int holds.
+std::optional<int> numberAfterPrefix(char const* rest) {
+    int number = 0;
+    char const* const end = rest + std::strlen(rest);
+    if (end - rest < 2 || rest[0] != ' ' || rest[1] == '-') {
+        return std::nullopt;
+    }
+    auto const [behind, error] = std::from_chars(rest + 1, end, number);
+    return error == std::errc() && behind == end ? std::optional(number) : std::nullopt;
+}
+
+/// The prefix with the number after the largest in use. No QString is made of a name that does not
+/// begin with the prefix's bytes, nor of one that this gave itself: a surface may have thousands.
 std::string defaultName(std::vector<nyxLayerInfo> const& layers) {
     QString const prefix = QObject::tr("Layer");
     QByteArray const bytes = prefix.toUtf8();
+    auto const prefixLength = static_cast<std::size_t>(bytes.size());
     int largest = 0;
     for (nyxLayerInfo const& layer : layers) {
         char const* const name = layer.name ? layer.name : "";
-        if (std::strncmp(name, bytes.constData(), static_cast<std::size_t>(bytes.size())) != 0) {
+        if (std::strncmp(name, bytes.constData(), prefixLength) != 0) {
+            continue;
+        }
+        if (auto const number = numberAfterPrefix(name + prefixLength)) {
+            largest = std::max(largest, *number);
             continue;
         }
         auto const [text, number] = splitTrailingNumber(QString::fromUtf8(name));

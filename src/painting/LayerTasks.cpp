@@ -11,8 +11,8 @@ LayerTask::LayerTask(std::uint32_t renderIndex, nyxCustomSurface* surface)
     setDeleteOnDone(true);
 }
 
-ZAddLayerTask::ZAddLayerTask(std::uint32_t renderIndex, nyxCustomSurface* surface,
-                             std::uint32_t layerId, std::string name)
+ZAddLayerTask::ZAddLayerTask(std::uint32_t renderIndex, std::uint32_t layerId,
+                             nyxCustomSurface* surface, std::string name)
     : LayerTask(renderIndex, surface), layerId_(layerId), name_(std::move(name)) {}
 
 void ZAddLayerTask::run() {
@@ -39,7 +39,7 @@ ZVisibilityLayerTask::ZVisibilityLayerTask(std::uint32_t renderIndex, nyxCustomS
 
 void ZVisibilityLayerTask::run() { surface_->set_layer_visible(renderIndex_, visible_); }
 
-ZMoveLayerTask::ZMoveLayerTask(std::uint32_t from, nyxCustomSurface* surface, std::uint32_t to)
+ZMoveLayerTask::ZMoveLayerTask(std::uint32_t from, std::uint32_t to, nyxCustomSurface* surface)
     : LayerTask(from, surface), to_(to) {}
 
 void ZMoveLayerTask::run() { surface_->move_layer(renderIndex_, to_); }

@@ -25,7 +25,7 @@ protected:
 /// Adds a layer, makes it the edit layer, and names it.
 class ZAddLayerTask final : public LayerTask {
 public:
-    ZAddLayerTask(std::uint32_t renderIndex, nyxCustomSurface* surface, std::uint32_t layerId,
+    ZAddLayerTask(std::uint32_t renderIndex, std::uint32_t layerId, nyxCustomSurface* surface,
                   std::string name);
     void run() override;
 
@@ -63,7 +63,7 @@ private:
 
 class ZMoveLayerTask final : public LayerTask {
 public:
-    ZMoveLayerTask(std::uint32_t from, nyxCustomSurface* surface, std::uint32_t to);
+    ZMoveLayerTask(std::uint32_t from, std::uint32_t to, nyxCustomSurface* surface);
     void run() override;
 
 private:

@@ -111,12 +111,11 @@ bool ZPaintSurface::setLayerBackgroundColor(unsigned int index, nyxColor_rgba co
         return false;
     }
     nyxLayerInfo const& layer = layers_[index];
-    nyxColor_rgba const old = layer.background;
-    if (color.r == old.r && color.g == old.g && color.b == old.b && color.a == old.a) {
+    if (color == layer.background) {
         return false;
     }
     if (undoable) {
-        push(std::make_unique<ZLayerBackgroundCommand>(color, old, layer.id, this));
+        push(std::make_unique<ZLayerBackgroundCommand>(color, layer.background, layer.id, this));
     } else {
         setLayerBackgroundColorInternal(layer.id, color);
     }
@@ -128,20 +127,21 @@ void ZPaintSurface::setEditLayer(unsigned int index) {
         return;
     }
     editLayer_ = index;
-    if (taskQueue_) {
-        queueTask<ZEditLayerTask>(index);
-    }
+    queue(std::make_unique<ZEditLayerTask>(renderIndex(index), surface_));
 }
 
 unsigned int ZPaintSurface::addLayerInternal(unsigned int index, std::string name) {
     index = std::min(index, nLayers());
     nyxLayerInfo layer;
     layer.name = keepName(name.c_str());
+    if (!layer.name) {
+        name.clear(); // the renderer must not know a name that the model has no place for
+    }
     layer.id = nextLayerId_++;
     layers_.insert(layers_.begin() + static_cast<std::ptrdiff_t>(index), layer);
     editLayer_ = index;
-    if (taskQueue_) {
-        queueTask<ZAddLayerTask>(index, layer.id, std::move(name));
+    if (queue(std::make_unique<ZAddLayerTask>(renderIndex(index), layer.id, surface_,
+                                              std::move(name)))) {
         postUpdated();
     }
     return layer.id;
@@ -153,9 +153,7 @@ void ZPaintSurface::setLayerDeletedInternal(unsigned int id, bool deleted) {
         return;
     }
     layers_[index].deleted = deleted;
-    if (taskQueue_) {
-        queueTask<ZDeleteLayerTask>(index, deleted);
-    }
+    queue(std::make_unique<ZDeleteLayerTask>(renderIndex(index), surface_, deleted));
     auto const isLive = [](nyxLayerInfo const& layer) { return !layer.deleted; };
     auto const here = layers_.begin() + static_cast<std::ptrdiff_t>(index);
     auto const above = std::find_if(std::make_reverse_iterator(here + 1), layers_.rend(), isLive);
@@ -163,9 +161,7 @@ void ZPaintSurface::setLayerDeletedInternal(unsigned int id, bool deleted) {
                                               : std::find_if(here, layers_.end(), isLive);
     if (next != layers_.end()) {
         editLayer_ = static_cast<unsigned int>(next - layers_.begin());
-        if (taskQueue_) {
-            queueTask<ZEditLayerTask>(editLayer_);
-        }
+        queue(std::make_unique<ZEditLayerTask>(renderIndex(editLayer_), surface_));
     }
     if (taskQueue_) {
         refresh();
@@ -177,7 +173,7 @@ void ZPaintSurface::setLayerBlendInternal(unsigned int id, nyx::ColorBlendMode m
     unsigned int const index = layerIndexOf(layers_, id);
     if (index != noLayer) {
         layers_[index].blend_mode = mode;
-        changed<ZBlendModeTask>(index, mode);
+        changed(std::make_unique<ZBlendModeTask>(renderIndex(index), surface_, mode));
     }
 }
 
@@ -185,7 +181,7 @@ void ZPaintSurface::setLayerVisibilityInternal(unsigned int id, bool visible) {
     unsigned int const index = layerIndexOf(layers_, id);
     if (index != noLayer) {
         layers_[index].visible = visible;
-        changed<ZVisibilityLayerTask>(index, visible);
+        changed(std::make_unique<ZVisibilityLayerTask>(renderIndex(index), surface_, visible));
     }
 }
 
@@ -193,7 +189,7 @@ void ZPaintSurface::setLayerBackgroundColorInternal(unsigned int id, nyxColor_rg
     unsigned int const index = layerIndexOf(layers_, id);
     if (index != noLayer) {
         layers_[index].background = color;
-        changed<ZBackgroundTask>(index, color);
+        changed(std::make_unique<ZBackgroundTask>(renderIndex(index), surface_, color));
     }
 }
 
@@ -210,7 +206,7 @@ void ZPaintSurface::setLayerNameInternal(unsigned int id, QString name) {
     layers_[index].name = kept;
     // At once, with the place that the layer has here; while tasks wait that add or move layers,
     // the renderer may have another one there.
-    surface_->set_layer_name(renderIndexOf(layers_.size(), index), kept);
+    surface_->set_layer_name(renderIndex(index), kept);
     postUpdated();
 }
 
@@ -223,12 +219,14 @@ void ZPaintSurface::moveLayerInternal(unsigned int id, unsigned int targetId) {
     auto const at = [this](unsigned int index) {
         return layers_.begin() + static_cast<std::ptrdiff_t>(index);
     };
+    nyxLayerInfo const moved = layers_[from];
     if (from < to) {
-        std::rotate(at(from), at(from + 1), at(to + 1));
+        std::move(at(from + 1), at(to + 1), at(from));
     } else {
-        std::rotate(at(to), at(from), at(from + 1));
+        std::move_backward(at(to), at(from), at(from + 1));
     }
-    changed<ZMoveLayerTask>(from, renderIndexOf(layers_.size(), to));
+    layers_[to] = moved;
+    changed(std::make_unique<ZMoveLayerTask>(renderIndex(from), renderIndex(to), surface_));
 }
 
 void ZPaintSurface::setupLayersAfterClone(std::vector<nyxLayerInfo> const& source) {
@@ -247,17 +245,20 @@ void ZPaintSurface::setupLayersAfterClone(std::vector<nyxLayerInfo> const& sourc
     readFromRenderer();
 }
 
-template <class Task, class... Arguments>
-void ZPaintSurface::queueTask(unsigned int index, Arguments&&... arguments) {
-    auto task = std::make_unique<Task>(renderIndexOf(layers_.size(), index), surface_,
-                                       std::forward<Arguments>(arguments)...);
-    taskQueue_->addBlockingRenderTask(task.release());
+unsigned int ZPaintSurface::renderIndex(unsigned int index) const {
+    return renderIndexOf(layers_.size(), index);
 }
 
-template <class Task, class Value>
-void ZPaintSurface::changed(unsigned int index, Value const& value) {
-    if (taskQueue_) {
-        queueTask<Task>(index, value);
+bool ZPaintSurface::queue(std::unique_ptr<ZTask> task) {
+    if (!taskQueue_) {
+        return false;
+    }
+    taskQueue_->addBlockingRenderTask(task.release());
+    return true;
+}
+
+void ZPaintSurface::changed(std::unique_ptr<ZTask> task) {
+    if (queue(std::move(task))) {
         refresh();
         postUpdated();
     }

@@ -69,12 +69,11 @@ public:
 private:
     void readFromRenderer();
     bool push(std::unique_ptr<ZUndoCommand> command);
-    /// Queues a task for the layer at a list index. There must be a queue.
-    template <class Task, class... Arguments>
-    void queueTask(unsigned int index, Arguments&&... arguments);
-    /// What follows a change of one property of the layer at a list index.
-    template <class Task, class Value>
-    void changed(unsigned int index, Value const& value);
+    [[nodiscard]] unsigned int renderIndex(unsigned int index) const;
+    /// False, and the task is deleted, without a task queue.
+    bool queue(std::unique_ptr<ZTask> task);
+    /// What follows a change of one property: the task, a frame and the event.
+    void changed(std::unique_ptr<ZTask> task);
     void refresh();
     void postUpdated();
     [[nodiscard]] char const* keepName(char const* name);
