@@ -14,7 +14,7 @@ using Guard = std::lock_guard<std::mutex>;
 
 Surface::Surface(nyx::SurfaceId id, std::string name, int resolution)
     : id_(id), name_(std::move(name)), resolution_(resolution) {
-    layers_.push_back({LayerInfo{1, {}, {}, false, true, {}}, LayerPixels(resolution)});
+    insert(0, {LayerInfo{1, {}, {}, false, true, {}}, LayerPixels(resolution)});
 }
 
 Surface::Surface(SurfaceInfo const& info, std::vector<Layer> layers)
@@ -22,8 +22,21 @@ Surface::Surface(SurfaceInfo const& info, std::vector<Layer> layers)
       name_(info.name),
       resolution_(info.resolution),
       deleted_(info.deleted),
-      editLayer_(info.editLayer),
-      layers_(std::move(layers)) {}
+      editLayer_(info.editLayer) {
+    for (Layer& layer : layers) {
+        insert(layers_.size(), std::move(layer));
+    }
+}
+
+void Surface::insert(std::size_t index, Layer layer) {
+    if (layers_.size() == layers_.capacity()) {
+        layers_.reserve(2 * layers_.size() + 1); // nothing may fail once the layer is known
+    }
+    auto made = std::make_unique<Layer>(std::move(layer));
+    Layer* const inserted = made.get();
+    byId_.emplace(inserted->info.id, std::move(made));
+    layers_.insert(layers_.begin() + static_cast<std::ptrdiff_t>(index), inserted);
+}
 
 void Surface::belongTo(StringPool& strings, Journal& journal) {
     strings_ = &strings;
@@ -47,7 +60,8 @@ nyx::Unique_array<nyxLayerInfo> Surface::layers() const {
     Guard const guard(mutex_);
     std::vector<nyxLayerInfo> records;
     records.reserve(layers_.size());
-    for (auto const& [layer, pixels] : layers_) {
+    for (Layer const* const each : layers_) {
+        LayerInfo const& layer = each->info;
         records.push_back({layer.mode, layer.deleted, layer.visible, strings_->intern(layer.name),
                            layer.background, layer.id});
     }
@@ -61,25 +75,19 @@ std::uint32_t Surface::edit_layer() const {
 
 Surface::Layer* Surface::at(std::uint32_t index) {
     if (index < layers_.size()) {
-        return &layers_[index];
+        return layers_[index];
     }
     ++ignoredCalls_;
     return nullptr;
 }
 
-Surface::Layer const* Surface::withId(std::uint32_t layerId) const {
-    auto const found = std::find_if(layers_.begin(), layers_.end(), [layerId](Layer const& layer) {
-        return layer.info.id == layerId;
-    });
-    if (found != layers_.end()) {
-        return &*found;
+Surface::Layer* Surface::withId(std::uint32_t layerId) const {
+    auto const found = byId_.find(layerId);
+    if (found != byId_.end()) {
+        return found->second.get();
     }
     ++ignoredCalls_;
     return nullptr;
-}
-
-Surface::Layer* Surface::withId(std::uint32_t layerId) {
-    return const_cast<Layer*>(std::as_const(*this).withId(layerId));
 }
 
 void Surface::set_edit_layer(std::uint32_t index) {
@@ -93,13 +101,11 @@ void Surface::set_edit_layer(std::uint32_t index) {
 void Surface::add_layer(std::uint32_t index, std::uint32_t layer_id) {
     journal_->write("add_layer", id_, index, layer_id);
     Guard const guard(mutex_);
-    auto const isTaken = [layer_id](Layer const& layer) { return layer.info.id == layer_id; };
-    if (index > layers_.size() || std::any_of(layers_.begin(), layers_.end(), isTaken)) {
+    if (index > layers_.size() || byId_.contains(layer_id)) {
         ++ignoredCalls_;
         return;
     }
-    layers_.insert(layers_.begin() + static_cast<std::ptrdiff_t>(index),
-                   {LayerInfo{layer_id, {}, {}, false, true, {}}, LayerPixels(resolution_)});
+    insert(index, {LayerInfo{layer_id, {}, {}, false, true, {}}, LayerPixels(resolution_)});
 }
 
 void Surface::move_layer(std::uint32_t from, std::uint32_t to) {
@@ -111,11 +117,13 @@ void Surface::move_layer(std::uint32_t from, std::uint32_t to) {
     auto const place = [this](std::uint32_t index) {
         return layers_.begin() + static_cast<std::ptrdiff_t>(index);
     };
+    Layer* const moved = layers_[from];
     if (from < to) {
-        std::rotate(place(from), place(from + 1), place(to + 1));
+        std::move(place(from + 1), place(to + 1), place(from));
     } else {
-        std::rotate(place(to), place(from), place(from + 1));
+        std::move_backward(place(to), place(from), place(from + 1));
     }
+    layers_[to] = moved;
 }
 
 void Surface::set_layer_deleted(std::uint32_t index, bool deleted) {
@@ -167,15 +175,20 @@ SurfaceInfo Surface::info() const {
     Guard const guard(mutex_);
     SurfaceInfo info{id_, name_, resolution_, deleted_, editLayer_, {}, ignoredCalls_};
     info.layers.reserve(layers_.size());
-    for (Layer const& layer : layers_) {
-        info.layers.push_back(layer.info);
+    for (Layer const* const layer : layers_) {
+        info.layers.push_back(layer->info);
     }
     return info;
 }
 
 std::vector<Surface::Layer> Surface::layersWithPixels() const {
     Guard const guard(mutex_);
-    return layers_;
+    std::vector<Layer> copies;
+    copies.reserve(layers_.size());
+    for (Layer const* const layer : layers_) {
+        copies.push_back(*layer);
+    }
+    return copies;
 }
 
 std::optional<LayerPixels> Surface::pixels(std::uint32_t layerId) const {
@@ -211,9 +224,9 @@ Image Surface::composite() const {
         // Snapshots, so that nobody waits for the picture.
         Guard const guard(mutex_);
         resolution = resolution_;
-        for (Layer const& layer : layers_) {
-            if (layer.info.visible && !layer.info.deleted) {
-                shown.push_back({layer.info.mode, layer.info.background, layer.pixels});
+        for (Layer const* const layer : layers_) {
+            if (layer->info.visible && !layer->info.deleted) {
+                shown.push_back({layer->info.mode, layer->info.background, layer->pixels});
             }
         }
     }
@@ -229,11 +242,11 @@ bool Surface::resample(int resolution) {
         // All or none: memory may run out half-way.
         std::vector<LayerPixels> resampled;
         resampled.reserve(layers_.size());
-        for (Layer const& layer : layers_) {
-            resampled.push_back(layer.pixels.resampled(resolution));
+        for (Layer const* const layer : layers_) {
+            resampled.push_back(layer->pixels.resampled(resolution));
         }
         for (std::size_t i = 0; i < layers_.size(); ++i) {
-            layers_[i].pixels = std::move(resampled[i]);
+            layers_[i]->pixels = std::move(resampled[i]);
         }
         resolution_ = resolution;
     }
@@ -242,8 +255,8 @@ bool Surface::resample(int resolution) {
 
 void Surface::dropPixels() {
     Guard const guard(mutex_);
-    for (Layer& layer : layers_) {
-        layer.pixels = LayerPixels(resolution_);
+    for (Layer* const layer : layers_) {
+        layer->pixels = LayerPixels(resolution_);
     }
 }
 

@@ -6,9 +6,11 @@
 #include "nyxembedded/Stroke.h"
 #include "nyxrender/nyxCustomSurface.h"
 
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace nyx::embedded {
@@ -70,8 +72,8 @@ public:
 private:
     /// The layer of an index or an id; null, and counted, when there is none.
     [[nodiscard]] Layer* at(std::uint32_t index);
-    [[nodiscard]] Layer* withId(std::uint32_t layerId);
-    [[nodiscard]] Layer const* withId(std::uint32_t layerId) const;
+    [[nodiscard]] Layer* withId(std::uint32_t layerId) const;
+    void insert(std::size_t index, Layer layer);
 
     nyx::SurfaceId const id_;
     std::string const name_;
@@ -82,7 +84,8 @@ private:
     int resolution_;
     bool deleted_ = false;
     std::uint32_t editLayer_ = 0;
-    std::vector<Layer> layers_;
+    std::unordered_map<std::uint32_t, std::unique_ptr<Layer>> byId_; // no two have one id
+    std::vector<Layer*> layers_; // the same in render order: moves are of pointers
     mutable unsigned ignoredCalls_ = 0;
 };
 
