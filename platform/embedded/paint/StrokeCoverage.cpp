@@ -1,6 +1,7 @@
 #include "paint/StrokeCoverage.h"
 
 #include "nyxembedded/LayerPixels.h"
+#include "paint/toByte.h"
 
 #include <algorithm>
 #include <cmath>
@@ -37,12 +38,6 @@ void addRow(std::uint16_t* cover, std::uint16_t const* mask, int count, std::uin
     for (int i = 0; i < count; ++i) {
         cover[i] = moved(cover[i], cap, mask[i]);
     }
-}
-
-std::uint8_t toByte(float part) {
-    constexpr float half = 0.5f;
-    return part > 0 ? static_cast<std::uint8_t>(std::min(part, 1.0f) * 255.0f + half)
-                    : std::uint8_t{0};
 }
 
 /// `over`, of which `alpha` out of 65535 is there, laid over a premultiplied channel.

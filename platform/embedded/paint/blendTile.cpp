@@ -13,10 +13,11 @@ constexpr float half = 0.5f;
 using Mode = nyx::ColorBlendMode;
 using Word = std::uint16_t; // eight of them fit a vector register; sums may wrap on the way
 
-/// x / 255 to the nearest, for x up to 255 * 255.
+/// x / 255 to the nearest, for x up to 255 * 255. Written as the upper half of a product, which
+/// vector registers know.
 constexpr Word divideBy255(Word x) {
-    Word const t = static_cast<Word>(x + 128);
-    return static_cast<Word>(static_cast<Word>(t + (t >> 8)) >> 8);
+    auto const t = static_cast<Word>(x + 128);
+    return static_cast<Word>((std::uint32_t{t} * 257u) >> 16);
 }
 
 constexpr Word times(Word x, Word y) { return static_cast<Word>(x * y); }
@@ -98,10 +99,8 @@ void blendPlane(std::uint8_t* __restrict backdrop, std::uint8_t const* __restric
         Word const a = sourceAlpha[i];
         Word const b = backdropAlpha[i];
         Word sum = 0;
-        if constexpr (mode == Mode::Normal) {
-            sum = plus(times(s, 255), times(d, minus(255, a)));
-        } else if constexpr (mode == Mode::ColorDodge || mode == Mode::ColorBurn ||
-                             mode == Mode::SoftLight) {
+        if constexpr (mode == Mode::ColorDodge || mode == Mode::ColorBurn ||
+                      mode == Mode::SoftLight) {
             float const both = blended<mode>(static_cast<float>(s), static_cast<float>(d),
                                              static_cast<float>(a), static_cast<float>(b));
             sum = plus(plus(times(s, minus(255, b)), times(d, minus(255, a))),
@@ -114,12 +113,32 @@ void blendPlane(std::uint8_t* __restrict backdrop, std::uint8_t const* __restric
     }
 }
 
+/// s + d (1 - a), one number of the result of Normal, and its alpha in every mode.
+constexpr std::uint8_t over(std::uint8_t s, std::uint8_t d, Word transparency) {
+    return static_cast<std::uint8_t>(
+        s + static_cast<std::uint8_t>(divideBy255(times(d, transparency))));
+}
+
 void blendAlpha(std::uint8_t* __restrict backdrop, std::uint8_t const* __restrict source) {
     for (int i = 0; i < PixelTile::texels; ++i) {
-        Word const a = source[i];
-        Word const b = backdrop[i];
-        backdrop[i] =
-            static_cast<std::uint8_t>(divideBy255(plus(times(a, 255), times(b, minus(255, a)))));
+        auto const transparency = static_cast<Word>(static_cast<std::uint8_t>(~source[i]));
+        backdrop[i] = over(source[i], backdrop[i], transparency);
+    }
+}
+
+/// All planes in one pass: source-over is no more than memory can deliver.
+void blendNormal(PixelTile& backdrop, PixelTile const& source) {
+    std::uint8_t* __restrict const red = backdrop.planes[0];
+    std::uint8_t* __restrict const green = backdrop.planes[1];
+    std::uint8_t* __restrict const blue = backdrop.planes[2];
+    std::uint8_t* __restrict const alpha = backdrop.planes[PixelTile::alpha];
+    for (int i = 0; i < PixelTile::texels; ++i) {
+        std::uint8_t const a = source.planes[PixelTile::alpha][i];
+        auto const transparency = static_cast<Word>(static_cast<std::uint8_t>(~a));
+        red[i] = over(source.planes[0][i], red[i], transparency);
+        green[i] = over(source.planes[1][i], green[i], transparency);
+        blue[i] = over(source.planes[2][i], blue[i], transparency);
+        alpha[i] = over(a, alpha[i], transparency);
     }
 }
 
@@ -163,7 +182,7 @@ void blendTile(PixelTile& backdrop, PixelTile const& source, nyx::ColorBlendMode
     case Mode::Exclusion:
         return blend<Mode::Exclusion>(backdrop, source);
     default:
-        return blend<Mode::Normal>(backdrop, source);
+        return blendNormal(backdrop, source);
     }
 }
 

@@ -1,7 +1,7 @@
 #include "paint/composite.h"
 
 #include "paint/blendTile.h"
-#include "paint/paintStroke.h"
+#include "paint/toByte.h"
 
 #include <algorithm>
 #include <cstring>
@@ -12,6 +12,21 @@ namespace nyx::embedded {
 namespace {
 
 constexpr int edge = PixelTile::edge;
+
+/// Whether every texel's alpha is that value. Most tiles say no in their first row.
+bool isAlphaEverywhere(PixelTile const& tile, std::uint8_t value) {
+    std::uint8_t const* const alpha = tile.planes[PixelTile::alpha];
+    for (int row = 0; row < PixelTile::texels; row += edge) {
+        std::uint8_t differences = 0;
+        for (int i = row; i < row + edge; ++i) {
+            differences = static_cast<std::uint8_t>(differences | (alpha[i] ^ value));
+        }
+        if (differences != 0) {
+            return false;
+        }
+    }
+    return true;
+}
 
 /// A tile of one colour; nothing when the colour is transparent.
 std::unique_ptr<PixelTile> filled(nyxColor_rgba const& color) {
@@ -50,48 +65,84 @@ void copyOut(PixelTile const& tile, Image& image, int left, int top) {
     }
 }
 
+/// Composites tiles of one place; what is composited so far stays in the cache.
+class TileStack {
+public:
+    explicit TileStack(std::vector<CompositeLayer> const& layers) : layers_(layers) {
+        backgrounds_.reserve(layers.size());
+        for (CompositeLayer const& layer : layers) {
+            backgrounds_.push_back(filled(layer.background));
+        }
+    }
+
+    /// Null where everything is transparent; valid until the next call.
+    PixelTile const* composite(int column, int row) {
+        PixelTile const* shown = nullptr;
+        for (std::size_t i = lowestSeen(column, row); i < layers_.size(); ++i) {
+            PixelTile const* const source = withBackground(i, column, row);
+            if (source == nullptr || isAlphaEverywhere(*source, 0)) {
+                continue;
+            }
+            if (shown == nullptr) { // over nothing, every mode leaves the source as it is
+                shown = source;
+                if (source == &over_) {
+                    sum_ = over_;
+                    shown = &sum_;
+                }
+                continue;
+            }
+            if (shown != &sum_) {
+                sum_ = *shown;
+                shown = &sum_;
+            }
+            blendTile(sum_, *source, layers_[i].mode);
+        }
+        return shown;
+    }
+
+private:
+    /// The topmost layer that hides everything beneath it, or the lowest.
+    [[nodiscard]] std::size_t lowestSeen(int column, int row) const {
+        auto const isOpaque = [](PixelTile const* tile) {
+            return tile != nullptr && isAlphaEverywhere(*tile, 255);
+        };
+        for (std::size_t i = layers_.size(); i-- > 1;) {
+            if (layers_[i].mode == nyx::ColorBlendMode::Normal &&
+                (isOpaque(backgrounds_[i].get()) ||
+                 isOpaque(layers_[i].pixels.tile(column, row).get()))) {
+                return i;
+            }
+        }
+        return 0;
+    }
+    PixelTile const* withBackground(std::size_t layer, int column, int row) {
+        PixelTile const* const pixels = layers_[layer].pixels.tile(column, row).get();
+        PixelTile const* const background = backgrounds_[layer].get();
+        if (pixels == nullptr || background == nullptr) {
+            return pixels != nullptr ? pixels : background;
+        }
+        over_ = *background;
+        blendTile(over_, *pixels, nyx::ColorBlendMode::Normal);
+        return &over_;
+    }
+
+    std::vector<CompositeLayer> const& layers_;
+    std::vector<std::unique_ptr<PixelTile>> backgrounds_;
+    PixelTile sum_;
+    PixelTile over_; ///< a layer's pixels over its background
+};
+
 } // namespace
 
 Image composite(std::vector<CompositeLayer> const& layers, int resolution) {
     Image image{resolution, resolution, {}};
     auto const size = static_cast<std::size_t>(resolution);
     image.rgba.resize(size * size * 4);
-    std::vector<std::unique_ptr<PixelTile>> backgrounds;
-    backgrounds.reserve(layers.size());
-    for (CompositeLayer const& layer : layers) {
-        backgrounds.push_back(filled(layer.background));
-    }
-    // Tile by tile, so that what is composited so far stays in the cache.
-    int const across = (resolution + edge - 1) / edge;
-    for (int row = 0; row < across; ++row) {
-        for (int column = 0; column < across; ++column) {
-            PixelTile sum;
-            bool isEmpty = true;
-            for (std::size_t i = 0; i < layers.size(); ++i) {
-                PixelTile const* const pixels = layers[i].pixels.tile(column, row).get();
-                std::unique_ptr<PixelTile> const& background = backgrounds[i];
-                if (pixels == nullptr && !background) {
-                    continue;
-                }
-                PixelTile over;
-                PixelTile const* source = pixels;
-                if (background) {
-                    source = &*background;
-                    if (pixels != nullptr) {
-                        over = *background;
-                        blendTile(over, *pixels, nyx::ColorBlendMode::Normal);
-                        source = &over;
-                    }
-                }
-                if (isEmpty) {
-                    sum = *source; // over nothing, every mode leaves the source as it is
-                    isEmpty = false;
-                } else {
-                    blendTile(sum, *source, layers[i].mode);
-                }
-            }
-            if (!isEmpty) {
-                copyOut(sum, image, column * edge, row * edge);
+    TileStack stack(layers);
+    for (int top = 0; top < resolution; top += edge) {
+        for (int left = 0; left < resolution; left += edge) {
+            if (PixelTile const* const tile = stack.composite(left / edge, top / edge)) {
+                copyOut(*tile, image, left, top);
             }
         }
     }

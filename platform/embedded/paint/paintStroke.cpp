@@ -1,5 +1,7 @@
 #include "paint/paintStroke.h"
 
+#include "paint/toByte.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -26,11 +28,6 @@ constexpr float half = 0.5f;
 constexpr int divideBy255(int x) { return (x + 128 + ((x + 128) >> 8)) >> 8; }
 
 } // namespace
-
-std::uint8_t toByte(float part) {
-    return part > 0 ? static_cast<std::uint8_t>(std::min(part, 1.0f) * 255.0f + half)
-                    : std::uint8_t{0};
-}
 
 StrokeMask::StrokeMask(int resolution)
     : resolution_(resolution),

@@ -36,7 +36,4 @@ private:
 [[nodiscard]] std::vector<Stroke::Point> dabCenters(std::vector<Stroke::Point> const& points,
                                                     float distance);
 
-/// A part of 1 as a byte: to the nearest, cut off at 0 and 255; NaN gives 0.
-[[nodiscard]] std::uint8_t toByte(float part);
-
 } // namespace nyx::embedded
