@@ -72,9 +72,29 @@ bool sameTile(TileHandle const& a, TileHandle const& b) {
 } // namespace
 
 LayerPixels::LayerPixels(int resolution)
-    : resolution_(resolution),
-      tilesAcross_((resolution + PixelTile::edge - 1) / PixelTile::edge),
-      tiles_(static_cast<std::size_t>(tilesAcross_) * static_cast<std::size_t>(tilesAcross_)) {}
+    : resolution_(resolution), tilesAcross_((resolution + PixelTile::edge - 1) / PixelTile::edge) {}
+
+void LayerPixels::makeTable() {
+    if (tiles_.empty()) {
+        auto const across = static_cast<std::size_t>(tilesAcross_);
+        tiles_.resize(across * across);
+    }
+}
+
+TileHandle const& LayerPixels::tileIn(std::size_t slot) const {
+    static TileHandle const none;
+    return tiles_.empty() ? none : tiles_[slot];
+}
+
+PixelTile& LayerPixels::writableTile(int column, int row) {
+    makeTable();
+    return tiles_[slot(column, row)].writable();
+}
+
+void LayerPixels::setTile(int column, int row, TileHandle tile) {
+    makeTable();
+    tiles_[slot(column, row)] = std::move(tile);
+}
 
 std::size_t LayerPixels::tileCount() const {
     return static_cast<std::size_t>(std::count_if(
@@ -147,8 +167,15 @@ LayerPixels LayerPixels::resampled(int resolution) const {
 }
 
 bool operator==(LayerPixels const& a, LayerPixels const& b) {
-    return a.resolution_ == b.resolution_ &&
-           std::equal(a.tiles_.begin(), a.tiles_.end(), b.tiles_.begin(), sameTile);
+    if (a.resolution_ != b.resolution_) {
+        return false;
+    }
+    std::size_t const end = std::max(a.tiles_.size(), b.tiles_.size());
+    std::size_t place = 0;
+    while (place < end && sameTile(a.tileIn(place), b.tileIn(place))) {
+        ++place;
+    }
+    return place == end;
 }
 
 } // namespace nyx::embedded

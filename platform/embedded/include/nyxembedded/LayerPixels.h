@@ -11,7 +11,8 @@
 namespace nyx::embedded {
 
 /// What is painted on a layer: a square of tiles, made when first painted on. A copy is a snapshot:
-/// it shares the tiles until either side paints, and costs one handle per tile. One object may be
+/// it shares the tiles until either side paints, and costs one handle per tile; nothing as long as
+/// nothing was painted. One object may be
 /// used by one thread at a time; copies are independent.
 ///
 /// Texels are counted from the upper left corner, tiles likewise.
@@ -30,14 +31,10 @@ public:
     // Tiles. Column and row must be within tilesAcross().
 
     [[nodiscard]] TileHandle const& tile(int column, int row) const {
-        return tiles_[slot(column, row)];
+        return tileIn(slot(column, row));
     }
-    [[nodiscard]] PixelTile& writableTile(int column, int row) {
-        return tiles_[slot(column, row)].writable();
-    }
-    void setTile(int column, int row, TileHandle tile) {
-        tiles_[slot(column, row)] = std::move(tile);
-    }
+    [[nodiscard]] PixelTile& writableTile(int column, int row);
+    void setTile(int column, int row, TileHandle tile);
 
     /// Red, green, blue, alpha, multiplied by alpha; transparent outside.
     [[nodiscard]] std::array<std::uint8_t, 4> texel(int x, int y) const;
@@ -54,10 +51,12 @@ private:
         return static_cast<std::size_t>(row) * static_cast<std::size_t>(tilesAcross_) +
                static_cast<std::size_t>(column);
     }
+    [[nodiscard]] TileHandle const& tileIn(std::size_t slot) const;
+    void makeTable();
 
     int resolution_;
     int tilesAcross_;
-    std::vector<TileHandle> tiles_;
+    std::vector<TileHandle> tiles_; ///< empty until one is set: large layers have large tables
 };
 
 } // namespace nyx::embedded
