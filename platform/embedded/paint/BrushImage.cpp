@@ -2,10 +2,31 @@
 
 #include <png.h>
 
+#include <cerrno>
+#include <cstdio>
 #include <filesystem>
 #include <system_error>
 
 namespace nyx::embedded {
+
+namespace {
+
+struct Close {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, Close>;
+
+/// Null with errno set when that is impossible. A path in the form of the system: what takes a
+/// plain text expects the system's own encoding, which need not be UTF-8.
+File openToRead(std::filesystem::path const& path) {
+#if defined(_WIN32)
+    return File(_wfopen(path.c_str(), L"rb"));
+#else
+    return File(std::fopen(path.c_str(), "rb"));
+#endif
+}
+
+} // namespace
 
 std::shared_ptr<BrushImage const> readBrushImage(std::string const& path, std::string& message) {
     /// The reader's state, freed on every way out.
@@ -22,7 +43,12 @@ std::shared_ptr<BrushImage const> readBrushImage(std::string const& path, std::s
         message = path + ": " + (error ? error.message() : "not a file");
         return nullptr;
     }
-    if (png_image_begin_read_from_file(&png, path.c_str()) == 0) {
+    File const open = openToRead(file);
+    if (open == nullptr) {
+        message = path + ": " + std::generic_category().message(errno);
+        return nullptr;
+    }
+    if (png_image_begin_read_from_stdio(&png, open.get()) == 0) {
         message = path + ": " + png.message;
         return nullptr;
     }
