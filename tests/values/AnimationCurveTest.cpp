@@ -179,7 +179,7 @@ TEST(AnimationCurve, InsertsByTheTypeOfThePlace) {
 TEST(AnimationCurve, ManyInsertionsKeepShapeAndOrder) {
     std::mt19937 random(11);
     std::uniform_real_distribution<float> part(0, 1);
-    for (int round = 0; round < 20; ++round) {
+    for (int round = 0; round < 8; ++round) {
         AnimationCurve before;
         nyxArray<float> n;
         for (float x = 0; x < 6; ++x) {

@@ -16,6 +16,7 @@ TEST(BezierSegment, FindsTheParameterOfEveryMonotoneSegment) {
         BezierSegment const s{{0, 0}, {handle(), 0}, {handle(), 0}, {1, 0}};
         double const x = part(random);
         double const t = s.parameterAt(x);
+        ASSERT_TRUE(s.parameterAt(-x) == 0 && s.parameterAt(1 + x) == 1);
         double const u = 1 - t;
         ASSERT_NEAR(3 * u * u * t * s.out.x + 3 * u * t * t * s.in.x + t * t * t, x, 1e-11);
         BezierSegment const wide{

@@ -82,6 +82,7 @@ TEST(WeaveJson, ReadsWhatItCan) {
     } const rows[] = {
         {document(), true, true, true},
         {document({{"pattern_mask", "[0,-3,77,0]"}}), true, true, true},
+        {document({{"pattern_mask", "[0,2,8,0]"}}), true, true, true},
         {document({{"pattern_mask", "[0,1.5,true,0.9]"}}), true, true, true},
         {document({{"more", "{\"pattern_mask\":[1]}"}}), true, true, true},
         {document({{"more", "\"\\\"pattern_mask\\\":[1,1,1,1]\""}}), true, true, true},
@@ -125,6 +126,7 @@ TEST(WeaveJson, ReadsWhatItCan) {
     WeavePattern single;
     EXPECT_TRUE(single.setFromJson("{\"pattern_warps\":-4,\"pattern_mask\":[1]}"));
     EXPECT_EQ(single.numWarp() * single.numWeft(), 1);
+    EXPECT_TRUE(single.setFromJson(document({{"kind", "[2147483647,-2147483648]"}})));
 }
 
 TEST(WeaveJson, ErrorsAreTheJsonLibrarysAndChangeNothing) {
