@@ -1,8 +1,5 @@
-#include "zsg/materials/ZCMFSchema.h"
-
+#include "materials/CMFText.h"
 #include "support/sourceDir.h"
-
-#include <QTextStream>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -30,12 +27,6 @@ std::string contents(std::filesystem::path const& path) {
     text << in.rdbuf();
     EXPECT_TRUE(in) << path;
     return text.str();
-}
-
-ZCMFSchema::LoadInfo load(std::string const& text) {
-    QByteArray const bytes = QByteArray::fromStdString(text);
-    QTextStream in(bytes);
-    return ZCMFSchema::load(in);
 }
 
 /// What docs/cmf.schema.json says of a text; one that is no JSON is not valid.
@@ -66,7 +57,7 @@ TEST(CMFFormat, LoaderSchemaFileAndDocumentAgreeOnTheExamples) {
         }
         std::string const text = contents(entry.path());
         std::string const folder = entry.path().parent_path().filename();
-        ZCMFSchema::LoadInfo const info = load(text);
+        ZCMFSchema::LoadInfo const info = load(QByteArray::fromStdString(text));
         ++files[folder];
         EXPECT_EQ(info.status == 0, folder != "bad") << entry << info.message.toStdString();
         // A validator cannot compare names.
@@ -74,10 +65,7 @@ TEST(CMFFormat, LoaderSchemaFileAndDocumentAgreeOnTheExamples) {
         EXPECT_EQ(isValid(text), folder == "good" || twoOfAName) << entry;
         if (folder == "good") {
             EXPECT_TRUE(info.warnings.isEmpty()) << entry;
-            QString saved;
-            QTextStream out(&saved);
-            info.schema->save(out);
-            EXPECT_EQ(saved.toStdString(), text) << entry << " is not as it would be saved";
+            EXPECT_EQ(saved(*info.schema).toStdString(), text) << entry;
         }
         if (folder == "bad") {
             std::string message = info.message.toStdString();
@@ -90,37 +78,14 @@ TEST(CMFFormat, LoaderSchemaFileAndDocumentAgreeOnTheExamples) {
     EXPECT_GE(files["bad"], 11);
 }
 
-TEST(CMFFormat, TheDocumentDescribesWhatTheSchemaFileDescribes) {
+TEST(CMFFormat, TheDocumentShowsAFileAsItIsSaved) {
     std::string const text = description();
     std::size_t const begin = text.find("```json\n") + 8;
     std::string const example = text.substr(begin, text.find("```", begin) - begin);
     EXPECT_TRUE(isValid(example));
-    ZCMFSchema::LoadInfo const info = load(example);
+    ZCMFSchema::LoadInfo const info = load(QByteArray::fromStdString(example));
     ASSERT_TRUE(info.schema) << info.message.toStdString();
-    QString saved;
-    QTextStream out(&saved);
-    info.schema->save(out);
-    EXPECT_EQ(saved.toStdString(), example) << "saving writes this to the letter";
-
-    json const schema = json::parse(contents(source / "docs/cmf.schema.json"));
-    json const& attribute = schema["definitions"]["attribute"];
-    std::size_t keys = 0;
-    for (auto const& [suffix, object] :
-         {std::pair<std::string, json>{"", schema}, {" of an attribute", attribute}}) {
-        EXPECT_EQ(object["required"].size(), object["properties"].size());
-        for (auto const& [key, value] : object["properties"].items()) {
-            std::string const type = value.contains("const") ? "const " + value["const"].dump()
-                                                             : value["type"].get<std::string>();
-            EXPECT_NE(text.find("| \"" + key + "\"" + suffix + " | " + type), std::string::npos)
-                << key;
-            ++keys;
-        }
-    }
-    std::size_t rows = 0;
-    for (std::size_t at = 0; (at = text.find("\n| \"", at)) != std::string::npos; ++at) {
-        ++rows;
-    }
-    EXPECT_EQ(rows, keys);
+    EXPECT_EQ(saved(*info.schema).toStdString(), example);
 }
 
 } // namespace

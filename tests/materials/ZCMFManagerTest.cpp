@@ -44,33 +44,6 @@ TEST(ZCMFManager, startsWithTheBuiltInSchemaAndAnnouncesEveryReplacement) {
     EXPECT_EQ(alone.schema(), given);
 }
 
-TEST(ZCMFManager, listenersMayReplaceTheSchemaAgain) {
-    class Renamer final : public IEventListener {
-    public:
-        explicit Renamer(ISceneGraph& root)
-            : root_(root),
-              subscription_(*root.eventQueue(), *this, {EventType::CMFSchemaChanged}) {}
-        void onEvent(Event const*) override {
-            ZCMFSchema next = root_.cmfManager()->schema();
-            if (next.schemaName.size() < 3) {
-                next.schemaName += 'x';
-                root_.cmfManager()->setSchema(next);
-            }
-        }
-
-    private:
-        ISceneGraph& root_;
-        Subscription subscription_;
-    };
-    auto const root = ISceneGraph::create({});
-    Renamer const renamer(*root);
-    EventTrace trace(*root->eventQueue());
-    root->cmfManager()->setSchema({});
-    EXPECT_EQ(root->cmfManager()->schema().schemaName, "xxx");
-    EXPECT_EQ(trace.take(),
-              "CMFSchemaChanged\nCMFSchemaChanged\nCMFSchemaChanged\nCMFSchemaChanged");
-}
-
 TEST(cmfFieldKey, namesTheFieldsThatMaterialsStore) {
     char const* const keys[] = {"CMF::TEXT::NAME",      "CMF::TEXT::COLOR",  "CMF::TEXT::MATERIAL",
                                 "CMF::TEXT::FINISH",    "CMF::TEXT::VENDOR", "CMF::TEXT::NOTES",

@@ -1,10 +1,12 @@
 #include "zsg/materials/ZCMFSchema.h"
 
-#include <QIODevice>
+#include "materials/CMFText.h"
+#include "materials/cmfSchemaText.h"
+#include "support/MarkingTranslator.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTextStream>
 
 #include <gtest/gtest.h>
 
@@ -15,11 +17,6 @@
 using namespace zsg;
 
 namespace {
-
-ZCMFSchema::LoadInfo load(QByteArray const& file) {
-    QTextStream in(file);
-    return ZCMFSchema::load(in);
-}
 
 /// A file with these attributes.
 QByteArray file(QByteArray const& attributes) {
@@ -40,15 +37,6 @@ std::string text(ZCMFSchema const& schema) {
                (a.visible ? " shown" : " hidden") + a.extra;
     }
     return out.toStdString();
-}
-
-QByteArray saved(ZCMFSchema const& schema) {
-    QByteArray bytes;
-    QTextStream out(&bytes, QIODevice::WriteOnly);
-    out.setEncoding(QStringConverter::Latin1);
-    schema.save(out);
-    out.flush();
-    return bytes;
 }
 
 /// The same file made with QJsonDocument.
@@ -74,7 +62,6 @@ constexpr char const* badVisible = "The visibility of an attribute is absent or 
 
 TEST(ZCMFSchema, refusesWithTheFirstFaultAndKeepsNothing) {
     std::string const notJson = "File does not contain a valid json. Error: ";
-    std::string const a = attribute("A").toStdString();
     struct Row {
         QByteArray text;
         std::string message;
@@ -82,33 +69,24 @@ TEST(ZCMFSchema, refusesWithTheFirstFaultAndKeepsNothing) {
     };
     std::vector<Row> const rows{
         {"", notJson + "illegal value"},
-        {"no brace at all", notJson + "illegal value"},
         {"[]", notJson + "illegal value"},
-        {"{", notJson + "unterminated object"},
         {"{} x", notJson + "garbage at the end of the document"},
-        {QByteArray("{\"a\": \0}", 8), notJson + "illegal number"},
         {"{\"a\": " + QByteArray(2000, '['), notJson + "too deeply nested document"},
         {"{}", oldVersion},
         {R"({"version": 2})", oldVersion},
         {R"({"version": 1.5})", oldVersion},
         {R"({"version": "1", "attributes": 3})", oldVersion},
-        {R"({"version": true})", oldVersion},
-        {R"({"version": 1, "schemaName": 3})", badAttributes},
         {R"({"version": 1, "attributes": {"0": 1}})", badAttributes},
         {R"({"version": 1, "attributes": []})", badAttributes},
-        {R"({"version": 1, "attributes": [3]})", noName},
         {R"({"version": 1, "attributes": [3], "schemaName": null})", noName},
         {file("3"), badAttributes},
-        {file("{}"), badDisplayName},
         {file(R"({"name": 3})"), badDisplayName},
         {file(R"({"name": "A"})"), badKind},
         {file(attribute("A", "\"0\"")), badKind},
         {file(attribute("A", "0", "1")), badVisible},
-        {file(R"({"name": "A", "kind": 0})"), badVisible},
         {file(attribute("A") + "," + attribute("A")), "Two attributes have identical names: A."},
         {file(attribute("Vendor") + "," + attribute("Vend|or")),
          "Two attributes have identical names: Vendor."},
-        {file(attribute("%1") + "," + attribute("%1")), "Two attributes have identical names: %1."},
         // The name is looked at before the kind, and the kind before the visibility.
         {file(attribute("A") + "," + attribute("A", "9")),
          "Two attributes have identical names: A."},
@@ -170,28 +148,10 @@ TEST(ZCMFSchema, readsWhatIsGoodAndWarnsOfKindsThatItDoesNotKnow) {
 }
 
 TEST(ZCMFSchema, savesEverythingAsItIs) {
-    ZCMFSchema schema{QStringLiteral("S\u00e4tze"), {}};
-    schema.attributes = {{QStringLiteral("A|B"), true, ZCMFAttributeKind::Text, "gone"},
-                         {QStringLiteral("A|B"), false, static_cast<ZCMFAttributeKind>(9), {}}};
-    EXPECT_EQ(saved(schema).toStdString(), R"({
-    "attributes": [
-        {
-            "kind": 0,
-            "name": "A|B",
-            "visible": true
-        },
-        {
-            "kind": 9,
-            "name": "A|B",
-            "visible": false
-        }
-    ],
-    "schemaName": ")"
-                                           "S\xC3\xA4tze"
-                                           R"(",
-    "version": 1
-}
-)");
+    ZCMFSchema const schema{QStringLiteral("S\u00e4tze"),
+                            {{QStringLiteral("A|B"), true, ZCMFAttributeKind::Text, "gone"},
+                             {"A|B", false, static_cast<ZCMFAttributeKind>(9)}}};
+    EXPECT_EQ(saved(schema), savedByQt(schema));
     EXPECT_EQ(ZCMFSchema::version(), 1);
     EXPECT_EQ(load(saved({})).message, badAttributes);
     EXPECT_EQ(saved({}), savedByQt({}));
@@ -239,9 +199,11 @@ TEST(ZCMFSchema, readsSavedTextTheFastWayWithoutADifference) {
         return (info.schema ? text(*info.schema) : info.message.toStdString()) +
                info.warnings.join('\n').toStdString();
     };
-    ZCMFSchema const schema{"S", {{"A"}, {"B", false, ZCMFAttributeKind::Other7}}};
+    ZCMFSchema const schema{"S", {{"A"}, {"B", false, ZCMFAttributeKind::Other7}, {""}}};
     QByteArray const file = saved(schema);
-    EXPECT_EQ(outcome(file), "S: A 0 shown, B 7 hidden");
+    ZCMFSchema fast;
+    EXPECT_TRUE(readCMFSchemaText(QString::fromUtf8(file), fast));
+    EXPECT_EQ(fast, schema);
     // One character left out, repeated, or replaced; the blank keeps it from the fast way.
     for (qsizetype at = 0; at < file.size(); ++at) {
         for (char const c : std::string("\0A|\"\\\n8-}, 1", 13)) {
@@ -255,6 +217,13 @@ TEST(ZCMFSchema, readsSavedTextTheFastWayWithoutADifference) {
             }
         }
     }
+}
+
+TEST(ZCMFSchema, translatesWhatItSays) {
+    MarkingTranslator const marking;
+    EXPECT_EQ(load("{}").message, "QObject:File format version is too old or unknown");
+    ZCMFSchema::LoadInfo const info = load(file(attribute("A", "9")));
+    EXPECT_TRUE(info.warnings.value(0).startsWith("QObject:Material Information Schema \"Seats\""));
 }
 
 TEST(ZCMFSchema, findsNamesAndTellsKindsApart) {

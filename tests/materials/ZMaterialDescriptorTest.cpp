@@ -66,15 +66,10 @@ TEST(ZMaterialDescriptor, editingACopyLeavesTheOriginal) {
         EXPECT_NE(std::as_const(copy).values(), before);
         EXPECT_EQ(std::as_const(original).values(), before);
 
-        ZMaterialDescriptor keeper(original);
-        edit(keeper);
-        original = keeper;
+        copy = original;
         edit(original);
-        EXPECT_EQ(std::as_const(original).values(), std::as_const(keeper).values());
-        original = ZMaterialDescriptor(original.id(), {});
-        for (auto const& [key, value] : before) {
-            original.setValue(key, value);
-        }
+        EXPECT_EQ(std::as_const(copy).values(), before);
+        original = copy;
     }
     ZMaterialDescriptor moved(std::move(original));
     EXPECT_EQ(original.value("a"), "1") << "moving is copying";
@@ -109,7 +104,7 @@ TEST(ZMaterialDescriptor, keepsMetadataOfAnyShape) {
 
 TEST(ZMaterialDescriptor, takesMetadataThatCanBeReadBackOnly) {
     auto const nested = [](int depth) {
-        json value = json::array({1});
+        json value = json::array();
         for (int around = 1; around < depth; ++around) {
             json outer = json::array();
             outer.push_back(std::move(value));

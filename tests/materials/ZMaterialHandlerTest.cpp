@@ -1,9 +1,9 @@
 #include "materials/ZMaterialHandler.h"
 
+#include "materials/ZMaterialApi.h"
 #include "support/EventTrace.h"
 #include "support/TestScene.h"
 #include "zsg/core/ISceneGraph.h"
-#include "zsg/materials/IMaterialApi.h"
 #include "zsg/materials/IMaterialDescriptor.h"
 #include "zsg/materials/IMaterialService.h"
 
@@ -158,19 +158,10 @@ TEST_F(ZMaterialHandlerTest, passesAssignmentsOn) {
     EXPECT_FALSE(handler->assignMaterial(MaterialId(), {}));
     EXPECT_FALSE(service.lastMaterial.isValid());
     EXPECT_EQ(trace->take(), "");
-    EXPECT_FALSE(ZMaterialHandler(nullptr, nullptr, nullptr).assignMaterial(made.frame, objects));
-}
 
-TEST_F(ZMaterialHandlerTest, announcesNothingWithoutARoot) {
-    class Api final : public IMaterialApi {
-    public:
-        [[nodiscard]] std::unique_ptr<IMaterialDescriptor> descriptor(MaterialId) const override {
-            return nullptr;
-        }
-        [[nodiscard]] QString materialName(MaterialId) const override { return {}; }
-        bool applyDescriptor(IMaterialDescriptor const&) override { return true; }
-    } api;
-    auto const descriptor = handler->descriptor(made.fabric);
-    EXPECT_TRUE(ZMaterialHandler(&api, nullptr, nullptr).applyDescriptor(*descriptor));
-    EXPECT_EQ(trace->take(), "");
+    ZMaterialApi own(api());
+    ZMaterialHandler without(&own, nullptr, nullptr);
+    EXPECT_FALSE(without.assignMaterial(made.frame, objects));
+    EXPECT_TRUE(without.applyDescriptor(*handler->descriptor(made.fabric)));
+    EXPECT_EQ(trace->take(), "") << "without a root nobody is told";
 }
