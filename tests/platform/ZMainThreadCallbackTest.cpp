@@ -1,6 +1,8 @@
 #include "zcore/ZMainThreadCallback.h"
 
 #include "nyxembedded/Renderer.h"
+#include "zsg/core/IEventQueue.h"
+#include "zsg/core/ISceneGraph.h"
 
 #include <gtest/gtest.h>
 
@@ -50,7 +52,7 @@ TEST(ZMainThreadCallbackTest, RunsOnceAndDisposesOfItself) {
 
 struct Case {
     bool withApi;
-    bool keepParent; ///< else parents come and go meanwhile
+    bool keepRoot; ///< else roots come and go meanwhile
 };
 
 TEST(ZMainThreadCallbackTest, ComesFromAnyThread) {
@@ -60,11 +62,13 @@ TEST(ZMainThreadCallbackTest, ComesFromAnyThread) {
         constexpr int each = 1000;
         nyx::embedded::Renderer renderer;
         nyxRT_api* const api = run.withApi ? renderer.api() : nullptr;
-        auto parent = std::make_unique<QObject>();
+        zsg::SceneGraphPars pars;
+        pars.rtApi = api;
+        auto root = zsg::ISceneGraph::create(pars);
         int generation = 0;
         std::shared_mutex mutex; // over the two
         int runs = 0;
-        int astray = 0; // on another thread, or for a parent that is no more
+        int astray = 0; // on another thread, or for a root that is no more
         auto const count = [&, main = std::this_thread::get_id()](int made) {
             ++runs;
             astray += std::this_thread::get_id() != main || made != generation ? 1 : 0;
@@ -77,16 +81,18 @@ TEST(ZMainThreadCallbackTest, ComesFromAnyThread) {
                 for (int n = 0; n < each; ++n) {
                     std::shared_lock const guard(mutex);
                     new ZMainThreadCallback(
-                        api, [&count, held, made = generation] { count(made); }, parent.get());
+                        api, [&count, held, made = generation] { count(made); },
+                        root->eventQueue());
                 }
                 --working;
             });
         }
         while (working > 0) {
             QCoreApplication::processEvents();
-            if (!run.keepParent) {
+            if (!run.keepRoot) {
                 std::unique_lock const guard(mutex);
-                parent = std::make_unique<QObject>();
+                root.reset();
+                root = zsg::ISceneGraph::create(pars);
                 ++generation;
             }
         }
@@ -98,9 +104,9 @@ TEST(ZMainThreadCallbackTest, ComesFromAnyThread) {
         }
         EXPECT_EQ(held.use_count(), 1) << "every function ran or was dropped";
         EXPECT_EQ(astray, 0);
-        if (run.keepParent) {
+        if (run.keepRoot) {
             EXPECT_EQ(runs, workerCount * each);
-            EXPECT_TRUE(parent->children().isEmpty());
+            EXPECT_TRUE(root->eventQueue()->children().isEmpty());
         }
     }
 }

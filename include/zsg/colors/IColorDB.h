@@ -23,7 +23,9 @@ class ZColorSettingsEdit;
 class ZColorwayEdit;
 
 /// The colours and colorways of the renderer's scene. Changes made here are announced but cannot be
-/// undone; IColorController makes the undoable ones. Main thread only.
+/// undone; IColorController makes the undoable ones. Main thread only. What it has read belongs to
+/// one scene, so it must not see another one being loaded: clear the undo stack, end the root,
+/// load, create a new root.
 ///
 /// Unknown ids never fail loudly: they give null edits, empty names and lists, default colours, the
 /// invalid id, and operations on them stop quietly. Edits are owned by the database and are valid

@@ -23,6 +23,10 @@ class IPainterManager;
 /// it on the thread that created it, from outside of listeners and commands, when the undo stack
 /// was cleared of commands that refer to it.
 ///
+/// A root belongs to one scene: its edits, its lists and the commands behind it name records by id,
+/// and would change those that the ids mean in the next one. Before the renderer loads another
+/// scene clear the undo stack and end the root; when it has, create a new root.
+///
 /// What the accessors return stays the root's.
 class ZSG_EXPORT ISceneGraph {
 public:
