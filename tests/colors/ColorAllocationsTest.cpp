@@ -3,7 +3,6 @@
 #include "zsg/colors/IColorLinker.h"
 
 #include <new>
-#include <sstream>
 
 using namespace zsg;
 
@@ -21,48 +20,31 @@ struct Studio final : ControllerScene {
     ~Studio() override { TearDown(); }
     void TestBody() override {}
 
-    void run(std::size_t operation) {
-        std::vector<ZColor> const values{{1, 1, 0}, {1, 0, 1, 1, "Pink"}};
-        std::vector<MultiColorPair> const pairs{{cover, green}};
-        ZColorExt value = db->colorFromId(cover);
-        std::function<void()> const operations[] = {
-            [&] {
-                edit.setColor(red, {0, 0, 1, 1, "Ruby"}, AllowForwardUndoMerge::No);
-            },
-            [&] { edit.setDisplayName(red, "Ruby"), edit.setDisplayName(winter, "Ice"); },
-            [&] { edit.setFlags(red, 8, true); },
-            [&] { edit.addSubColor(cover, values[1], 0); },
-            [&] { edit.addSubKColors(cover, values); },
-            [&] { edit.addOrSwitchSubColor(cover, blue, true); },
-            [&] { edit.removeSubColors(cover, ids(red)); },
-            [&] { edit.moveSubColors(cover, ids(red), 1, red); },
-            [&] { edit.changeSubColor(cover, red, blue); },
-            [&] { edit.unlinkSubColor(cover, 0); },
-            [&] { edit.toggleMultiColor(cover); },
-            [&] { edit.toggleMultiColor(blue); },
-            [&] { edit.linkColor(red, blue); },
-            [&] { edit.createColorway("Dune", pairs); },
-            [&] { edit.applyColorway(winter); },
-            [&] { edit.setColors(summer, pairs); },
-            [&] { edit.addColors(summer, pairs, 0, true); },
-            [&] { edit.removeMultiColors(summer, ids(cover)); },
-            [&] { db->handleColorwayActivated(summer); },
-            [&] { db->cloneRecursively(cover); },
-            [&] {
+    /// Ready to be run: making them also asks for memory, and changes the scene.
+    std::vector<std::function<void()>> operations() {
+        std::vector<std::function<void()>> all{
+            [this] { stack.undo(), stack.redo(); },
+            [this] { db->handleColorwayActivated(summer); },
+            [this] { db->cloneRecursively(cover); },
+            [this] {
+                ZColorExt value = db->colorFromId(cover);
                 value.setId(nyx::ColorId());
                 db->getColorLinker(&edit, nullptr)->importColor(value);
             },
-            [&] {
+            [this] {
+                ZColorExt value = db->colorFromId(cover);
                 ColorDB other(&queue, renderer.api());
                 other.applyColorway(winter), other.pushTempColor(value);
             },
-            [&] { stack.undo(), stack.redo(); },
         };
-        count = std::size(operations);
-        operations[operation]();
+        for (auto const& edits : {colorEdits(), colorwayEdits()}) {
+            for (Edit const& step : edits) {
+                all.push_back(step.run);
+            }
+        }
+        return all;
     }
 
-    std::size_t count = 1;
     using ColorScene::renderer;
     using ControllerScene::stack;
 };
@@ -70,11 +52,12 @@ struct Studio final : ControllerScene {
 } // namespace
 
 TEST(ColorAllocationsTest, WhicheverFailsNothingThatWasLentIsLost) {
-    std::size_t operations = 1;
-    for (std::size_t operation = 0; operation < operations; ++operation) {
+    std::size_t const count = Studio().operations().size();
+    for (std::size_t operation = 0; operation < count; ++operation) {
         for (std::size_t number = 0; number < 2000; ++number) {
             SCOPED_TRACE(std::to_string(operation) + ", allocation " + std::to_string(number));
             Studio studio;
+            std::function<void()> const run = studio.operations()[operation];
             bool happened = false;
             try {
                 Allocations::Failure const failure(number);
@@ -83,10 +66,9 @@ TEST(ColorAllocationsTest, WhicheverFailsNothingThatWasLentIsLost) {
                     Allocations::Failure const& failure;
                     bool& into;
                 } const watch{failure, happened};
-                studio.run(operation);
+                run();
             } catch (std::bad_alloc const&) { // must reach the caller, and leave all in order
             }
-            operations = studio.count;
             EXPECT_EQ(studio.stack.macroDepth(), 0);
             EXPECT_EQ(studio.renderer.ledger().lockDepth, 0);
             if (!happened) {

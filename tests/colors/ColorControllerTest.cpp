@@ -39,77 +39,7 @@ struct Marking final : QTranslator {
 
 } // namespace
 
-TEST_F(ColorControllerTest, EveryColorEditIsOneStepThatUndoTakesBack) {
-    ColorId const unnamed = renderer.addColor("", {1, 1, 1, 1});
-    std::vector<ZColor> const colors{{1, 1, 0}, {1, 0, 1, 1, "Pink"}};
-    check({
-        // First, as it must read the colorways while they still have what it is to remove.
-        {[&] { edit.toggleMultiColor(cover); }, "+Disable Multi Color (Cover)",
-         "colorway 1 'Summer' flags 2; colorway 2 'Winter'; material 1 'Fabric' places "
-         "1.'color'->1 2.'seam'->1"},
-        {[&] { edit.setDisplayName(red, "Ruby"); }, "Set Color name (Ruby)", "1 'Ruby' 1 0 0 1"},
-        {[&] {
-             edit.setColor(red, ZColor(1, 1, 1), AllowForwardUndoMerge::Yes);
-             edit.setColor(red, ZColor(0.5f, 0, 0, 0.25f), mergeNot);
-         },
-         "Set Color", "1 'Red' 0.5 0 0 0.25"},
-        {[&] { edit.setColor(red, ZColor(1, 0, 0, 1, "%1 %2"), mergeNot); }, "Set Color",
-         "1 '%1 %2' 1 0 0 1"},
-        {[&] { edit.setColor(cover, ZColor(1, 1, 1), mergeNot); }, "Set Color",
-         "4 'Cover' 1 1 1 1 flags 1 subs 1 2 active 1"},
-        {[&] { edit.setFlags(red, 24, true); }, "Modify Color (Red)", "1 'Red' 1 0 0 1 flags 24"},
-        {[&] { edit.setFlags(red, 8, true), edit.setFlags(red, 24, false); },
-         "Modify Color (Red); Modify Color (Red)", ""},
-        {[&] {
-             auto const macro = edit.getScopedMacro("Both %1");
-             edit.setFlags(red, 8, true);
-             edit.setDisplayName(blue, "Sky");
-         },
-         "+Both %1", "1 'Red' 1 0 0 1 flags 8; 3 'Sky' 0 0 1 1"},
-        {[&] { edit.setActiveSubColor(cover, green); }, "Switch Sub Color (Cover)",
-         "Cover subs 1 2 active 2; Summer off"},
-        {[&] { edit.addSubColors(cover, ids(blue, red), 0, blue); }, "Add Sub Color (Cover)",
-         "Cover subs 3 1 2 active 3; Summer off"},
-        {[&] { edit.setSubColors(cover, ids(blue)); }, "Add Sub Color (Cover)",
-         "Cover subs 3 active 1"},
-        {[&] { edit.moveSubColors(cover, ids(red, blue), -1, green); }, "Move Sub Color (Cover)",
-         "Cover subs 2 1 active 2; Summer off"},
-        {[&] { edit.moveSubColors(cover, ids(green, red), 0, blue); }, "Move Sub Color (Cover)",
-         "Cover subs 2 1 active 1"},
-        {[&] { edit.changeSubColor(cover, red, blue); }, "Set Color",
-         "Cover subs 3 2 active 3; Summer off"},
-        {[&] { edit.removeSubColors(cover, ids(blue)); }, "Remove Sub Color (Cover)", ""},
-        {[&] { edit.removeSubColors(cover, ids(red, blue)); }, "+Remove Sub Color (Cover)",
-         "Cover subs 2 active 2; colorway 1 'Summer' pairs 4:2"},
-        {[&] { edit.removeSubColors(cover, ids(green, red)); }, "+Remove Sub Color (Cover)",
-         "Cover; colorway 1 'Summer'; colorway 2 'Winter'"},
-        {[&] { edit.addOrSwitchSubColor(cover, green, true); }, "Switch Sub Color (Cover)",
-         "Cover subs 1 2 active 2; Summer off"},
-        {[&] { edit.addOrSwitchSubColor(cover, blue, true); },
-         "Add Sub Color (Cover); Switch Sub Color (Cover)",
-         "Cover subs 1 2 3 active 3; Summer off"},
-        {[&] { edit.linkColor(red, cover); }, "+Link Color (Red) To (Cover)",
-         "material 1 'Fabric' places 1.'color'->4 2.'seam'->4"},
-        // Records that an edit makes stay.
-        {[&] { edit.addSubColor(cover, ZColor(0, 1, 1, 1, "Red"), 1); }, "Add Sub Color (Cover)",
-         "Cover subs 1 6 2 active 1; 6 'Red 1' 0 1 1 1", "6 'Red 1' 0 1 1 1"},
-        {[&] { edit.addSubKColors(cover, colors); }, "Add Sub Color (Cover)",
-         "Cover subs 1 2 7 8 active 1; 7 '' 1 1 0 1; 8 'Pink' 1 0 1 1",
-         "7 '' 1 1 0 1; 8 'Pink' 1 0 1 1"},
-        {[&] { edit.addOrSwitchSubColor(cover, cover, false); },
-         "Add Sub Color (Cover); Switch Sub Color (Cover)",
-         "Cover subs 1 2 9 active 9; 9 'Red 2' 1 0 0 1; Summer off", "9 'Red 2' 1 0 0 1"},
-        {[&] { edit.unlinkSubColor(cover, 1); }, "Unlink Sub Color (Cover)",
-         "Cover subs 1 10 active 10; 10 'Green 1' 0 1 0 1; Summer off", "10 'Green 1' 0 1 0 1"},
-        {[&] { edit.toggleMultiColor(blue); }, "+Enable Multi Color (Blue)",
-         "11 'Blue 1' 0 0 1 1 flags 1 subs 3 active 3; material 2 'Frame' places "
-         "1.'color'->11",
-         "11 'Blue 1' 0 0 1 1 flags 1 subs 3 active 3"},
-        {[&] { edit.toggleMultiColor(unnamed); }, "+Enable Multi Color (Multi-Color)",
-         "5 'Multi-Color' 1 1 1 1; 12 'Multi-Color 1' 1 1 1 1 flags 1 subs 5 active 5",
-         "12 'Multi-Color 1' 1 1 1 1 flags 1 subs 5 active 5"},
-    });
-}
+TEST_F(ColorControllerTest, EveryColorEditIsOneStepThatUndoTakesBack) { check(colorEdits()); }
 
 TEST_F(ColorControllerTest, WhatDoesNotQualifyPushesAndChangesNothing) {
     ColorId const trim = multiColor("Trim", ids(red, noColor));

@@ -34,6 +34,11 @@ protected:
         });
     }
 
+    /// Every operation of the controller on colours, and on colorways, as a step that undo takes
+    /// back, in an order in which one leaves what the next needs.
+    std::vector<Edit> colorEdits();
+    std::vector<Edit> colorwayEdits();
+
     ZUndoStack stack;
     nyx::embedded::MaterialManager materials{renderer, &stack};
     zsg::ColorController edit{db.get(), &materials, &stack};
