@@ -2,6 +2,7 @@
 
 #include "values/IORLines.h"
 #include "zsg/values/loadIORFile.h"
+#include "zsg/values/pathFromUtf8.h"
 
 #include <QTemporaryDir>
 
@@ -118,7 +119,7 @@ auto standardRegex(char const* pattern) {
 std::string fileFor(char const* pattern, char const* name) {
     static QTemporaryDir const folder;
     std::string path = folder.filePath(QString::fromLatin1(name)).toStdString();
-    std::ofstream file(path);
+    std::ofstream file(zsg::pathFromUtf8(path));
     if (pattern == pairPattern) {
         file << "4 400 700 " << lineCount - 1 << '\n';
     }
@@ -145,7 +146,7 @@ auto gettingLines(char const* pattern, char const* name) {
         std::string const path = fileFor(pattern, name);
         std::regex const regex(pattern);
         for (auto _ : state) {
-            std::ifstream file(path);
+            std::ifstream file(zsg::pathFromUtf8(path));
             std::vector<double> values;
             std::smatch match;
             for (std::string line; std::getline(file, line);) {

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <map>
 #include <string>
@@ -80,7 +81,7 @@ std::string time(double seconds) {
     return text;
 }
 
-void writeTables(Collector const& collector, std::string const& path) {
+void writeTables(Collector const& collector, std::filesystem::path const& path) {
     std::ofstream out(path);
     out << "| row | workload | contestant | median | ours / it | target | holds |\n"
            "|---|---|---|---|---|---|---|\n";
@@ -137,13 +138,13 @@ int main(int argc, char** argv) {
 #if defined(__GLIBC__)
     mallopt(M_TRIM_THRESHOLD, -1); // what a row has freed stays warm for the next
 #endif
-    std::string table;
+    std::filesystem::path table;
     std::vector<char*> rest;
     for (int i = 0; i < argc; ++i) {
         constexpr std::string_view option = "--table=";
-        std::string_view const argument = argv[i];
-        if (argument.starts_with(option)) {
-            table = argument.substr(option.size());
+        if (std::string_view(argv[i]).starts_with(option)) {
+            // Qt knows the spelling of the command line on each system.
+            table = QCoreApplication::arguments().at(i).mid(option.size()).toStdU16String();
         } else {
             rest.push_back(argv[i]);
         }

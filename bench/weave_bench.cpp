@@ -1,6 +1,7 @@
 #include "Rows.h"
 
 #include "nyxrender/WeavePattern.h"
+#include "nyxrender/nyx_memory.h"
 #include "values/hashCombine.h"
 #include "zsg/values/WeavePattern.h"
 #include "zsg/values/hash.h"
@@ -15,7 +16,6 @@
 #include <simdjson.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <string>
 #include <utility>
 #include <vector>
@@ -219,7 +219,7 @@ void copyRows(benchmark::State& state, int side) {
     auto const half = static_cast<std::size_t>(side / 2);
     auto const [cells, count] = std::pair(std::vector<int>(half * half), half * half * 4);
     for (auto _ : state) {
-        auto* const grid = static_cast<int*>(std::aligned_alloc(32, count * sizeof(int)));
+        auto* const grid = static_cast<int*>(nyx_malloc_aligned(count * sizeof(int), 32));
         for (std::size_t y = 0; y < 2 * half; ++y) {
             for (std::size_t part : {0u, 1u}) {
                 std::copy_n(cells.data() + y % half * half, half, grid + (2 * y + part) * half);
@@ -227,7 +227,7 @@ void copyRows(benchmark::State& state, int side) {
         }
         benchmark::DoNotOptimize(grid);
         benchmark::ClobberMemory();
-        std::free(grid);
+        nyx_free_aligned(grid);
     }
 }
 
