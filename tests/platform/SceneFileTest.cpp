@@ -91,12 +91,17 @@ TEST(SceneFile, NothingThatASceneMayHoldIsLost) {
     made.bindColor(made.addMaterial(""), 0xFFFFFFFFu, "", nyx::ColorId(77));
     ASSERT_TRUE(made.removeColor(made.addColor("last", {}))); // its id must not come back
     made.setUnitScale(0.0254);
+    std::string const cut("Cut\0off", 7); // where every text of the renderer's interface ends
+    made.addColor(cut, {});
+    made.bindColor(made.addMaterial(cut), 1, cut, made.addMultiColor(cut, {}, {}));
+    made.addColorway(cut, {});
+    made.addObject(cut, made.addGroup(cut)), made.addLight(cut), made.addSurface(cut, 64);
 
     Renderer loaded;
     ASSERT_EQ(loaded.loadSceneText(made.saveSceneText()), "");
     EXPECT_EQ(loaded.saveSceneText(), made.saveSceneText());
     EXPECT_EQ(loaded.dump(), made.dump());
-    EXPECT_EQ(loaded.addColor("new", {}), nyx::ColorId(5));
+    EXPECT_EQ(loaded.addColor("new", {}), nyx::ColorId(7));
     EXPECT_EQ(nyx_scene_unit_scale(*loaded.scene()), 0.0254);
     for (double const bad : {std::nan(""), -1.0, HUGE_VAL}) {
         loaded.setUnitScale(bad);

@@ -29,6 +29,10 @@ void returnMemory() {
 #endif
 }
 
+/// Names end at a zero byte: what follows would be in no text that the library sees, and in no
+/// scene file.
+std::string upToZero(std::string const& text) { return text.c_str(); }
+
 } // namespace
 
 class Renderer::Impl {
@@ -74,7 +78,7 @@ nyxScene* Renderer::scene() { return &impl_->scene; }
 
 nyx::ColorId Renderer::addColor(std::string const& name, nyxColor_rgba const& value) {
     ColorRecord record;
-    record.name = impl_->scene.uniqueColorName(name, {});
+    record.name = impl_->scene.uniqueColorName(upToZero(name), {});
     record.value = value;
     return impl_->scene.addColor(std::move(record));
 }
@@ -83,7 +87,7 @@ nyx::ColorId Renderer::addMultiColor(std::string const& name, nyx::Span<nyx::Col
                                      nyx::ColorId active) {
     ColorRecord record;
     record.head.flags = MultiColorFlag;
-    record.name = impl_->scene.uniqueColorName(name, {});
+    record.name = impl_->scene.uniqueColorName(upToZero(name), {});
     record.subColors.assign(subColors.begin(), subColors.end());
     record.activeSub = active;
     return impl_->scene.addColor(std::move(record));
@@ -91,7 +95,7 @@ nyx::ColorId Renderer::addMultiColor(std::string const& name, nyx::Span<nyx::Col
 
 nyx::ColorwayId Renderer::addColorway(std::string const& name, nyx::Span<ColorwayPair> pairs) {
     ColorwayRecord record;
-    record.name = name;
+    record.name = upToZero(name);
     for (ColorwayPair const& pair : pairs) {
         record.multiColors.push_back(pair.multiColor);
         record.activeSubs.push_back(pair.subColor);
@@ -101,18 +105,18 @@ nyx::ColorwayId Renderer::addColorway(std::string const& name, nyx::Span<Colorwa
 
 nyx::MaterialId Renderer::addMaterial(std::string const& name) {
     nyxMaterial record;
-    record.name = name;
+    record.name = upToZero(name);
     return impl_->scene.addMaterial(std::move(record));
 }
 
 bool Renderer::bindColor(nyx::MaterialId material, std::uint32_t node, std::string const& parameter,
                          nyx::ColorId color) {
-    return impl_->scene.bindColor(material, node, parameter, color, true);
+    return impl_->scene.bindColor(material, node, upToZero(parameter), color, true);
 }
 
 bool Renderer::rebindColor(nyx::MaterialId material, std::uint32_t node,
                            std::string const& parameter, nyx::ColorId color) {
-    return impl_->scene.bindColor(material, node, parameter, color, false);
+    return impl_->scene.bindColor(material, node, upToZero(parameter), color, false);
 }
 
 bool Renderer::setMaterialItems(nyx::MaterialId material, std::vector<unsigned> items) {
@@ -125,17 +129,17 @@ bool Renderer::setMaterialItems(nyx::MaterialId material, std::vector<unsigned> 
 }
 
 nyx::GroupItemId Renderer::addGroup(std::string const& name, nyx::GroupItemId parent) {
-    return impl_->scene.addItem({{}, ItemKind::Group, name, parent, {}});
+    return impl_->scene.addItem({{}, ItemKind::Group, upToZero(name), parent, {}});
 }
 
 nyx::ObjectId Renderer::addObject(std::string const& name, nyx::GroupItemId parent,
                                   nyx::MaterialId material) {
-    auto const id = impl_->scene.addItem({{}, ItemKind::Object, name, parent, material});
+    auto const id = impl_->scene.addItem({{}, ItemKind::Object, upToZero(name), parent, material});
     return nyx::ObjectId(id.toUint());
 }
 
 nyx::ObjectId Renderer::addLight(std::string const& name, nyx::GroupItemId parent) {
-    auto const id = impl_->scene.addItem({{}, ItemKind::Light, name, parent, {}});
+    auto const id = impl_->scene.addItem({{}, ItemKind::Light, upToZero(name), parent, {}});
     return nyx::ObjectId(id.toUint());
 }
 
@@ -155,7 +159,7 @@ void Renderer::setEnvironmentLightMask(std::uint32_t mask) {
 nyxLight_layer_db& Renderer::lightLayers() { return *impl_->scene.lights().database(); }
 
 nyx::SurfaceId Renderer::addSurface(std::string const& name, int resolution) {
-    return impl_->scene.surfaces().create(name, resolution);
+    return impl_->scene.surfaces().create(upToZero(name), resolution);
 }
 
 Painting& Renderer::painting() { return impl_->painting; }

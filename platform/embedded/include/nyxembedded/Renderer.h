@@ -50,9 +50,9 @@ public:
     /// the renderer's whole life.
     [[nodiscard]] nyxScene* scene();
 
-    // Building. Names are UTF-8 and taken as they are, made unique for colours. An unknown id that
-    // is handed in is kept where a record may name it; an item under an unknown parent is not made,
-    // and the result is the invalid id. Building notifies nobody.
+    // Building. Names are UTF-8 and taken as they are, up to a zero byte, and made unique for
+    // colours. An unknown id that is handed in is kept where a record may name it; an item under an
+    // unknown parent is not made, and the result is the invalid id. Building notifies nobody.
 
     nyx::ColorId addColor(std::string const& name, nyxColor_rgba const& value);
     nyx::ColorId addMultiColor(std::string const& name, nyx::Span<nyx::ColorId> subColors,
