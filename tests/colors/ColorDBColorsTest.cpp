@@ -125,19 +125,16 @@ TEST_F(ColorDBColorsTest, OnlyAnotherListedSubColorBecomesActive) {
 }
 
 TEST_F(ColorDBColorsTest, ASavedStateReplacesTheEditAndIsAlwaysWritten) {
-    ZColorExtEdit* const edit = db->getColorParameters(red);
-    auto const saved = edit->copyFor(red);
-    edit->setColor({0.25f, 0, 0, 1});
-    db->pushColor(red);
-    EXPECT_EQ(calls([&] { db->setColorEdit(saved.get()); }),
-              "clone_color_params 1, release_color_params 1, commit_color_params 1, "
-              "> ColorUpdated 1");
-    EXPECT_EQ(db->getColorParameters(red)->color().r, 1);
-    EXPECT_EQ(db->getColorParameters(red)->revision(), 1u);
-    db->setColorEdit(db->getColorParameters(red)); // the very one that it replaces
+    EXPECT_EQ(calls([&] { db->setColorEdit(db->getColorParameters(red)); }), // the very one
+              "color_params 1, clone_color_params 1, release_color_params 1, "
+              "commit_color_params 1, > ColorUpdated 1");
     EXPECT_EQ(db->getColorParameters(red)->displayName(), "Red");
-    ZColorExtEdit const none(api(), nullptr);
+    nyxParameter_edit* const block = api()->color_params(red);
+    ZColorExtEdit const none(api(), nullptr), uncopied(nullptr, block); // nobody to copy it
     db->setColorEdit(&none);
+    db->setColorEdit(&uncopied);
+    EXPECT_EQ(db->getColorParameters(red)->displayName(), "Red");
+    api()->release_color_params(block);
 }
 
 TEST_F(ColorDBColorsTest, FailedCreationsLeaveTheInvalidIdAndNothingElse) {

@@ -75,12 +75,11 @@ TEST_F(ColorDBColorwaysTest, PushingFollowsTheActiveFlagInTheSettings) {
               "commit_colorway_params 1, commit_color_settings_params, "
               "> ColorWayUpdated 1, call_after_sync");
     EXPECT_EQ(db->activeColorwayName() + db->colorwayName(ColorwayId()), "");
-    auto const saved = edit->copy();
-    edit->setDeleted(true);
-    EXPECT_EQ(calls([&] { db->setColorwayEdit(saved.get()); }),
-              "clone_color_params 1, release_colorway_params 1, commit_colorway_params 1, "
-              "> ColorWayUpdated 1, call_after_sync");
-    EXPECT_FALSE(db->getColorwayParameters(summer)->isDeleted());
+    nyxParameter_edit* const block = api()->colorway_params(summer);
+    ZColorwayEdit const uncopied(nullptr, block); // nobody to copy it
+    db->setColorwayEdit(&uncopied);
+    EXPECT_EQ(db->colorwayName(summer), "Summer");
+    api()->release_colorway_params(block);
 }
 
 TEST_F(ColorDBColorwaysTest, ASwitchOfTheRendererRereadsTheColorwayAndItsMultiColors) {

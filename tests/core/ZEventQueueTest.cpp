@@ -20,50 +20,37 @@ constexpr EventType updated = EventType::ColorUpdated;
 constexpr EventType synced = EventType::ColorSynced;
 
 /// An event that counts how often it is destroyed, of any type at all.
-class Probe final : public Event {
-public:
-    Probe(int& destroyed, EventType type) : Event(type), destroyed_(destroyed) {}
-    ~Probe() override { ++destroyed_; }
-
-private:
-    int& destroyed_;
+struct Probe final : Event {
+    Probe(int& count, EventType type) : Event(type), destroyed(count) {}
+    ~Probe() override { ++destroyed; }
+    int& destroyed;
 };
 
-/// Writes what it hears to a shared log ("a8 " for a and event type 8), then does once what the
-/// test wants.
-class Actor final : public IEventListener {
-public:
-    Actor(std::string name, std::string& log) : name_(std::move(name)), log_(log) {}
-
+/// Writes its letter to a shared log when it hears something, then does once what the test wants.
+struct Actor final : IEventListener {
+    Actor(char letter, std::string& heard) : name(letter), log(heard) {}
     void onEvent(Event const* event) override {
-        log_ += name_ + std::to_string(static_cast<unsigned int>(event->type())) + ' ';
+        log += name;
         if (auto const now = std::exchange(action, nullptr)) {
             now(*event);
         }
     }
-
+    char name;
+    std::string& log;
     std::function<void(Event const&)> action;
-
-private:
-    std::string name_;
-    std::string& log_;
 };
 
 class ZEventQueueTest : public testing::Test {
 protected:
-    void post(unsigned int color) { queue->post(new ColorUpdatedEvent(nyx::ColorId(color))); }
-    void postSynced(unsigned int color) { queue->post(new ColorSyncedEvent(nyx::ColorId(color))); }
-    std::string take() { return std::exchange(log, {}); }
-
     std::unique_ptr<IEventQueue> queue = std::make_unique<ZEventQueue>();
     std::string log;
-    Actor a{"a", log}, b{"b", log}, c{"c", log};
+    Actor a{'a', log}, b{'b', log}, c{'c', log};
 };
 
 TEST_F(ZEventQueueTest, deliversSubscribedTypesOnceAndDeletesTheEvent) {
     EventTrace trace(*queue, {updated, synced, updated});
-    post(1);
-    postSynced(2);
+    queue->post(new ColorUpdatedEvent(nyx::ColorId(1)));
+    queue->post(new ColorSyncedEvent(nyx::ColorId(2)));
     queue->post(new ColorEvent(nyx::ColorId(3)));
     EXPECT_EQ(trace.take(), "ColorUpdated 1\nColorSynced 2");
 
@@ -73,8 +60,7 @@ TEST_F(ZEventQueueTest, deliversSubscribedTypesOnceAndDeletesTheEvent) {
     queue->post(nullptr);
     // A number that is no kind of the library is a type like any other.
     int heard = 0;
-    for (EventType const type :
-         {EventType(3), EventType(13), EventType(14), EventType(99), EventType(0xFFFFFFFFu)}) {
+    for (EventType const type : {EventType(3), EventType(14), EventType(0xFFFFFFFFu)}) {
         int destroyed = 0;
         queue->post(new Probe(destroyed, type));
         EXPECT_EQ(destroyed, 1) << "nobody listens";
@@ -87,28 +73,15 @@ TEST_F(ZEventQueueTest, deliversSubscribedTypesOnceAndDeletesTheEvent) {
         queue->post(new Probe(destroyed, type));
         EXPECT_EQ(destroyed, 2);
     }
-    EXPECT_EQ(heard, 5);
+    EXPECT_EQ(heard, 3);
     queue->unsubscribe(&a);
     int destroyed = 0;
-    queue->post(new Probe(destroyed, EventType(99)));
-    EXPECT_EQ(heard, 5) << "unsubscribing drops all types";
+    queue->post(new Probe(destroyed, EventType(14)));
+    EXPECT_EQ(heard, 3) << "unsubscribing drops all types";
 
     zsg::post(nullptr, std::make_unique<Probe>(destroyed, EventType(99)));
     zsg::post(queue.get(), std::make_unique<Probe>(destroyed, EventType(99)));
     EXPECT_EQ(destroyed, 3);
-}
-
-TEST_F(ZEventQueueTest, nestedPostsAreDeliveredBeforeTheOuterDeliveryGoesOn) {
-    for (Actor* const actor : {&a, &b}) {
-        queue->subscribe(actor, updated);
-        queue->subscribe(actor, synced);
-    }
-    a.action = [this](Event const&) {
-        postSynced(1);
-        log += "back ";
-    };
-    post(7);
-    EXPECT_EQ(take(), "a8 a9 b9 back b8 ");
 }
 
 TEST_F(ZEventQueueTest, aThrowingListenerLeavesTheEventAndAUsableQueue) {
@@ -125,23 +98,23 @@ TEST_F(ZEventQueueTest, aThrowingListenerLeavesTheEventAndAUsableQueue) {
         queue->post(inner.get());
     };
     EXPECT_THROW(queue->post(outer.get()), std::runtime_error);
-    EXPECT_EQ(take(), "a50 a50 ");
+    EXPECT_EQ(std::exchange(log, {}), "aa");
     EXPECT_EQ(destroyed, 0);
 
     queue->post(new Probe(destroyed, type));
-    EXPECT_EQ(take(), "a50 c50 ");
+    EXPECT_EQ(std::exchange(log, {}), "ac");
     EXPECT_EQ(destroyed, 1);
     queue->unsubscribe(&a);
     queue->unsubscribe(&c);
     queue->post(new Probe(destroyed, type));
-    EXPECT_EQ(take(), "");
+    EXPECT_EQ(log, "");
 }
 
 #if !defined(QT_NO_DEBUG) && GTEST_HAS_DEATH_TEST
 TEST_F(ZEventQueueTest, mustNotGoInsideADelivery) {
     queue->subscribe(&a, updated);
     a.action = [this](Event const&) { queue.reset(); };
-    EXPECT_DEATH(post(1), "destroyed by a listener");
+    EXPECT_DEATH(queue->post(new ColorUpdatedEvent({})), "destroyed by a listener");
 }
 #endif
 
