@@ -109,7 +109,8 @@ TEST_F(InterpreterTest, AWordTooManyStopsACommandBeforeItActs) {
         "weave yarn w weft kind ribbon\ncurve make c\ncurve insert c 0.5\n"
         "curve pos c 0 3 3\ncurve type c 0 L\ncurve weight-out c 0 3\n"
         "curve remove c 0\ngradient make g\ngradient blend g off\n"
-        "gradient size g 9\nquit\n");
+        "gradient size g 9\npaint with 4 1 0 0 0\n"
+        "picture no.png\nlightlayer create X\nquit\n");
     for (std::string line; std::getline(rows, line);) {
         try {
             interpreter.run(line + " surplus");

@@ -1,6 +1,9 @@
 # Calls the console with ARGUMENTS in WORK_DIR and checks the exit code (CODE), that all it says
 # holds SAYS, and, for a SCRIPT, that its output is <script>.out and each file that it wrote is the
 # one of that name in the folder <script>, where those are there.
+# What an earlier run left there would be taken for written by this one.
+file(REMOVE ${WORK_DIR}/examples)
+file(REMOVE_RECURSE ${WORK_DIR})
 file(MAKE_DIRECTORY ${WORK_DIR})
 # Scripts name files by their path in the project, and write into the folder they run in.
 file(CREATE_LINK ${SOURCE_DIR}/examples ${WORK_DIR}/examples SYMBOLIC)

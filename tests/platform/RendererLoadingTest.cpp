@@ -4,25 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 using nyx::embedded::Renderer;
-
-TEST(RendererLoading, ZeroBytesAreRefusedAndANotANumberKeepsItsSign) {
-    Renderer renderer;
-    auto const load = [&](std::string const& name) {
-        return renderer.loadSceneText(
-            R"({"format":"zsg-scene","version":1,"colors":[{"id":1,"name":)" + name +
-            R"(,"value":["-nan","nan",0,1]}]})");
-    };
-    EXPECT_EQ(load(R"("a\u0000b")"), "/colors/0/name: a text cannot contain a zero byte");
-    EXPECT_EQ(load(R"({"hex":"ff00"})"), "/colors/0/name: a text cannot contain a zero byte");
-    ASSERT_EQ(load(R"("ab")"), "");
-    ASSERT_EQ(renderer.loadSceneText(renderer.saveSceneText()), "");
-    nyxColor_rgba const value = renderer.color(nyx::ColorId(1))->value;
-    EXPECT_TRUE(std::isnan(value.r) && std::signbit(value.r));
-    EXPECT_TRUE(std::isnan(value.g) && !std::signbit(value.g));
-}
 
 TEST(RendererLoading, BlocksOfASceneThatWasReplacedAreNotCommitted) {
     Renderer renderer;

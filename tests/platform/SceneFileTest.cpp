@@ -12,7 +12,6 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
-#include <random>
 #include <string>
 #include <utility>
 
@@ -111,7 +110,7 @@ TEST(SceneFile, NothingThatASceneMayHoldIsLost) {
     // A colorway whose lists differ in length, and the same name twice, exist in scenes too.
     std::string const text = R"("colors": [
     {"id": 3, "name": "Red", "originalName": "R", "value": [1, 0, -0.0, 1], "flags": 4294967295},
-    {"id": 9, "name": "Red", "value": ["nan", "inf", "-inf", 1e-45], "activeSub": 4}
+    {"id": 9, "name": "Red", "value": ["nan", "-nan", "-inf", 1e-45], "activeSub": 4}
   ],
   "colorways": [
     {"id": 4294967294, "name": {"hex": "ff01"}, "flags": 3, "multiColors": [1, 4294967295]}
@@ -151,6 +150,10 @@ TEST(SceneFile, AWrongFileIsNamedByPlaceAndExpectationAndChangesNothing) {
          "/colors/0/value: expected 4 numbers (red, green, blue, alpha), found 3"},
         {colors(R"({"id":1,"name":{"hex":"f"},"value":[1,0,0,1]})"),
          "/colors/0/name/hex: expected pairs of the digits 0 to 9 and a to f"},
+        {colors(R"({"id":1,"name":{"hex":"ff00"},"value":[1,0,0,1]})"),
+         "/colors/0/name: a text cannot contain a zero byte"},
+        {colors(R"({"id":1,"name":"a\u0000b","value":[1,0,0,1]})"),
+         "/colors/0/name: a text cannot contain a zero byte"},
         {colors(R"({"id":1,"value":[1,0,0,1],"subColors":[2,-1]})"),
          "/colors/0/subColors/1: expected a whole number from 0 to 4294967295, found -1"},
         {scene(R"("nextIds":{"color":1},"colors":[)" + red + "]"),
@@ -209,39 +212,6 @@ TEST(SceneFile, FilesThatCannotBeReadOrWrittenLoseNothing) {
     ASSERT_EQ(renderer.loadScene(showroom), "");
     ASSERT_EQ(renderer.saveScene(path), "");
     EXPECT_EQ(readFile(path), readFile(showroom));
-}
-
-TEST(SceneFile, DamagedFilesLoadOrAreRefusedWhole) {
-    std::string const good = readFile(showroom);
-    Renderer renderer;
-    ASSERT_EQ(renderer.loadSceneText(good), "");
-    std::string current = renderer.saveSceneText();
-    std::mt19937 random(20240229);
-    auto const below = [&random](std::size_t limit) {
-        return static_cast<std::size_t>(random()) % limit;
-    };
-    int loaded = 0;
-    for (int round = 0; round < 120; ++round) {
-        std::string text = good;
-        if (round % 3 == 0) {
-            text.resize(below(text.size()));
-        }
-        for (std::size_t edits = below(4); edits > 0 && !text.empty(); --edits) {
-            std::string const& pool = "0123456789-.,:\"[]{}\\enx\xFF";
-            text[below(text.size())] = pool[below(pool.size())];
-        }
-        if (renderer.loadSceneText(text).empty()) {
-            ++loaded;
-            current = renderer.saveSceneText();
-            Renderer again;
-            ASSERT_EQ(again.loadSceneText(current), "") << "round " << round;
-            ASSERT_EQ(again.dump(), renderer.dump()) << "round " << round;
-        } else {
-            ASSERT_EQ(renderer.saveSceneText(), current) << "round " << round;
-        }
-    }
-    EXPECT_GT(loaded, 12);
-    EXPECT_LT(loaded, 108);
 }
 
 } // namespace
