@@ -39,7 +39,7 @@ struct Palette {
     explicit Palette(std::size_t size) : db(&queue, renderer.api()) {
         ids.reserve(size);
         for (std::size_t i = 0; i < size; ++i) {
-            ids.push_back(renderer.addColor("Colour " + std::to_string(i), {0, 0, 0, 1}));
+            ids.push_back(renderer.colors().add("Colour " + std::to_string(i), {0, 0, 0, 1}));
             db.getColorParameters(ids.back());
         }
         std::shuffle(ids.begin(), ids.end(), std::mt19937(1));
@@ -270,21 +270,22 @@ struct Wardrobe {
     Wardrobe(std::size_t pairs, std::size_t colorways, std::size_t others)
         : db(&queue, renderer.api()) {
         for (std::size_t i = 0; i < others; ++i) {
-            renderer.addColor("", {0, 0, 0, 1});
+            renderer.colors().add("", {0, 0, 0, 1});
         }
-        nyx::MaterialId const material = renderer.addMaterial("Material");
+        nyx::MaterialId const material = renderer.materials().add("Material");
         std::vector<nyx::embedded::ColorwayPair> first, second;
         for (std::size_t i = 0; i < pairs; ++i) {
-            std::vector<ColorId> const subs{renderer.addColor("", {1, 0, 0, 1}),
-                                            renderer.addColor("", {0, 0, 1, 1})};
-            ColorId const multi = renderer.addMultiColor("", subs, subs[0]);
-            renderer.bindColor(material, static_cast<unsigned>(i), "colour", multi);
+            std::vector<ColorId> const subs{renderer.colors().add("", {1, 0, 0, 1}),
+                                            renderer.colors().add("", {0, 0, 1, 1})};
+            ColorId const multi = renderer.colors().addMulti("", subs, subs[0]);
+            renderer.materials().bindColor(material, static_cast<unsigned>(i), "colour", multi);
             first.push_back({multi, subs[0]});
             second.push_back({multi, subs[1]});
         }
-        switching = {renderer.addColorway("First", first), renderer.addColorway("Second", second)};
+        switching = {renderer.colorways().add("First", first),
+                     renderer.colorways().add("Second", second)};
         for (std::size_t i = 2; i < colorways; ++i) {
-            renderer.addColorway("", {});
+            renderer.colorways().add("", {});
         }
     }
 

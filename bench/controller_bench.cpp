@@ -42,20 +42,21 @@ public:
 struct Studio {
     explicit Studio(std::size_t size) {
         for (std::size_t i = 0; i < size; ++i) {
-            colors.push_back(renderer.addColor("Colour " + std::to_string(i), {0, 0, 0, 1}));
+            colors.push_back(renderer.colors().add("Colour " + std::to_string(i), {0, 0, 0, 1}));
         }
-        nyx::MaterialId const material = renderer.addMaterial("Material");
+        nyx::MaterialId const material = renderer.materials().add("Material");
         std::array<std::vector<nyx::embedded::ColorwayPair>, 10> pairs;
         for (unsigned i = 0; i < 10; ++i) {
             std::vector<ColorId> const subs(colors.begin() + 8 * i, colors.begin() + 8 * i + 8);
-            multis.push_back(renderer.addMultiColor("Multi " + std::to_string(i), subs, subs[0]));
-            renderer.bindColor(material, i, "colour", multis.back());
+            multis.push_back(
+                renderer.colors().addMulti("Multi " + std::to_string(i), subs, subs[0]));
+            renderer.materials().bindColor(material, i, "colour", multis.back());
             for (std::size_t way = 0; way < pairs.size(); ++way) {
                 pairs[way].push_back({multis.back(), subs[way % subs.size()]});
             }
         }
         for (auto const& list : pairs) {
-            colorways.push_back(renderer.addColorway("Colorway", list));
+            colorways.push_back(renderer.colorways().add("Colorway", list));
         }
         warmUp();
     }

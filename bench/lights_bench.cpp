@@ -33,13 +33,13 @@ struct Studio {
         GroupItemId hall, group;
         for (std::size_t i = 0; i < size; ++i) {
             if (i % (perGroup * perGroup) == 0) {
-                hall = renderer.addGroup("Hall");
+                hall = renderer.items().addGroup("Hall");
                 halls.push_back(hall);
             }
             if (i % perGroup == 0) {
-                group = renderer.addGroup("Group", hall);
+                group = renderer.items().addGroup("Group", hall);
             }
-            lights.push_back(renderer.addLight("Light", group));
+            lights.push_back(renderer.items().addLight("Light", group));
         }
         renderer.lightLayers().create_layer("Key", {});
         renderer.lightLayers().create_layer("Rim", {});

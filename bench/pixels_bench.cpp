@@ -207,7 +207,7 @@ void snapshots() {
     auto const row = [](int resolution, std::string const& workload) {
         bench::contestant("P4", workload, bench::ours, [=](benchmark::State& state) {
             nyx::embedded::Renderer renderer;
-            nyx::SurfaceId const id = renderer.addSurface("Surface", resolution);
+            nyx::SurfaceId const id = renderer.painting().addSurface("Surface", resolution);
             renderer.painting().setPixels(id, 1, painted(resolution, 1));
             for (auto _ : state) {
                 benchmark::DoNotOptimize(renderer.painting().pixels(id, 1));
@@ -243,7 +243,7 @@ void strokes() {
     static constexpr float spacing = 1.6f, left = 200, middle = 1000;
     bench::contestant("P5", workload, bench::ours, [](benchmark::State& state) {
         nyx::embedded::Renderer renderer;
-        nyx::SurfaceId const id = renderer.addSurface("Surface", edge);
+        nyx::SurfaceId const id = renderer.painting().addSurface("Surface", edge);
         nyx::embedded::Stroke stroke;
         stroke.points = {{left, middle}, {left + spacing * (dabs - 1), middle}};
         stroke.radius = radius;

@@ -82,7 +82,7 @@ int check(app::Host& host, std::string const& path) {
     zsg::ColorDB& colors = *host.root().colorDB();
     std::cout << app::printable(path) << ": " << colors.colors().size() << " colours, "
               << colors.multiColors().size() << " multi-colours, " << colors.colorways().size()
-              << " colorways, " << host.renderer().materials().size() << " materials\n";
+              << " colorways, " << host.renderer().materials().ids().size() << " materials\n";
     return std::cout.flush() ? 0 : 1;
 }
 

@@ -18,7 +18,9 @@ namespace {
 
 nyx::ColorId colorOf(Host& host, std::string const& word) {
     return idOf<nyx::ColorId>(word, "colour", [&](std::string const& name, nyx::ColorId id) {
-        return id.isValid() && host.renderer().color(id) ? id : host.renderer().findColor(name);
+        return id.isValid() && host.renderer().colors().record(id)
+                   ? id
+                   : host.renderer().colors().find(name);
     });
 }
 
@@ -37,9 +39,9 @@ nyx::ColorId takeColor(Host& host, Arguments& arguments, char const* expected) {
 nyx::ColorwayId takeColorway(Host& host, Arguments& arguments) {
     return idOf<nyx::ColorwayId>(arguments.word("a colorway"), "colorway",
                                  [&](std::string const& name, nyx::ColorwayId id) {
-                                     return id.isValid() && host.renderer().colorway(id)
+                                     return id.isValid() && host.renderer().colorways().record(id)
                                                 ? id
-                                                : host.renderer().findColorway(name);
+                                                : host.renderer().colorways().find(name);
                                  });
 }
 

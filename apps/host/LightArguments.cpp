@@ -12,10 +12,12 @@ namespace app {
 namespace {
 
 nyx::GroupItemId itemOf(Host& host, std::string const& word, char const* expected) {
-    return idOf<nyx::GroupItemId>(
-        word, expected, [&](std::string const& name, nyx::GroupItemId id) {
-            return id.isValid() && host.renderer().item(id) ? id : host.renderer().findItem(name);
-        });
+    return idOf<nyx::GroupItemId>(word, expected,
+                                  [&](std::string const& name, nyx::GroupItemId id) {
+                                      return id.isValid() && host.renderer().items().record(id)
+                                                 ? id
+                                                 : host.renderer().items().find(name);
+                                  });
 }
 
 std::vector<std::string> takeWords(Arguments& arguments, char const* expected) {
@@ -71,7 +73,7 @@ std::vector<nyx::ObjectId> takeLights(Host& host, Arguments& arguments) {
     std::vector<nyx::ObjectId> lights;
     for (std::string const& word : takeWords(arguments, "a light")) {
         nyx::GroupItemId const id = itemOf(host, word, "light");
-        if (!word.starts_with('=') && !host.renderer().item(id)->isLight) {
+        if (!word.starts_with('=') && !host.renderer().items().record(id)->isLight()) {
             throw CommandError("\"" + word + "\" is no light");
         }
         lights.emplace_back(id.toUint());
@@ -88,7 +90,7 @@ std::string layerLine(Host& host, nyx::LightLayerId layer) {
 }
 
 std::string itemLine(Host& host, nyx::GroupItemId item) {
-    auto const info = host.renderer().item(item);
+    auto const info = host.renderer().items().record(item);
     return std::to_string(item.toUint()) + ' ' + (info ? info->name : "(no such item)");
 }
 

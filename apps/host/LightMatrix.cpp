@@ -55,12 +55,13 @@ LightMatrix::LightMatrix(Host& host) {
     }
     std::map<nyx::GroupItemId, std::vector<nyx::GroupItemId>> below;
     std::set<nyx::GroupItemId> leading; // to a light
-    for (nyx::GroupItemId const id : host.renderer().items()) {
-        auto const item = host.renderer().item(id);
+    nyx::embedded::Items const& items = host.renderer().items();
+    for (nyx::GroupItemId const id : items.ids()) {
+        auto const item = items.record(id);
         below[item->parent].push_back(id);
         for (auto at = item;
-             item->isLight && at && at->parent.isValid() && leading.insert(at->parent).second;) {
-            at = host.renderer().item(at->parent);
+             item->isLight() && at && at->parent.isValid() && leading.insert(at->parent).second;) {
+            at = items.record(at->parent);
         }
     }
     std::vector<std::pair<nyx::GroupItemId, int>> waiting;
@@ -74,14 +75,15 @@ LightMatrix::LightMatrix(Host& host) {
     while (!waiting.empty()) {
         auto const [id, depth] = waiting.back();
         waiting.pop_back();
-        auto const item = host.renderer().item(id);
-        if (item->isLight || leading.contains(id)) {
+        auto const item = items.record(id);
+        if (item->isLight() || leading.contains(id)) {
             Row& row = rows_.emplace_back();
             row.name = cut(item->name);
             row.depth = std::min(depth, deepest);
-            row.isLight = item->isLight;
+            row.isLight = item->isLight();
             for (nyx::LightLayerId const layer : layers) {
-                row.in.push_back(item->isLight && api.contains(layer, nyx::ObjectId(id.toUint())));
+                row.in.push_back(item->isLight() &&
+                                 api.contains(layer, nyx::ObjectId(id.toUint())));
             }
         }
         putOff(id, depth + 1);

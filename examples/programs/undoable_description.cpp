@@ -62,7 +62,7 @@ int main(int argc, char** argv) {
     Printer printer;
     zsg::Subscription const subscription(*host.root().eventQueue(), printer,
                                          {zsg::EventType::MaterialDescriptionChanged});
-    zsg::MaterialId const id = host.renderer().findMaterial("Seat Fabric");
+    zsg::MaterialId const id = host.renderer().materials().find("Seat Fabric");
     constexpr int finish = 3; // the number of a CMF field, see cmfFieldKey()
     auto const show = [&] { std::cout << handler.descriptor(id)->value(finish) << '\n'; };
 

@@ -104,7 +104,7 @@ TEST_F(ColorAllocationCounts, DoNotGrowWithTheUndoStackNorWithTheColorways) {
         for (unsigned i = 1; i < pairs; ++i) {
             list.push_back({ColorId(1000 + i), red});
         }
-        ColorwayId const way = renderer.addColorway("Way", list);
+        ColorwayId const way = renderer.colorways().add("Way", list);
         renderer.faults().noScene = true; // or the first reading drops what is unused
         db->getColorwayParameters(way);
         renderer.faults().noScene = false;
@@ -118,9 +118,9 @@ TEST_F(ColorAllocationCounts, DoNotGrowWithTheUndoStackNorWithTheColorways) {
     // Binding one place does not read all the others.
     auto const linking = [&](unsigned places) {
         ColorId const from = color("From");
-        nyx::MaterialId const material = renderer.addMaterial("Material");
+        nyx::MaterialId const material = renderer.materials().add("Material");
         for (unsigned i = 0; i < places; ++i) {
-            renderer.bindColor(material, i, "a parameter with a long name", from);
+            renderer.materials().bindColor(material, i, "a parameter with a long name", from);
         }
         return cost([&] { edit.linkColor(from, red); });
     };

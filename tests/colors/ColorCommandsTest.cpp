@@ -52,9 +52,9 @@ TEST_F(ColorCommandsTest, MergingAcrossColorsLosesWhatLiesBetween) {
 TEST_F(ColorCommandsTest, ASwitchStopsAtAMissingMultiColorAndIsNotPushed) {
     ColorId const trim = multiColor("Trim", {red, blue});
     use(trim); // or the first reading of a colorway drops it
-    auto const way = renderer.addColorway("Way", {{cover, green}, {trim, blue}});
+    auto const way = renderer.colorways().add("Way", {{cover, green}, {trim, blue}});
     ASSERT_EQ(db->getColorwayParameters(way)->multiColors().size(), 2u);
-    renderer.removeColor(trim);
+    renderer.colors().remove(trim);
     std::string const before = renderer.dump();
     edit.applyColorway(way);
     EXPECT_EQ(history(), "");

@@ -91,7 +91,7 @@ TEST_F(ColorControllerTest, AListenerCannotPushAndLeavesNothingBehind) {
 }
 
 TEST_F(ColorControllerTest, WhatCannotBeMadeOrNamedPushesNothingButANameThatWasNeeded) {
-    ColorId const unnamed = renderer.addColor("", {1, 1, 1, 1});
+    ColorId const unnamed = renderer.colors().add("", {1, 1, 1, 1});
     std::string const before = renderer.dump();
     renderer.faults().noUniqueNames = true;
     EXPECT_THROW(edit.toggleMultiColor(unnamed), std::bad_optional_access);

@@ -161,8 +161,8 @@ TEST_F(ColorDBColorsTest, ListenersMayReplaceAndDropEdits) {
     ColorId const second = multiColor("Second", {red});
     use(multi);
     use(second);
-    nyx::ColorwayId const colorway = renderer.addColorway("Way", {{multi, red}, {second, red}});
-    nyx::ColorwayId const other = renderer.addColorway("Other", {{multi, blue}});
+    nyx::ColorwayId const colorway = renderer.colorways().add("Way", {{multi, red}, {second, red}});
+    nyx::ColorwayId const other = renderer.colorways().add("Other", {{multi, blue}});
     db->getColorwayParameters(colorway);
     ZColorExt value = newMultiColor(blue);
     value.setId(multi);
@@ -196,7 +196,7 @@ TEST_F(ColorDBColorsTest, ListenersMayReplaceAndDropEdits) {
 
 TEST_F(ColorDBColorsTest, AListenerThatReadsTheRecordAgainLosesNothingOfWhatIsWritten) {
     use(multi);
-    nyx::ColorwayId const colorway = renderer.addColorway("Way", {{multi, red}});
+    nyx::ColorwayId const colorway = renderer.colorways().add("Way", {{multi, red}});
     db->getColorwayParameters(colorway);
     ZColorExt value = db->colorFromId(multi);
     value.setColorName("Switched");
@@ -209,8 +209,8 @@ TEST_F(ColorDBColorsTest, AListenerThatReadsTheRecordAgainLosesNothingOfWhatIsWr
     };
     db->pushColor(value);
     reaction = nullptr;
-    EXPECT_EQ(renderer.color(multi)->name, "Switched");
-    EXPECT_EQ(renderer.color(multi)->activeSub, blue);
+    EXPECT_EQ(renderer.colors().record(multi)->name, "Switched");
+    EXPECT_EQ(renderer.colors().record(multi)->activeSub, blue);
     EXPECT_EQ(value, db->colorFromId(multi));
 }
 

@@ -10,9 +10,10 @@ protected:
     ColorId const blue = color("Blue");
     ColorId const shoe = multiColor("Shoe", {red, blue});
     ColorId const sole = multiColor("Sole", {red, blue});
-    ColorwayId const summer = renderer.addColorway("Summer", {{shoe, red}, {sole, red}});
-    ColorwayId const winter = renderer.addColorway("Winter", {{shoe, blue}, {sole, ColorId(77)}});
-    ColorwayId const empty = renderer.addColorway("Empty", {});
+    ColorwayId const summer = renderer.colorways().add("Summer", {{shoe, red}, {sole, red}});
+    ColorwayId const winter =
+        renderer.colorways().add("Winter", {{shoe, blue}, {sole, ColorId(77)}});
+    ColorwayId const empty = renderer.colorways().add("Empty", {});
 };
 
 } // namespace
@@ -89,7 +90,7 @@ TEST_F(ColorDBColorwaysTest, ASwitchOfTheRendererRereadsTheColorwayAndItsMultiCo
     db->getColorwayParameters(winter);
     db->getColorParameters(shoe)->setColor({0.5f, 0, 0, 1});
     EXPECT_FALSE(db->activeColorwayId().isValid());
-    renderer.activateColorway(winter);
+    renderer.colorways().activate(winter);
     EXPECT_EQ(calls([&] { db->handleColorwayActivated(winter); }),
               "release_color_params 3, color_params 3, > ColorUpdated 3, color_params 4, "
               "> ColorUpdated 4, release_colorway_params 2, colorway_params 2, "
@@ -101,7 +102,7 @@ TEST_F(ColorDBColorwaysTest, ASwitchOfTheRendererRereadsTheColorwayAndItsMultiCo
 
     // Reading it afresh drops what nothing uses, and that is committed.
     ColorwayId const late =
-        renderer.addColorway("Late", {{shoe, red}, {multiColor("Lone", {red}), red}});
+        renderer.colorways().add("Late", {{shoe, red}, {multiColor("Lone", {red}), red}});
     db->getColorwayParameters(late);
     EXPECT_NE(calls([&] { db->handleColorwayActivated(late); }).find("commit_colorway_params"),
               std::string::npos);

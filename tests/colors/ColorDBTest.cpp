@@ -46,7 +46,7 @@ TEST_F(ColorDBTest, FindsNames) {
     ColorId const used = color("Green");
     use(used);
     ColorId const multi = multiColor("Multi", {unused});
-    nyx::ColorwayId const colorway = renderer.addColorway("Way", {});
+    nyx::ColorwayId const colorway = renderer.colorways().add("Way", {});
     db->getColorParameters(used)->setDisplayName("Red"); // two of that name
     db->pushColor(used);
     auto const lock = db->createRtApiLock();
@@ -146,7 +146,7 @@ TEST_F(ColorDBGrowth, EditsCostTheSameInEveryScene) {
     auto const small = cost();
     for (int i = 0; i < 20'000; ++i) {
         color("Red " + std::to_string(i));
-        renderer.addColorway("", {{cover, red}});
+        renderer.colorways().add("", {{cover, red}});
         edit.setFlags(green, 8, i % 2 == 0);
     }
     cost();

@@ -13,7 +13,7 @@ class ColorRandomEditTest : public ControllerScene, public testing::WithParamInt
 protected:
     ColorRandomEditTest() {
         use(trim);
-        for (ColorwayId const id : renderer.colorways()) {
+        for (ColorwayId const id : renderer.colorways().ids()) {
             db->getColorwayParameters(id);
         }
     }
@@ -22,7 +22,7 @@ protected:
         return std::uniform_int_distribution<unsigned>(0, static_cast<unsigned>(count) - 1)(random);
     }
     /// The colours of the start more often than those made since; now and then one that is none.
-    ColorId any() { return ColorId(1 + below(below(2) ? 5 : renderer.colors().size() + 1)); }
+    ColorId any() { return ColorId(1 + below(below(2) ? 5 : renderer.colors().ids().size() + 1)); }
     ColorId multi() {
         auto const multis = db->multiColors();
         return below(10) == 0 ? any() : multis[below(below(2) ? 2 : multis.size())];
@@ -39,7 +39,7 @@ protected:
     void step() {
         ColorId const m = multi();
         ColorId const s = any();
-        ColorwayId const w(1 + below(renderer.colorways().size() + 1));
+        ColorwayId const w(1 + below(renderer.colorways().ids().size() + 1));
         std::function<void()> const operations[] = {
             [&] { edit.addSubColor(m, value(), index()); },
             [&] { edit.addSubKColors(m, std::vector<ZColor>(below(3), value())); },

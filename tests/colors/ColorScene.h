@@ -48,13 +48,15 @@ protected:
     }
 
     ColorId color(std::string const& name, float red = 0) {
-        return renderer.addColor(name, {red, 0, 0, 1});
+        return renderer.colors().add(name, {red, 0, 0, 1});
     }
     ColorId multiColor(std::string const& name, std::vector<ColorId> const& subs) {
-        return renderer.addMultiColor(name, subs, subs[0]);
+        return renderer.colors().addMulti(name, subs, subs[0]);
     }
     /// Makes a material use the colour.
-    void use(ColorId id) { renderer.bindColor(renderer.addMaterial("Material"), 1, "colour", id); }
+    void use(ColorId id) {
+        renderer.materials().bindColor(renderer.materials().add("Material"), 1, "colour", id);
+    }
 
     zsg::ZEventQueue queue;
     std::unique_ptr<zsg::ColorDB> db;

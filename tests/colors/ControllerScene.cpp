@@ -5,7 +5,7 @@ using nyx::ColorId;
 
 std::vector<UndoRoundTrip::Edit> ControllerScene::colorEdits() {
     auto const mergeNot = AllowForwardUndoMerge::No;
-    ColorId const unnamed = renderer.addColor("", {1, 1, 1, 1});
+    ColorId const unnamed = renderer.colors().add("", {1, 1, 1, 1});
     std::vector<ZColor> const colors{{1, 1, 0}, {1, 0, 1, 1, "Pink"}};
     return {
         // First, as it must read the colorways while they still have what it is to remove.
@@ -81,7 +81,7 @@ std::vector<UndoRoundTrip::Edit> ControllerScene::colorEdits() {
 
 std::vector<UndoRoundTrip::Edit> ControllerScene::colorwayEdits() {
     ColorId const trim = multiColor("Trim", {red, blue});
-    ColorwayId const way = renderer.addColorway("Way", {{trim, red}, {cover, red}});
+    ColorwayId const way = renderer.colorways().add("Way", {{trim, red}, {cover, red}});
     MultiColorPair const coverGreen{cover, green}, trimRed{trim, red}, trimBlue{trim, blue};
     auto const of = [](auto... pair) { return std::vector<MultiColorPair>{pair...}; };
     return {

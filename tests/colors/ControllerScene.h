@@ -18,7 +18,7 @@ protected:
                          {"4 'Cover' 0 0 0 1 flags 1", "Cover"},
                          {"active colorway none; ", ""},
                          {"colorway 1 'Summer' pairs 4:1", "Summer off"}}) {
-        renderer.activateColorway(summer);
+        renderer.colorways().activate(summer);
     }
 
     void TearDown() override {

@@ -63,7 +63,7 @@ TEST_F(ZColorLinkerTest, AnImportAsksOncePerConflictAndOverwritesNothing) {
     ZColorExt other{ZColor(0, 0, 0, 1, "Red")};
     db->getColorLinker(&edit, nullptr)->importColor(other);
     EXPECT_EQ(other.getColorName(), "Red 1");
-    EXPECT_EQ(renderer.color(other.getId())->name, "Red 1");
+    EXPECT_EQ(renderer.colors().record(other.getId())->name, "Red 1");
     std::string const made = renderer.dump();
     ZColorExt same =
         palette({{1, 1, 1, 1, "Green"}, {1, 1, 1, 1, "Green"}, {1, 1, 1, 1, "Green 2"}});
@@ -74,7 +74,7 @@ TEST_F(ZColorLinkerTest, AnImportAsksOncePerConflictAndOverwritesNothing) {
     ZColorExt returning = db->colorFromId(green); // of the very record, but changed
     returning.setColor(ZColor(1, 1, 1, 1, "Green"), ZColorExt::NameOp::Keep);
     EXPECT_NE(linker->importColor(returning), green);
-    EXPECT_EQ(renderer.color(green)->value.r, 0);
+    EXPECT_EQ(renderer.colors().record(green)->value.r, 0);
     ZColorExt twice = palette({{0, 0, 0, 1, "Red"}, {0, 0, 0, 1, "Red"}, {0, 0, 0, 1, "Clay"}});
     twice.setActiveIndex(1);
     linker->importColor(twice);
@@ -84,7 +84,8 @@ TEST_F(ZColorLinkerTest, AnImportAsksOncePerConflictAndOverwritesNothing) {
     ZColorExt mixed = palette({{0, 0, 0, 1, "Clay"}});
     mixed.setColors({ZColorExt::ZColorWithId(ZColor(1, 1, 1, 1, "Green"), green)});
     linker->importColor(mixed);
-    EXPECT_TRUE(renderer.color(green)->name == "Green" && mixed.getSubColorId(0) != green);
+    EXPECT_TRUE(renderer.colors().record(green)->name == "Green" &&
+                mixed.getSubColorId(0) != green);
 
     EXPECT_EQ(history(), ""); // the import itself cannot be undone
     renderer.faults().noUniqueNames = true;
@@ -97,8 +98,8 @@ TEST_F(ZColorLinkerTest, ARenamedElementLeavesTheMultiColorItsName) {
         color.setColorName(name);
         linker->importColor(color);
         EXPECT_NE(color.getName(0), color.getColorName());
-        EXPECT_NE(renderer.color(color.getSubColorId(0))->name,
-                  renderer.color(color.getId())->name);
+        EXPECT_NE(renderer.colors().record(color.getSubColorId(0))->name,
+                  renderer.colors().record(color.getId())->name);
     }
 }
 

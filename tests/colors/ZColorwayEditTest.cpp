@@ -10,7 +10,7 @@ constexpr ColorId c3(3), c4(4), c5(5), s30(30), s31(31), s40(40), s50(50);
 class ZColorwayEditTest : public ColorScene {
 protected:
     nyx::ColorwayId const colorway =
-        renderer.addColorway("Autumn", {{c5, s50}, {c3, s30}, {c4, s40}});
+        renderer.colorways().add("Autumn", {{c5, s50}, {c3, s30}, {c4, s40}});
 };
 
 } // namespace

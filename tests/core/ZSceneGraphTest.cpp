@@ -60,7 +60,7 @@ TEST(ZSceneGraph, turnsRendererMessagesIntoEvents) {
     }
     EXPECT_EQ(trace.take(), "");
 
-    nyx::ColorwayId const colorway = renderer.addColorway("Warm", {});
+    nyx::ColorwayId const colorway = renderer.colorways().add("Warm", {});
     ASSERT_TRUE(root->colorDB()->getColorwayParameters(colorway));
     trace.take();
     EXPECT_TRUE(root->handleRendererMessage({5007, {}, colorway}));
@@ -71,7 +71,7 @@ TEST(ZSceneGraph, turnsRendererMessagesIntoEvents) {
 
 TEST(ZSceneGraph, takesEverythingWithItAndTheQueueAfterTheColors) {
     nyx::embedded::Renderer renderer;
-    nyx::ColorId const color = renderer.addColor("Red", {1, 0, 0, 1});
+    nyx::ColorId const color = renderer.colors().add("Red", {1, 0, 0, 1});
     SceneGraphPars pars;
     pars.rtApi = renderer.api();
     std::unique_ptr<ISceneGraph> root = ISceneGraph::create(pars);

@@ -36,7 +36,7 @@ protected:
         renderer.lightLayers().create_layer("Practical", none);
         renderer.lightLayers().add_lights({spot, portal}, accent);
         renderer.lightLayers().add_lights({lamp}, practical);
-        renderer.setUnlisted(portal, true);
+        renderer.items().setUnlisted(portal, true);
         api.sync();
     }
 
@@ -75,14 +75,14 @@ protected:
     }
 
     static constexpr Layer none{};
-    Item const studio = renderer.addGroup("Studio");          // 1
-    Light const key = renderer.addLight("Key", studio);       // 2
-    Item const rig = renderer.addGroup("Rig", studio);        // 3
-    Light const spot = renderer.addLight("Spot", rig);        // 4
-    Light const portal = renderer.addLight("Portal", rig);    // 5, left out of lists
-    Light const chair = renderer.addObject("Chair", studio);  // 6
-    Light const lamp = renderer.addLight("Lamp");             // 7
-    static constexpr Layer first{1}, accent{2}, practical{3}; ///< key; spot and portal; lamp
+    Item const studio = renderer.items().addGroup("Studio");         // 1
+    Light const key = renderer.items().addLight("Key", studio);      // 2
+    Item const rig = renderer.items().addGroup("Rig", studio);       // 3
+    Light const spot = renderer.items().addLight("Spot", rig);       // 4
+    Light const portal = renderer.items().addLight("Portal", rig);   // 5, left out of lists
+    Light const chair = renderer.items().addObject("Chair", studio); // 6
+    Light const lamp = renderer.items().addLight("Lamp");            // 7
+    static constexpr Layer first{1}, accent{2}, practical{3};        ///< key; spot and portal; lamp
 
     zsg::ZEventQueue queue;
     zsg::ZLightLayerApi api{&queue, renderer.api()};

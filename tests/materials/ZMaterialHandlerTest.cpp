@@ -45,7 +45,7 @@ protected:
         nyx_material_set_cmf_value(*material, "CMF::TEXT::VENDOR", "Norrland");
         nyx_material_set_cmf_value(*material, "Weight", "310 g");
         setStoredMetadata(R"({ "b": 1.0, "a": [true] })");
-        renderer.setMaterialItems(made.fabric, {201, 7});
+        renderer.materials().setItems(made.fabric, {201, 7});
         SceneGraphPars pars;
         pars.rtApi = api();
         pars.materialService = &service;

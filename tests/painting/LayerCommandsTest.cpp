@@ -46,7 +46,7 @@ TEST_F(LayerCommandsTest, numbersNewLayersAboveTheLargest) {
 }
 
 TEST_F(LayerCommandsTest, startsIdsAboveTheLargest) {
-    nyx::SurfaceId const id = renderer.addSurface("", 64);
+    nyx::SurfaceId const id = renderer.painting().addSurface("", 64);
     ASSERT_TRUE(id.isValid());
     nyxCustomSurface& custom = *painter().painter()->surface(id);
     custom.add_layer(1, 7);

@@ -58,10 +58,10 @@ TEST_F(PaintRandomEditTest, modelRendererAndPixelsAgreeWithAPlainModel) {
     auto const below = [&](unsigned n) { return static_cast<unsigned>(random() % n); };
     std::map<unsigned, PaintModel> models;
     for (unsigned id = 1; id <= 3; ++id) {
-        renderer.addSurface("", 64);
+        renderer.painting().addSurface("", 64);
         models[id].layers.push_back({1, ""});
     }
-    nyx::SurfaceId const scratch = renderer.addSurface("", 64);
+    nyx::SurfaceId const scratch = renderer.painting().addSurface("", 64);
     std::vector<Entry> history;
     std::size_t done = 0;
     auto const entered = [&](Entry entry) {

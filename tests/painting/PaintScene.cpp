@@ -10,7 +10,7 @@
 PaintScene::~PaintScene() { endRoot(); }
 
 nyx::SurfaceId PaintScene::addSurface(std::vector<std::string> const& layerNames, int resolution) {
-    nyx::SurfaceId const id = renderer.addSurface("", resolution);
+    nyx::SurfaceId const id = renderer.painting().addSurface("", resolution);
     nyxPainter_factory& factory = *nyx_painter_factory(scene());
     nyxPainter* const painter = factory.create("svdag_painter");
     nyxCustomSurface& custom = *painter->surface(id);

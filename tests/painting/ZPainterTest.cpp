@@ -28,7 +28,7 @@ TEST_F(ZPainterTest, findsMakesAndReloadsSurfaces) {
     addSurface({"A"});
     addSurface({"B"});
     EXPECT_EQ(known(), "1 2");
-    nyx::SurfaceId const later = renderer.addSurface("", 16);
+    nyx::SurfaceId const later = renderer.painting().addSurface("", 16);
     EXPECT_EQ(painter().surface(later), nullptr);
     IPainterSurface* const first = painter().surface(nyx::SurfaceId(1));
     EXPECT_EQ(trace([&] { painter().reload(); }), "painter_surfaces");

@@ -67,7 +67,7 @@ class BlendModesTest : public testing::Test {
 protected:
     /// A surface whose layers (ids from 1, from the bottom) have these pixels.
     nyx::SurfaceId add(int resolution, std::vector<LayerPixels> const& layers) {
-        nyx::SurfaceId const id = renderer.addSurface("", resolution);
+        nyx::SurfaceId const id = renderer.painting().addSurface("", resolution);
         for (std::uint32_t i = 0; i < layers.size(); ++i) {
             if (i > 0) {
                 surface(id).add_layer(i, i + 1);

@@ -55,7 +55,7 @@ TEST(Host, TheRootHearsTheRenderer) {
 
 TEST(Host, LoadingBringsANewRootOrChangesNothing) {
     Host host;
-    nyx::ColorId const red = host.renderer().addColor("Red", {1, 0, 0, 1});
+    nyx::ColorId const red = host.renderer().colors().add("Red", {1, 0, 0, 1});
     std::string watched;
     host.watchRoot([&](zsg::ISceneGraph* root) {
         watched +=
@@ -95,8 +95,8 @@ TEST(Host, DoesNotPullTheRootFromUnderWhoUsesIt) {
     {
         zsg::Subscription const subscription(*host.root().eventQueue(), loading,
                                              {zsg::EventType::ColorSynced});
-        host.renderer().addColor("Red", {1, 0, 0, 1});
-        host.renderer().announceColors();
+        host.renderer().colors().add("Red", {1, 0, 0, 1});
+        host.renderer().colors().announce();
         host.renderer().processEvents();
     }
     EXPECT_NE(fromMessage, "");

@@ -26,10 +26,10 @@ protected:
         return text;
     }
 
-    nyx::GroupItemId const group = renderer.addGroup("Rig");
-    Light const lamp = renderer.addLight("Lamp", group);    // 2
-    Light const spot = renderer.addLight("Spot", group);    // 3
-    Light const chair = renderer.addObject("Chair", group); // 4
+    nyx::GroupItemId const group = renderer.items().addGroup("Rig");
+    Light const lamp = renderer.items().addLight("Lamp", group);    // 2
+    Light const spot = renderer.items().addLight("Spot", group);    // 3
+    Light const chair = renderer.items().addObject("Chair", group); // 4
     nyxLight_layer_db& db = renderer.lightLayers();
     static constexpr Layer any{};
 };

@@ -39,7 +39,7 @@ TEST_F(MaterialManagerTest, OneClosedEditIsOneUndoableStep) {
     zsg::IMaterialEdit* const edit = manager.createMaterialEdit(made.fabric);
     ASSERT_EQ(manager.createMaterialEdit(made.fabric), edit);
     ASSERT_EQ(manager.materialEdit(made.fabric), edit);
-    renderer.bindColor(made.fabric, 0, "trim", made.cover);
+    renderer.materials().bindColor(made.fabric, 0, "trim", made.cover);
     EXPECT_THAT(edit->colorPlaces(made.cover),
                 ElementsAre(MaterialColorPlace{1, "color"}, MaterialColorPlace{0, "trim"}))
         << "the material's own order";
@@ -73,7 +73,7 @@ TEST_F(MaterialManagerTest, WorksWithoutAStackAndAfterItsMaterialIsGone) {
     nyx::embedded::MaterialManager plain(renderer, nullptr);
     zsg::IMaterialEdit* const direct = plain.createMaterialEdit(made.frame);
     rebind(direct, {{{1, "color"}, made.red}});
-    EXPECT_EQ(renderer.material(made.frame)->places.at(0).color, made.red);
+    EXPECT_EQ(renderer.materials().record(made.frame)->places.at(0).color, made.red);
     EXPECT_TRUE(manager.isMaterialInUse(made.fabric));
     EXPECT_FALSE(manager.isMaterialInUse(made.frame));
     EXPECT_FALSE(manager.isMaterialInUse(nyx::MaterialId(99)));

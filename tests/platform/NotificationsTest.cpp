@@ -48,7 +48,7 @@ protected:
 TEST_F(Notifications, OneTurnDeliversColorsThenMessagesThenFunctions) {
     SmallScene const made = addSmallScene();
     later("a");
-    renderer.activateColorway(made.winter);
+    renderer.colorways().activate(made.winter);
     commitValue(made.blue, 0.5f);
     commitValue(made.red, 0.5f);
     later("b");
@@ -58,14 +58,14 @@ TEST_F(Notifications, OneTurnDeliversColorsThenMessagesThenFunctions) {
     QCoreApplication::processEvents();
     renderer.processEvents();
     EXPECT_EQ(take(), "5006 3 1\n5007 2\na\nb\n") << "all of it once";
-    EXPECT_EQ(renderer.activeColorway(), made.winter);
-    EXPECT_EQ(renderer.color(made.cover)->activeSub, made.green);
-    EXPECT_EQ(renderer.colorway(made.winter)->flags, 2u);
-    EXPECT_TRUE(renderer.activateColorway(made.summer));
-    EXPECT_EQ(renderer.colorway(made.winter)->flags, 0u);
-    EXPECT_FALSE(renderer.activateColorway(nyx::ColorwayId(9)) ||
-                 renderer.changeColor(ColorId(99), {}));
-    renderer.changeColor(made.green, {0, 1, 0, 1});
+    EXPECT_EQ(renderer.colorways().active(), made.winter);
+    EXPECT_EQ(renderer.colors().record(made.cover)->activeSub, made.green);
+    EXPECT_EQ(renderer.colorways().record(made.winter)->flags, 2u);
+    EXPECT_TRUE(renderer.colorways().activate(made.summer));
+    EXPECT_EQ(renderer.colorways().record(made.winter)->flags, 0u);
+    EXPECT_FALSE(renderer.colorways().activate(nyx::ColorwayId(9)) ||
+                 renderer.colors().change(ColorId(99), {}));
+    renderer.colors().change(made.green, {0, 1, 0, 1});
     edit(made.cover, [&](nyxParameter_edit& block) {
         setList(value(block, "sub_colors"), std::vector{made.green, made.red}); // and nothing else
     });
@@ -73,11 +73,11 @@ TEST_F(Notifications, OneTurnDeliversColorsThenMessagesThenFunctions) {
     EXPECT_EQ(take(), "5006 2 4\n5007 1\n");
 
     // Only a sub-colour that a multi-colour lists becomes its active one.
-    nyx::ColorwayId const odd = renderer.addColorway(
+    nyx::ColorwayId const odd = renderer.colorways().add(
         "Odd", {{made.cover, made.blue}, {made.red, made.green}, {ColorId(99), made.red}});
-    EXPECT_TRUE(renderer.activateColorway(odd));
-    EXPECT_EQ(renderer.color(made.cover)->activeSub, made.red);
-    EXPECT_FALSE(renderer.color(made.red)->activeSub.isValid());
+    EXPECT_TRUE(renderer.colorways().activate(odd));
+    EXPECT_EQ(renderer.colors().record(made.cover)->activeSub, made.red);
+    EXPECT_FALSE(renderer.colors().record(made.red)->activeSub.isValid());
 }
 
 TEST_F(Notifications, WhatReceiversCauseWaitsForTheTurnAfter) {
@@ -109,7 +109,7 @@ TEST_F(Notifications, AThrowingReceiverLosesOnlyItsOwn) {
     SmallScene const made = addSmallScene();
     onMessage = [](nyxMessage const&) { throw std::runtime_error("receiver"); };
     commitValue(made.red, 0.25f);
-    renderer.activateColorway(made.summer);
+    renderer.colorways().activate(made.summer);
     later("function");
     EXPECT_THROW(renderer.processEvents(), std::runtime_error);
     onMessage = nullptr;
@@ -136,9 +136,9 @@ TEST_F(Notifications, HeldOnesArriveWhenTheHoldEnds) {
 TEST_F(Notifications, LoadingAnnouncesTheNewColorsAndForgetsTheOldOnes) {
     SmallScene const made = addSmallScene();
     nyx::embedded::Renderer other;
-    other.addColor("Only", {});
+    other.colors().add("Only", {});
     commitValue(made.green, 0.25f);
-    renderer.activateColorway(made.summer);
+    renderer.colorways().activate(made.summer);
     api()->set_modified(true);
     EXPECT_NE(renderer.loadSceneText("{"), "");
     EXPECT_TRUE(renderer.isModified());
@@ -147,9 +147,9 @@ TEST_F(Notifications, LoadingAnnouncesTheNewColorsAndForgetsTheOldOnes) {
     later("kept");
     renderer.processEvents();
     EXPECT_EQ(take(), "5006 1\nkept\n");
-    renderer.addColor("Second", {});
-    renderer.announceColors();
-    renderer.activateColorway(renderer.addColorway("Old", {}));
+    renderer.colors().add("Second", {});
+    renderer.colors().announce();
+    renderer.colorways().activate(renderer.colorways().add("Old", {}));
     onMessage = [&](nyxMessage const&) {
         onMessage = nullptr;
         EXPECT_EQ(renderer.loadSceneText(other.saveSceneText()), "");

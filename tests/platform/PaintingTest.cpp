@@ -117,7 +117,7 @@ protected:
 
     Renderer renderer;
     Painting& painting = renderer.painting();
-    nyx::SurfaceId id = renderer.addSurface("", 256);
+    nyx::SurfaceId id = renderer.painting().addSurface("", 256);
     RenderTaskQueue queue{RenderTaskQueue::Mode::Manual};
     ZUndoStack undo;
 };

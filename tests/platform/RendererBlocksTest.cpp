@@ -53,7 +53,7 @@ TEST_F(RendererBlocks, AllEntriesAreThereWithTheValuesOfTheRecord) {
     EXPECT_EQ(names(*settings), "5: active_colorway_id");
     value(*settings, "active_colorway_id").word = 2;
     api()->commit_color_settings_params(settings);
-    EXPECT_EQ(renderer.activeColorway(), made.winter);
+    EXPECT_EQ(renderer.colorways().active(), made.winter);
     renderer.faults().noSettings = true;
     EXPECT_EQ(api()->color_settings_params(), nullptr);
 
@@ -65,8 +65,8 @@ TEST_F(RendererBlocks, AllEntriesAreThereWithTheValuesOfTheRecord) {
     ASSERT_EQ(renderer.loadSceneText(nyx::embedded::Renderer().saveSceneText()), "");
     EXPECT_STREQ(value(*color, "display_name").text, "Cover");
     api()->commit_color_params(color);
-    EXPECT_TRUE(renderer.colors().empty());
-    EXPECT_EQ(renderer.addColor("First after loading", {}), ColorId(5)) << "ids are not reused";
+    EXPECT_TRUE(renderer.colors().ids().empty());
+    EXPECT_EQ(renderer.colors().add("First after loading", {}), ColorId(5)) << "ids are not reused";
     api()->release_color_params(color);
     api()->release_colorway_params(colorway);
     api()->release_color_settings_params(settings);
@@ -80,9 +80,9 @@ TEST_F(RendererBlocks, CommitsWriteByRecordIdAndKindAndLeaveTheIdEntryAlone) {
         setList(value(block, "sub_colors"), {made.blue, made.red, made.green});
         value(block, "active_sub").word = made.blue.toUint();
     });
-    EXPECT_THAT(renderer.color(made.cover)->subColors,
+    EXPECT_THAT(renderer.colors().record(made.cover)->subColors,
                 ElementsAre(made.blue, made.red, made.green));
-    EXPECT_EQ(renderer.color(made.cover)->activeSub, made.blue);
+    EXPECT_EQ(renderer.colors().record(made.cover)->activeSub, made.blue);
 
     std::string const before = renderer.dump();
     nyxParameter_edit* const block = api()->color_params(made.red);
@@ -94,18 +94,19 @@ TEST_F(RendererBlocks, CommitsWriteByRecordIdAndKindAndLeaveTheIdEntryAlone) {
     api()->commit_color_settings_params(block);
     api()->commit_color_params(nullptr);
     EXPECT_EQ(renderer.dump(), before) << "unknown record, wrong kind";
-    renderer.removeColor(made.red);
+    renderer.colors().remove(made.red);
     api()->commit_color_params(block);
-    EXPECT_FALSE(renderer.color(made.red)) << "a commit brings nothing back";
+    EXPECT_FALSE(renderer.colors().record(made.red)) << "a commit brings nothing back";
     api()->release_color_params(block);
 
     nyxParameter_edit* const colorway = api()->colorway_params(made.summer);
     setList(value(*colorway, "multi_colors"), {});
     value(*colorway, "flags").word = 3;
     api()->commit_colorway_params(colorway);
-    EXPECT_EQ(renderer.colorway(made.summer)->flags, 3u);
-    EXPECT_TRUE(renderer.colorway(made.summer)->multiColors.empty());
-    EXPECT_EQ(renderer.colorway(made.summer)->activeSubs.size(), 1u) << "nothing forces a length";
+    EXPECT_EQ(renderer.colorways().record(made.summer)->flags, 3u);
+    EXPECT_TRUE(renderer.colorways().record(made.summer)->multiColors.empty());
+    EXPECT_EQ(renderer.colorways().record(made.summer)->activeSubs.size(), 1u)
+        << "nothing forces a length";
     api()->release_colorway_params(colorway);
 }
 
@@ -153,7 +154,7 @@ TEST_F(RendererBlocks, TamperedBlocksAreReadByNameAndLoseNothing) {
         api()->release_color_params(clone);
         value(block, "sub_colors").list.count = -5;
     });
-    EXPECT_TRUE(renderer.color(made.cover)->subColors.empty());
+    EXPECT_TRUE(renderer.colors().record(made.cover)->subColors.empty());
 }
 
 TEST_F(RendererBlocks, JournalNamesEveryCallInOrder) {

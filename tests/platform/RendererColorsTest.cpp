@@ -90,7 +90,7 @@ TEST_F(RendererColors, UniqueNamesSplitTheNumberOffAndTakeTheSmallestFreeOne) {
         EXPECT_EQ(uniqueName(row.asked), row.unique);
         EXPECT_EQ(uniqueName(row.asked, made), row.asked) << "none of them counts";
         for (ColorId const id : made) {
-            renderer.removeColor(id);
+            renderer.colors().remove(id);
         }
     }
 }
@@ -103,16 +103,16 @@ TEST_F(RendererColors, IgnoredColorsFreeTheirNumbersAndRenamedOnesToo) {
     EXPECT_EQ(uniqueName("Red", {one}), "Red 3") << "its twin still holds Red 1";
     EXPECT_EQ(uniqueName("Red", {ColorId(), ColorId(99), twin, one}), "Red 1");
     create("");
-    for (ColorId const id : renderer.colors()) {
+    for (ColorId const id : renderer.colors().ids()) {
         nyx_color_set_unique_name(scene(), id);
     }
     nyx_color_set_unique_name(scene(), ColorId(99));
     rename(twin, "Other");
     EXPECT_EQ(uniqueName("Red"), "Red 1");
-    EXPECT_EQ(renderer.addMultiColor("Other", {}, {}), ColorId(6));
+    EXPECT_EQ(renderer.colors().addMulti("Other", {}, {}), ColorId(6));
     std::string names;
-    for (ColorId const id : renderer.colors()) {
-        names += renderer.color(id)->name + ", ";
+    for (ColorId const id : renderer.colors().ids()) {
+        names += renderer.colors().record(id)->name + ", ";
     }
     EXPECT_EQ(names, "Red, Red 3, Red 2, Other, , Other 1, ") << "plain and multi share names";
     renderer.faults().noUniqueNames = true;
@@ -137,12 +137,12 @@ TEST_F(RendererColors, ListsFollowFlagsThatAreWrittenIntoTheNewRecord) {
         lent->flags = flags;
         EXPECT_EQ(uniqueName("Clay"), flags == 4 ? "Clay" : "Clay 1");
     }
-    EXPECT_TRUE(renderer.removeColor(lent->id));
+    EXPECT_TRUE(renderer.colors().remove(lent->id));
 
     setFlags(temporary, 0);
     EXPECT_THAT(nyx_color_from_name(scene(), "Sand"), ElementsAre(plain, temporary));
-    EXPECT_TRUE(renderer.removeColor(temporary));
-    EXPECT_FALSE(renderer.removeColor(temporary));
+    EXPECT_TRUE(renderer.colors().remove(temporary));
+    EXPECT_FALSE(renderer.colors().remove(temporary));
     EXPECT_EQ(api()->color_params(temporary), nullptr);
     EXPECT_EQ(create("New"), ColorId(6)) << "ids are never used again";
 }
@@ -166,13 +166,13 @@ TEST_F(RendererColors, RevisionsRiseWithListsAndNamesButNotWithValues) {
         {"name", [&] { rename(red, "Rust"); }, 1, 0},
         {"same name", [&] { rename(red, "Rust"); }, 0, 0},
         {"flags", [&] { setFlags(red, 1); }, 1, 0},
-        {"value", [&] { renderer.changeColor(red, nyxColor_rgba()); }, 0, 0},
-        {"removed", [&] { renderer.removeColor(red); }, 1, 0},
+        {"value", [&] { renderer.colors().change(red, nyxColor_rgba()); }, 0, 0},
+        {"removed", [&] { renderer.colors().remove(red); }, 1, 0},
         {"colorway begun", [&] { make->begin_colorway(); }, 0, 0},
         {"colorway ended", [&] { way = *make->end_colorway(); }, 0, 1},
-        {"activated", [&] { renderer.activateColorway(way); }, 0, 1},
-        {"again", [&] { renderer.activateColorway(way); }, 0, 0},
-        {"colorway removed", [&] { renderer.removeColorway(way); }, 0, 1},
+        {"activated", [&] { renderer.colorways().activate(way); }, 0, 1},
+        {"again", [&] { renderer.colorways().activate(way); }, 0, 0},
+        {"colorway removed", [&] { renderer.colorways().remove(way); }, 0, 1},
         {"loaded", [&] { EXPECT_EQ(renderer.loadSceneText(renderer.saveSceneText()), ""); }, 1, 1},
     };
     unsigned colors = 1;

@@ -8,15 +8,15 @@ using nyx::embedded::Renderer;
 
 TEST(RendererLoading, BlocksOfASceneThatWasReplacedAreNotCommitted) {
     Renderer renderer;
-    nyx::ColorId const id = renderer.addColor("Red", {1, 0, 0, 1});
+    nyx::ColorId const id = renderer.colors().add("Red", {1, 0, 0, 1});
     nyxParameter_edit* const old = renderer.api()->color_params(id);
     nyxParameter_edit* const oldSettings = renderer.api()->color_settings_params();
     std::string const text = renderer.saveSceneText();
-    ASSERT_EQ(renderer.changeColor(id, {0, 1, 0, 1}), true);
+    ASSERT_EQ(renderer.colors().change(id, {0, 1, 0, 1}), true);
     ASSERT_EQ(renderer.loadSceneText(text), "");
     nyxParameter_edit* const copy = renderer.api()->clone_color_params(old, true);
     nyxParameter_edit* const fresh = renderer.api()->color_params(id);
-    ASSERT_EQ(renderer.changeColor(id, {0, 0, 1, 1}), true);
+    ASSERT_EQ(renderer.colors().change(id, {0, 0, 1, 1}), true);
     std::string const before = renderer.dump();
     renderer.api()->commit_color_params(old);
     renderer.api()->commit_color_params(copy);

@@ -38,18 +38,19 @@ TEST_F(RendererMaterials, MaterialFunctionsReadAndWriteTheRecord) {
     nyx_material_cmf_values(*fabric, [](char const* key, char const*) { ADD_FAILURE() << key; });
     nyx_material_set_metadata(*fabric, "{\"a\":1}");
     EXPECT_STREQ(nyx_material_metadata(*fabric), "{\"a\":1}");
-    EXPECT_TRUE(renderer.setMaterialItems(made.fabric, {4, 2}));
+    EXPECT_TRUE(renderer.materials().setItems(made.fabric, {4, 2}));
     EXPECT_THAT(nyx_material_items(*fabric), ElementsAre(4u, 2u));
 }
 
 TEST_F(RendererMaterials, TheHierarchyIsWalkedParentsFirstWithoutGroups) {
-    nyx::GroupItemId const room = renderer.addGroup("Room");
-    nyx::GroupItemId const stage = renderer.addGroup("Stage", room);
-    nyx::ObjectId const lamp = renderer.addLight("Lamp", room);
-    nyx::ObjectId const shade = renderer.addObject("Shade", nyx::GroupItemId(lamp.toUint()));
-    nyx::ObjectId const sofa = renderer.addObject("Sofa", stage, made.frame);
-    EXPECT_FALSE(renderer.addGroup("Lost", nyx::GroupItemId(99)).isValid());
-    EXPECT_TRUE(renderer.material(made.frame)->inUse);
+    nyx::GroupItemId const room = renderer.items().addGroup("Room");
+    nyx::GroupItemId const stage = renderer.items().addGroup("Stage", room);
+    nyx::ObjectId const lamp = renderer.items().addLight("Lamp", room);
+    nyx::ObjectId const shade =
+        renderer.items().addObject("Shade", nyx::GroupItemId(lamp.toUint()));
+    nyx::ObjectId const sofa = renderer.items().addObject("Sofa", stage, made.frame);
+    EXPECT_FALSE(renderer.items().addGroup("Lost", nyx::GroupItemId(99)).isValid());
+    EXPECT_TRUE(renderer.materials().isUsed(made.frame));
 
     std::vector<nyx::ObjectId> walked;
     nyx_scene_hierarchy_get(scene())->walk([&](nyxGroup_item const& item) {

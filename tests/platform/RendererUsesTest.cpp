@@ -14,7 +14,7 @@
 
 using nyx::ColorId;
 using nyx::MaterialId;
-using nyx::embedded::ColorInfo;
+using nyx::embedded::ColorRecord;
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
@@ -50,13 +50,13 @@ TEST_F(RendererUses, PlacesCountDirectlyAndThroughEveryMultiColorThatListsAColor
     EXPECT_EQ(count(made.blue), 2u) << "listed twice counts once";
     EXPECT_EQ(count(made.cover), 1u) << "listing itself adds nothing";
     EXPECT_THAT(users(made.blue, 3), ElementsAre(made.fabric, made.frame));
-    ColorId const outer = renderer.addMultiColor("Outer", {made.cover}, made.cover);
-    renderer.bindColor(made.frame, 5, "rim", outer);
+    ColorId const outer = renderer.colors().addMulti("Outer", {made.cover}, made.cover);
+    renderer.materials().bindColor(made.frame, 5, "rim", outer);
     EXPECT_EQ(count(made.cover), 2u);
     EXPECT_EQ(count(made.blue), 2u) << "one level only";
     setSubColors(made.cover, {made.blue}, 0);
     EXPECT_EQ(count(made.blue), 1u) << "without flag 1 a list means nothing";
-    renderer.removeColor(made.cover);
+    renderer.colors().remove(made.cover);
     EXPECT_EQ(count(made.cover), 0u) << "the place still names it, but it is gone";
 }
 
@@ -85,12 +85,13 @@ namespace {
 /// The same answers, searched for in the whole scene.
 class BruteForce {
 public:
-    explicit BruteForce(nyx::embedded::Renderer const& renderer) {
-        for (ColorId const id : renderer.colors()) {
-            colors_.push_back(*renderer.color(id));
+    explicit BruteForce(nyx::embedded::Renderer const& renderer)
+        : materialsOf_(renderer.materials()) {
+        for (ColorId const id : renderer.colors().ids()) {
+            colors_.push_back(*renderer.colors().record(id));
         }
-        for (MaterialId const id : renderer.materials()) {
-            materials_.push_back(*renderer.material(id));
+        for (MaterialId const id : renderer.materials().ids()) {
+            materials_.push_back(*renderer.materials().record(id));
         }
     }
 
@@ -105,13 +106,14 @@ public:
         std::vector<MaterialId> ids;
         for (auto const& material : materials_) {
             for (auto const& place : material.places) {
-                if ((all || material.inUse) && uses(place.color, color, how)) {
+                if ((all || materialsOf_.isUsed(material.id)) && uses(place.color, color, how)) {
                     ids.push_back(material.id);
                 }
             }
         }
-        return std::ranges::count(colors_, color, &ColorInfo::id) != 0 ? ids
-                                                                       : std::vector<MaterialId>();
+        return std::ranges::count(colors_, color, &ColorRecord::id) != 0
+                   ? ids
+                   : std::vector<MaterialId>();
     }
     [[nodiscard]] std::vector<MaterialId> users(ColorId color, unsigned how, bool all) const {
         std::vector<MaterialId> ids = places(color, how, all);
@@ -139,8 +141,9 @@ public:
     }
 
 private:
-    std::vector<ColorInfo> colors_;
-    std::vector<nyx::embedded::MaterialInfo> materials_;
+    std::vector<ColorRecord> colors_;
+    std::vector<nyx::embedded::MaterialRecord> materials_;
+    nyx::embedded::Materials const& materialsOf_;
 };
 
 } // namespace
@@ -155,8 +158,8 @@ TEST_F(RendererUses, IndexesAgreeWithASearchAfterRandomEdits) {
         return ColorId(newest > back ? newest + 3 - back : 1 + back);
     };
     for (int i = 0; i < 6; ++i) {
-        MaterialId const id = renderer.addMaterial("M");
-        renderer.addObject("O", {}, i % 2 == 0 ? id : MaterialId());
+        MaterialId const id = renderer.materials().add("M");
+        renderer.items().addObject("O", {}, i % 2 == 0 ? id : MaterialId());
     }
     unsigned lastRevision = 0;
     std::vector<ColorId> lastPlain;
@@ -173,18 +176,18 @@ TEST_F(RendererUses, IndexesAgreeWithASearchAfterRandomEdits) {
             }
             break;
         case 1:
-            renderer.removeColor(below(2) == 0 ? id : ColorId());
+            renderer.colors().remove(below(2) == 0 ? id : ColorId());
             break;
         case 2:
             nyx_color_set_unique_name(scene(), id);
             break;
         case 3:
-            if (renderer.color(id)) {
+            if (renderer.colors().record(id)) {
                 setSubColors(id, {anyColor(), anyColor(), anyColor()}, below(8));
             }
             break;
         default:
-            renderer.bindColor(MaterialId(1 + below(6)), below(4), "color", anyColor());
+            renderer.materials().bindColor(MaterialId(1 + below(6)), below(4), "color", anyColor());
         }
 
         BruteForce const expected(renderer);

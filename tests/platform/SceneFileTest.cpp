@@ -1,3 +1,4 @@
+#include "nyxembedded/Painting.h"
 #include "nyxembedded/Renderer.h"
 #include "nyxrender/nyxScene.h"
 #include "support/sourceDir.h"
@@ -74,8 +75,8 @@ light 4 "" layer 3 unlisted
     Renderer again;
     ASSERT_EQ(again.loadSceneText(renderer.saveSceneText()), "");
     EXPECT_EQ(again.dump(), before);
-    EXPECT_EQ(again.addColor("New", {}), nyx::ColorId(90)) << "as the file says";
-    ASSERT_TRUE(renderer.removeColor(renderer.addColor("Blue", {1, 0, 0, 1})));
+    EXPECT_EQ(again.colors().add("New", {}), nyx::ColorId(90)) << "as the file says";
+    ASSERT_TRUE(renderer.colors().remove(renderer.colors().add("Blue", {1, 0, 0, 1})));
     EXPECT_EQ(renderer.dump(), before) << "no undo takes back the next id and the revisions";
 }
 
@@ -83,24 +84,28 @@ TEST(SceneFile, NothingThatASceneMayHoldIsLost) {
     constexpr float infinity = std::numeric_limits<float>::infinity();
     Renderer made;
     // 7.038531e-26 is the float whose shortest digits come back as its neighbour through double.
-    made.addColor("\"Grün\"\n\\ \t", {7.038531e-26f, -0.0f, 0.1f, 0.25f});
-    made.addColor("bad \xFF\xC3 bytes", {infinity, -infinity, 3e38f, 1});
-    made.addColor("", {std::numeric_limits<float>::max(), std::numeric_limits<float>::denorm_min(),
+    made.colors().add("\"Grün\"\n\\ \t", {7.038531e-26f, -0.0f, 0.1f, 0.25f});
+    made.colors().add("bad \xFF\xC3 bytes", {infinity, -infinity, 3e38f, 1});
+    made.colors().add("",
+                      {std::numeric_limits<float>::max(), std::numeric_limits<float>::denorm_min(),
                        16777216.0f, std::numeric_limits<float>::quiet_NaN()});
-    made.bindColor(made.addMaterial(""), 0xFFFFFFFFu, "", nyx::ColorId(77));
-    ASSERT_TRUE(made.removeColor(made.addColor("last", {}))); // its id must not come back
+    made.materials().bindColor(made.materials().add(""), 0xFFFFFFFFu, "", nyx::ColorId(77));
+    ASSERT_TRUE(made.colors().remove(made.colors().add("last", {}))); // its id must not come back
     made.setUnitScale(0.0254);
     std::string const cut("Cut\0off", 7); // where every text of the renderer's interface ends
-    made.addColor(cut, {});
-    made.bindColor(made.addMaterial(cut), 1, cut, made.addMultiColor(cut, {}, {}));
-    made.addColorway(cut, {});
-    made.addObject(cut, made.addGroup(cut)), made.addLight(cut), made.addSurface(cut, 64);
+    made.colors().add(cut, {});
+    made.materials().bindColor(made.materials().add(cut), 1, cut,
+                               made.colors().addMulti(cut, {}, {}));
+    made.colorways().add(cut, {});
+    made.items().addObject(cut, made.items().addGroup(cut));
+    made.items().addLight(cut);
+    made.painting().addSurface(cut, 64);
 
     Renderer loaded;
     ASSERT_EQ(loaded.loadSceneText(made.saveSceneText()), "");
     EXPECT_EQ(loaded.saveSceneText(), made.saveSceneText());
     EXPECT_EQ(loaded.dump(), made.dump());
-    EXPECT_EQ(loaded.addColor("new", {}), nyx::ColorId(7));
+    EXPECT_EQ(loaded.colors().add("new", {}), nyx::ColorId(7));
     EXPECT_EQ(nyx_scene_unit_scale(*loaded.scene()), 0.0254);
     for (double const bad : {std::nan(""), -1.0, HUGE_VAL}) {
         loaded.setUnitScale(bad);
@@ -204,7 +209,7 @@ TEST(SceneFile, FilesThatCannotBeReadOrWrittenLoseNothing) {
     EXPECT_EQ(renderer.loadScene(folderPath), folderPath + ": is a folder");
     EXPECT_NE(renderer.saveScene(folderPath + "/none/x.json"), "");
 
-    renderer.addColor("Red", {1, 0, 0, 1});
+    renderer.colors().add("Red", {1, 0, 0, 1});
     ASSERT_EQ(renderer.saveScene(path), "");
     EXPECT_EQ(readFile(path), renderer.saveSceneText());
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{"Scène.json"});

@@ -92,10 +92,10 @@ TEST(writeFile, LeavesTheOldFileWhicheverStepFails) {
 TEST(writeFile, AFailedSaveLeavesTheOldSceneFileAndTheSceneModified) {
     Folder folder;
     Renderer renderer;
-    renderer.addColor("Red", {1, 0, 0, 1});
+    renderer.colors().add("Red", {1, 0, 0, 1});
     ASSERT_EQ(renderer.saveScene(folder.file), "");
     std::string const before = contentOf(folder.file);
-    renderer.changeColor(renderer.findColor("Red"), {0, 1, 0, 1});
+    renderer.colors().change(renderer.colors().find("Red"), {0, 1, 0, 1});
     renderer.api()->set_modified(true);
     for (int step = 1; step <= 4; ++step) {
         renderer.faults().failSaveStep = step;

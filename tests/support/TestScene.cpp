@@ -25,18 +25,18 @@ std::string TestScene::takeJournal() {
 
 SmallScene TestScene::addSmallScene() {
     SmallScene made;
-    made.red = renderer.addColor("Red", {1, 0, 0, 1});
-    made.green = renderer.addColor("Green", {0, 1, 0, 1});
-    made.blue = renderer.addColor("Blue", {0, 0, 1, 1});
-    made.cover = renderer.addMultiColor("Cover", {made.red, made.green}, made.red);
-    made.summer = renderer.addColorway("Summer", {{made.cover, made.red}});
-    made.winter = renderer.addColorway("Winter", {{made.cover, made.green}});
-    made.fabric = renderer.addMaterial("Fabric");
-    made.frame = renderer.addMaterial("Frame");
-    renderer.bindColor(made.fabric, 1, "color", made.cover);
-    renderer.bindColor(made.fabric, 2, "seam", made.red);
-    renderer.bindColor(made.frame, 1, "color", made.blue);
-    made.chair = renderer.addObject("Chair", {}, made.fabric);
+    made.red = renderer.colors().add("Red", {1, 0, 0, 1});
+    made.green = renderer.colors().add("Green", {0, 1, 0, 1});
+    made.blue = renderer.colors().add("Blue", {0, 0, 1, 1});
+    made.cover = renderer.colors().addMulti("Cover", {made.red, made.green}, made.red);
+    made.summer = renderer.colorways().add("Summer", {{made.cover, made.red}});
+    made.winter = renderer.colorways().add("Winter", {{made.cover, made.green}});
+    made.fabric = renderer.materials().add("Fabric");
+    made.frame = renderer.materials().add("Frame");
+    renderer.materials().bindColor(made.fabric, 1, "color", made.cover);
+    renderer.materials().bindColor(made.fabric, 2, "seam", made.red);
+    renderer.materials().bindColor(made.frame, 1, "color", made.blue);
+    made.chair = renderer.items().addObject("Chair", {}, made.fabric);
     return made;
 }
 

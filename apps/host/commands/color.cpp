@@ -70,7 +70,7 @@ void materials(Host& host, Arguments& arguments) {
     bool const all = arguments.flag("all");
     arguments.done();
     for (nyx::MaterialId const material : db(host).getMaterialsUsingColor(id, how, all)) {
-        auto const info = host.renderer().material(material);
+        auto const info = host.renderer().materials().record(material);
         host.out() << "  " << material.toUint() << ' ' << (info ? printable(info->name) : "")
                    << '\n';
     }

@@ -12,15 +12,15 @@ namespace app {
 namespace {
 
 void list(Host& host, Arguments&) {
-    for (nyx::GroupItemId const id : host.renderer().items()) {
-        auto const item = host.renderer().item(id);
-        if (item->isLight) {
+    nyx::embedded::Items const& items = host.renderer().items();
+    for (nyx::GroupItemId const id : items.ids()) {
+        auto const item = items.record(id);
+        if (item->isLight()) {
             host.out() << "  " << itemLine(host, id)
-                       << (item->parent.isValid()
-                               ? " in " + host.renderer().item(item->parent)->name
-                               : "")
-                       << ", layer " << layerLine(host, item->lightLayer)
-                       << (item->isUnlisted ? ", unlisted" : "") << '\n';
+                       << (item->parent.isValid() ? " in " + items.record(item->parent)->name : "")
+                       << ", layer "
+                       << layerLine(host, items.lightLayer(nyx::ObjectId(id.toUint())))
+                       << (item->unlisted ? ", unlisted" : "") << '\n';
         }
     }
 }
@@ -43,7 +43,7 @@ void moveToNewLayer(Host& host, Arguments& arguments) {
 void unlisted(Host& host, Arguments& arguments) {
     bool const on = arguments.onOff();
     for (nyx::ObjectId const light : takeLights(host, arguments)) {
-        host.renderer().setUnlisted(light, on);
+        host.renderer().items().setUnlisted(light, on);
     }
 }
 

@@ -45,10 +45,10 @@ nyx::MaterialId takeMaterial(Host& host, Arguments& arguments) {
     std::uint32_t number = 0;
     auto const [last, error] = std::from_chars(word.data(), word.data() + word.size(), number);
     if (error == std::errc() && last == word.data() + word.size() &&
-        host.renderer().material(nyx::MaterialId(number))) {
+        host.renderer().materials().contains(nyx::MaterialId(number))) {
         return nyx::MaterialId(number);
     }
-    nyx::MaterialId const id = host.renderer().findMaterial(word);
+    nyx::MaterialId const id = host.renderer().materials().find(word);
     if (!id.isValid()) {
         throw CommandError("the scene has no material \"" + word + "\"");
     }
@@ -110,7 +110,7 @@ nlohmann::json readValue(std::string const& text) {
 
 void list(Host& host, Arguments&) {
     auto const& drafts = host.sceneState<Drafts>().byMaterial;
-    for (nyx::MaterialId const id : host.renderer().materials()) {
+    for (nyx::MaterialId const id : host.renderer().materials().ids()) {
         host.out() << "  " << id.toUint() << ' ' << nameOf(host, id)
                    << (drafts.contains(id) ? " (draft)" : "") << '\n';
     }

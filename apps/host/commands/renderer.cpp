@@ -12,19 +12,19 @@ void changeColor(Host& host, Arguments& arguments) {
     nyx::ColorId const id = takeColor(host, arguments);
     nyxColor_rgba const rgba = takeRgba(arguments);
     arguments.done();
-    host.renderer().changeColor(id, rgba);
+    host.renderer().colors().change(id, rgba);
 }
 
 void removeColor(Host& host, Arguments& arguments) {
     nyx::ColorId const id = takeColor(host, arguments);
     arguments.done();
-    host.renderer().removeColor(id);
+    host.renderer().colors().remove(id);
 }
 
 void activateColorway(Host& host, Arguments& arguments) {
     nyx::ColorwayId const id = takeColorway(host, arguments);
     arguments.done();
-    if (!host.renderer().activateColorway(id)) {
+    if (!host.renderer().colorways().activate(id)) {
         throw CommandError("the renderer has no such colorway");
     }
 }

@@ -126,8 +126,8 @@ void readList(nyxParameter_entry const& entry, std::vector<nyx::ColorId>& into) 
 } // namespace
 
 nyxParameter_edit* makeColorBlock(ColorRecord const& record, StringPool& strings) {
-    BlockPointer block(new Block(record.head.id.toUint(), nyxParameter_edit::ColorKind, 7));
-    block->add("id").value.word = record.head.id.toUint();
+    BlockPointer block(new Block(record.id.toUint(), nyxParameter_edit::ColorKind, 7));
+    block->add("id").value.word = record.id.toUint();
     block->add("display_name").value.text = strings.intern(record.name);
     block->add("original_name").value.text = strings.intern(record.originalName);
     nyxColor_rgba const& value = record.value;
@@ -136,7 +136,7 @@ nyxParameter_edit* makeColorBlock(ColorRecord const& record, StringPool& strings
     rgba[1] = value.g;
     rgba[2] = value.b;
     rgba[3] = value.a;
-    block->add("flags").value.word = record.head.flags;
+    block->add("flags").value.word = record.flags;
     setList(block->add("sub_colors"), record.subColors);
     block->add("active_sub").value.word = record.activeSub.toUint();
     return block.release();
@@ -197,7 +197,7 @@ void readBlock(nyxParameter_edit const& block, ColorRecord& record) {
             float const* const rgba = entry.value.rgba;
             record.value = {rgba[0], rgba[1], rgba[2], rgba[3]};
         } else if (isNamed(entry, "flags")) {
-            record.head.flags = entry.value.word;
+            record.flags = entry.value.word;
         } else if (isNamed(entry, "sub_colors")) {
             readList(entry, record.subColors);
         } else if (isNamed(entry, "active_sub")) {

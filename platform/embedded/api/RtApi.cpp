@@ -102,7 +102,7 @@ void RtApi::commit_color_params(nyxParameter_edit* block) {
     ColorRecord values = *record;
     readBlock(*block, values);
     if (scene_.updateColor(values)) {
-        notifications_.colorChanged(values.head.id);
+        notifications_.colorChanged(values.id);
     }
 }
 

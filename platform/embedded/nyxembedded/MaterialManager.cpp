@@ -39,8 +39,8 @@ private:
     bool bindAll(nyx::ColorId Rebinding::*color) {
         bool done = true;
         for (Rebinding const& change : changes_) {
-            done &= renderer_.rebindColor(material_, change.place.node, change.place.parameter,
-                                          change.*color);
+            done &= renderer_.materials().rebindColor(material_, change.place.node,
+                                                      change.place.parameter, change.*color);
         }
         return done;
     }
@@ -59,8 +59,8 @@ public:
     colorPlaces(nyx::ColorId color) const override {
         renderer_.journal().write("material_color_places", material_, color);
         std::vector<zsg::MaterialColorPlace> places;
-        if (auto const material = renderer_.material(material_)) {
-            for (PlaceInfo const& place : material->places) {
+        if (auto const material = renderer_.materials().record(material_)) {
+            for (MaterialPlace const& place : material->places) {
                 if (place.color == color) {
                     places.push_back({place.node, place.parameter});
                 }
@@ -76,8 +76,8 @@ public:
         }
         // Read once: a material may have very many places, and the edit may bind them all.
         std::map<zsg::MaterialColorPlace, Binding> bindings;
-        if (auto const material = renderer_.material(material_)) {
-            for (PlaceInfo const& place : material->places) {
+        if (auto const material = renderer_.materials().record(material_)) {
+            for (MaterialPlace const& place : material->places) {
                 bindings.insert_or_assign({place.node, place.parameter},
                                           Binding{place.color, place.color});
             }
@@ -105,7 +105,7 @@ public:
                 changes.push_back({place, colors.before, colors.after});
             }
         }
-        auto const material = renderer_.material(material_);
+        auto const material = renderer_.materials().record(material_);
         if (changes.empty() || !material) {
             return;
         }
@@ -156,7 +156,7 @@ zsg::IMaterialEdit* MaterialManager::materialEdit(nyx::MaterialId material) {
 
 zsg::IMaterialEdit* MaterialManager::createMaterialEdit(nyx::MaterialId material) {
     impl_->renderer.journal().write("create_material_edit", material);
-    if (!impl_->renderer.material(material)) {
+    if (!impl_->renderer.materials().contains(material)) {
         return nullptr;
     }
     std::unique_ptr<zsg::IMaterialEdit>& edit = impl_->edits[material];
@@ -168,8 +168,8 @@ zsg::IMaterialEdit* MaterialManager::createMaterialEdit(nyx::MaterialId material
 
 bool MaterialManager::isMaterialInUse(nyx::MaterialId material) const {
     impl_->renderer.journal().write("is_material_in_use", material);
-    auto const info = impl_->renderer.material(material);
-    return info && info->inUse;
+    return impl_->renderer.materials().contains(material) &&
+           impl_->renderer.materials().isUsed(material);
 }
 
 } // namespace nyx::embedded

@@ -1,10 +1,15 @@
 #include "nyxembedded/Painting.h"
 
+#include "renderer/upToZero.h"
 #include "store/Surfaces.h"
 
 #include <utility>
 
 namespace nyx::embedded {
+
+nyx::SurfaceId Painting::addSurface(std::string const& name, int resolution) {
+    return surfaces_.create(upToZero(name), resolution);
+}
 
 std::vector<nyx::SurfaceId> Painting::surfaces() const {
     std::vector<nyx::SurfaceId> ids;

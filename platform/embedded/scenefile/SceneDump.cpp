@@ -40,11 +40,11 @@ void appendFlags(std::string& out, std::uint32_t flags) {
 }
 
 void append(std::string& out, ColorRecord const& record) {
-    appendHead(out, "color", idText(record.head.id), record.name);
+    appendHead(out, "color", idText(record.id), record.name);
     for (float const component : {record.value.r, record.value.g, record.value.b, record.value.a}) {
         out.append(1, ' ').append(numberText(static_cast<double>(component)));
     }
-    appendFlags(out, record.head.flags);
+    appendFlags(out, record.flags);
     if (!record.originalName.empty()) {
         appendText(out.append(" original "), record.originalName);
     }
@@ -128,7 +128,7 @@ void append(std::string& out, GroupItem const& item, LightLayers const& layers) 
     }
     if (item.is_light()) {
         out.append(" layer ").append(idText(layers.layerOf(item.object_id())));
-        out.append(item.lightShader.unlisted ? " unlisted" : "");
+        out.append(item.record.unlisted ? " unlisted" : "");
     }
     out += '\n';
 }

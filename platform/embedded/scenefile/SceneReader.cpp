@@ -67,8 +67,8 @@ nyxColor_rgba readColorValue(JsonNode const& node) {
 void readColor(JsonNode const& node, nyxScene& scene) {
     node.checkObject({"id", "name", "originalName", "value", "flags", "subColors", "activeSub"});
     ColorRecord record;
-    record.head.id = readId(node, scene.nextColorId());
-    record.head.flags = readWord(node, "flags");
+    record.id = readId(node, scene.nextColorId());
+    record.flags = readWord(node, "flags");
     record.name = readText(node, "name");
     record.originalName = readText(node, "originalName");
     record.value = readColorValue(node.member("value"));
@@ -202,7 +202,7 @@ void readItem(JsonNode const& node, nyxScene& scene) {
         if (!item.is_light()) {
             unlisted->fail("only lights are in light layers");
         }
-        item.lightShader.unlisted = unlisted->boolean();
+        item.record.unlisted = unlisted->boolean();
     }
 }
 

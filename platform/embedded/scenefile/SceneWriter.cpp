@@ -100,7 +100,7 @@ private:
 
 void write(std::string& out, ColorRecord const& record) {
     Line line(out);
-    line.value("id", record.head.id);
+    line.value("id", record.id);
     line.text("name", record.name);
     line.text("originalName", record.originalName);
     char const* separator = "[";
@@ -110,7 +110,7 @@ void write(std::string& out, ColorRecord const& record) {
         separator = ", ";
     }
     out += ']';
-    line.flags(record.head.flags);
+    line.flags(record.flags);
     line.list("subColors", record.subColors);
     line.reference("activeSub", record.activeSub);
 }
@@ -193,7 +193,7 @@ void write(std::string& out, GroupItem const& item, LightLayers const& layers) {
         nyx::LightLayerId const layer = layers.layerOf(item.object_id());
         line.reference("lightLayer",
                        layer == LightLayers::defaultLayer ? nyx::LightLayerId() : layer);
-        if (item.lightShader.unlisted) {
+        if (item.record.unlisted) {
             line.key("unlisted") += "true";
         }
     }

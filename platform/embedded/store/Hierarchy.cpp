@@ -23,7 +23,7 @@ void Hierarchy::walk(std::function<void(nyxGroup_item const&)> const& visit) con
     }
 }
 
-bool LightShader::info(unsigned query) const { return query == 4100 && unlisted; }
+bool LightShader::info(unsigned query) const { return query == 4100 && light_.unlisted; }
 
 nyx::ObjectId GroupItem::object_id() const {
     return record.kind == ItemKind::Group ? nyx::ObjectId() : nyx::ObjectId(record.id.toUint());

@@ -29,13 +29,13 @@ nyxScene::~nyxScene() = default;
 
 nyx::ColorId nyxScene::addColor(ColorRecord record) {
     noticeLentFlags();
-    nyx::ColorId const id = idFor(contents_.colors, record.head.id);
-    record.head.id = id;
+    nyx::ColorId const id = idFor(contents_.colors, record.id);
+    record.id = id;
     ColorRecord const* const added = contents_.colors.emplace(id.toUint(), std::move(record));
     if (added == nullptr) {
         return {};
     }
-    list(*added, {}, listsOf(*added, added->head.flags));
+    list(*added, {}, listsOf(*added, added->flags));
     contents_.uses.list(id, added->subColors);
     ++colorRevision_;
     return id;
@@ -47,26 +47,26 @@ ColorRecord const* nyxScene::color(nyx::ColorId id) const {
 
 bool nyxScene::updateColor(ColorRecord const& values) {
     noticeLentFlags();
-    nyx::ColorId const id = values.head.id;
+    nyx::ColorId const id = values.id;
     ColorRecord* const record = contents_.colors.find(id.toUint());
     if (record == nullptr) {
         return false;
     }
     bool changed = false;
-    if (record->name != values.name || record->head.flags != values.head.flags) {
-        Lists const before = listsOf(*record, record->head.flags);
+    if (record->name != values.name || record->flags != values.flags) {
+        Lists const before = listsOf(*record, record->flags);
         if (before.named) {
             contents_.names.remove(record->name, id);
         }
         record->name = values.name;
-        record->head.flags = values.head.flags;
-        Lists const after = listsOf(*record, record->head.flags);
+        record->flags = values.flags;
+        Lists const after = listsOf(*record, record->flags);
         if (after.named) {
             contents_.names.add(record->name, id);
         }
         enlist(id, before, after);
-        if (lent_ == &record->head) {
-            lentFlagsSeen_ = record->head.flags;
+        if (lent_ == record) {
+            lentFlagsSeen_ = record->flags;
         }
         ++colorRevision_;
         changed = true;
@@ -92,8 +92,8 @@ bool nyxScene::updateColor(ColorRecord const& values) {
 }
 
 nyxScene::Lists nyxScene::listsOf(ColorRecord const& record, std::uint32_t flags) {
-    bool const listed = (flags & TemporaryColorFlag) == 0;
-    bool const multi = (flags & MultiColorFlag) != 0;
+    bool const listed = (flags & ColorRecord::Temporary) == 0;
+    bool const multi = (flags & ColorRecord::MultiColor) != 0;
     return {listed && !multi, listed && multi, listed && !record.name.empty()};
 }
 
@@ -113,11 +113,11 @@ void nyxScene::enlist(nyx::ColorId id, Lists before, Lists after) {
 /// The same for a record whose name stays.
 void nyxScene::list(ColorRecord const& record, Lists before, Lists after) {
     if (before.named && !after.named) {
-        contents_.names.remove(record.name, record.head.id);
+        contents_.names.remove(record.name, record.id);
     } else if (after.named && !before.named) {
-        contents_.names.add(record.name, record.head.id);
+        contents_.names.add(record.name, record.id);
     }
-    enlist(record.head.id, before, after);
+    enlist(record.id, before, after);
 }
 
 bool nyxScene::removeColor(nyx::ColorId id) {
@@ -126,9 +126,9 @@ bool nyxScene::removeColor(nyx::ColorId id) {
     if (record == nullptr) {
         return false;
     }
-    list(*record, listsOf(*record, record->head.flags), {});
+    list(*record, listsOf(*record, record->flags), {});
     contents_.uses.unlist(id, record->subColors);
-    if (lent_ == &record->head) {
+    if (lent_ == record) {
         lent_ = nullptr;
     }
     contents_.colors.erase(id.toUint());
@@ -141,7 +141,7 @@ nyx::ColorId nyxScene::nextColorId() const { return nyx::ColorId(contents_.color
 nyxColor_record* nyxScene::lendColor(nyx::ColorId id) {
     noticeLentFlags();
     ColorRecord* const record = contents_.colors.find(id.toUint());
-    lent_ = record == nullptr ? nullptr : &record->head;
+    lent_ = record == nullptr ? nullptr : record;
     lentFlagsSeen_ = record == nullptr ? 0 : lent_->flags;
     return lent_;
 }

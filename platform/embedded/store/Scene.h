@@ -44,7 +44,7 @@ public:
 
     [[nodiscard]] nyx::ColorId addColor(nyx::embedded::ColorRecord record);
     [[nodiscard]] nyx::embedded::ColorRecord const* color(nyx::ColorId id) const;
-    /// Gives the record values.head.id all of `values`. True when that changed anything.
+    /// Gives the record values.id all of `values`. True when that changed anything.
     bool updateColor(nyx::embedded::ColorRecord const& values);
     bool removeColor(nyx::ColorId id);
     /// Visits in creation order.

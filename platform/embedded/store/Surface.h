@@ -2,8 +2,8 @@
 
 #include "nyxembedded/Image.h"
 #include "nyxembedded/LayerPixels.h"
-#include "nyxembedded/SceneInfo.h"
 #include "nyxembedded/Stroke.h"
+#include "nyxembedded/SurfaceInfo.h"
 #include "nyxrender/nyxCustomSurface.h"
 
 #include <memory>

@@ -2,13 +2,14 @@
 
 #include "nyxembedded/Image.h"
 #include "nyxembedded/LayerPixels.h"
-#include "nyxembedded/SceneInfo.h"
 #include "nyxembedded/Stroke.h"
+#include "nyxembedded/SurfaceInfo.h"
 #include "nyxrender/Export.h"
 #include "nyxrender/Ids.h"
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace nyx::embedded {
@@ -22,6 +23,8 @@ class NYXRENDER_EXPORT Painting {
 public:
     explicit Painting(Surfaces& surfaces) : surfaces_(surfaces) {}
 
+    /// A paint surface with one layer; the invalid id for a resolution below 1 or above 16384.
+    nyx::SurfaceId addSurface(std::string const& name, int resolution);
     /// In creation order.
     [[nodiscard]] std::vector<nyx::SurfaceId> surfaces() const;
     /// Nothing for an unknown surface.

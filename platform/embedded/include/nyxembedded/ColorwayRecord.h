@@ -1,0 +1,26 @@
+#pragma once
+
+#include "nyxrender/Ids.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace nyx::embedded {
+
+/// A colorway of the scene: the multi-colours that it covers, and the sub-colour that it makes
+/// active in each.
+struct ColorwayRecord {
+    static constexpr std::uint32_t Deleted = 1;
+    static constexpr std::uint32_t Active = 2;
+
+    nyx::ColorwayId id;
+    std::uint32_t flags = 0;
+    std::string name; ///< UTF-8
+    std::vector<nyx::ColorId> multiColors;
+    std::vector<nyx::ColorId> activeSubs; ///< meant to be as long as multiColors; nothing forces it
+
+    friend bool operator==(ColorwayRecord const&, ColorwayRecord const&) = default;
+};
+
+} // namespace nyx::embedded

@@ -1,0 +1,79 @@
+#include "nyxembedded/Colorways.h"
+
+#include "api/Notifications.h"
+#include "renderer/upToZero.h"
+#include "store/Scene.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace nyx::embedded {
+
+nyx::ColorwayId Colorways::add(std::string const& name, nyx::Span<ColorwayPair> pairs) {
+    ColorwayRecord record;
+    record.name = upToZero(name);
+    for (ColorwayPair const& pair : pairs) {
+        record.multiColors.push_back(pair.multiColor);
+        record.activeSubs.push_back(pair.subColor);
+    }
+    return scene_.addColorway(std::move(record));
+}
+
+std::vector<nyx::ColorwayId> Colorways::ids() const {
+    std::vector<nyx::ColorwayId> ids;
+    scene_.forEachColorway([&](ColorwayRecord const& record) { ids.push_back(record.id); });
+    return ids;
+}
+
+nyx::ColorwayId Colorways::find(std::string const& name) const {
+    nyx::ColorwayId found;
+    scene_.forEachColorway([&](ColorwayRecord const& record) {
+        found = !found.isValid() && record.name == name ? record.id : found;
+    });
+    return found;
+}
+
+std::optional<ColorwayRecord> Colorways::record(nyx::ColorwayId id) const {
+    ColorwayRecord const* const record = scene_.colorway(id);
+    return record == nullptr ? std::nullopt : std::optional(*record);
+}
+
+nyx::ColorwayId Colorways::active() const { return scene_.activeColorway(); }
+
+bool Colorways::remove(nyx::ColorwayId id) { return scene_.removeColorway(id); }
+
+bool Colorways::activate(nyx::ColorwayId id) {
+    ColorwayRecord const* const wanted = scene_.colorway(id);
+    if (wanted == nullptr) {
+        return false;
+    }
+    std::vector<ColorwayRecord> flagged;
+    scene_.forEachColorway([&](ColorwayRecord const& colorway) {
+        std::uint32_t const flags = colorway.id == id ? colorway.flags | ColorwayRecord::Active
+                                                      : colorway.flags & ~ColorwayRecord::Active;
+        if (flags != colorway.flags) {
+            flagged.push_back(colorway);
+            flagged.back().flags = flags;
+        }
+    });
+    for (ColorwayRecord const& colorway : flagged) {
+        scene_.updateColorway(colorway);
+    }
+    scene_.setActiveColorway(id);
+    std::size_t const pairs = std::min(wanted->multiColors.size(), wanted->activeSubs.size());
+    for (std::size_t i = 0; i < pairs; ++i) {
+        ColorRecord const* const multi = scene_.color(wanted->multiColors[i]);
+        nyx::ColorId const sub = wanted->activeSubs[i];
+        if (multi != nullptr && multi->isMulti() &&
+            std::find(multi->subColors.begin(), multi->subColors.end(), sub) !=
+                multi->subColors.end()) {
+            ColorRecord changed = *multi;
+            changed.activeSub = sub;
+            scene_.updateColor(changed);
+        }
+    }
+    notifications_.colorwayActivated(id);
+    return true;
+}
+
+} // namespace nyx::embedded
