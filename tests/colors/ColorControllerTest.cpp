@@ -1,8 +1,7 @@
 #include "colors/ControllerScene.h"
+#include "support/MarkingTranslator.h"
 
-#include <QCoreApplication>
 #include <QLoggingCategory>
-#include <QTranslator>
 
 #include <utility>
 
@@ -27,14 +26,6 @@ struct Derived final : ColorController {
         return calls += 'c', 0;
     }
     mutable std::string calls;
-};
-
-/// Marks texts with their context.
-struct Marking final : QTranslator {
-    QString translate(char const* context, char const* text, char const*, int) const override {
-        return QString(context) + ':' + text;
-    }
-    bool isEmpty() const override { return false; }
 };
 
 } // namespace
@@ -145,15 +136,14 @@ TEST_F(ColorControllerTest, ItsOwnOperationsGoThroughTheOverriddenOnes) {
 }
 
 TEST_F(ColorControllerTest, TextsHaveTheContextsOfTheirCommands) {
-    Marking marking;
-    QCoreApplication::installTranslator(&marking);
+    auto marking = std::make_unique<MarkingTranslator>();
     edit.setFlags(red, 8, true), edit.setDisplayName(red, "");
     edit.setDisplayName(winter, ""), edit.setDeleted(summer, true);
     edit.applyColorway(summer);
     edit.createColorway("Dune", coverRed);
     edit.linkColor(blue, green);
     std::string const texts = history();
-    QCoreApplication::removeTranslator(&marking);
+    marking.reset();
     EXPECT_TRUE(history().starts_with("Modify Color (Red); ")); // in the language of the moment
     std::string ids;
     for (int i = 0; i < stack.count(); ++i) {

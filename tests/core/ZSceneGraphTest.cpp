@@ -2,6 +2,7 @@
 
 #include "nyxembedded/Renderer.h"
 #include "nyxrender/nyxMessage.h"
+#include "support/Allocations.h"
 #include "support/EventTrace.h"
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
@@ -13,6 +14,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -85,6 +87,26 @@ TEST(ZSceneGraph, takesEverythingWithItAndTheQueueAfterTheColors) {
                      [&] { heldWhenQueueGoes = renderer.ledger().blocks; });
     root.reset();
     EXPECT_EQ(heldWhenQueueGoes, 0u);
+}
+
+TEST(ZSceneGraph, thatCannotBeMadeLeavesNothing) {
+    nyx::embedded::Renderer renderer;
+    SceneGraphPars pars;
+    pars.rtApi = renderer.api();
+    bool isMade = false;
+    std::size_t failures = 0;
+    for (; !isMade; ++failures) {
+        Allocations::Failure const failure(failures);
+        try {
+            isMade = ISceneGraph::create(pars) != nullptr;
+        } catch (std::bad_alloc const&) {
+            EXPECT_TRUE(failure.hasHappened());
+        }
+    }
+    EXPECT_GT(failures, 9u) << "each subsystem is at least one";
+    EXPECT_EQ(renderer.ledger().blocks, 0u);
+    EXPECT_EQ(renderer.ledger().arrays, 0u);
+    EXPECT_TRUE(ISceneGraph::create(pars)->eventQueue());
 }
 
 } // namespace
