@@ -1,7 +1,5 @@
 #include "zsg/values/loadIORFile.h"
 
-#include "support/sourceDir.h"
-
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -125,23 +123,5 @@ TEST_F(LoadIORFile, NothingToReadLeavesTheResultAlone) {
         EXPECT_FALSE(row.result.loaded);
         EXPECT_EQ(row.result.values, FloatArray{7});
         EXPECT_EQ(row.result.messages, row.messages);
-    }
-}
-
-TEST_F(LoadIORFile, MeasuredMetals) {
-    std::string const data = sourceDir() + "/examples/data/";
-    for (std::string const metal : {"gold", "silver", "copper"}) {
-        Result const table = load(data + metal + ".csv");
-        Result const pairs = load(data + metal + ".nk");
-        EXPECT_EQ(table.messages + pairs.messages, "");
-        ASSERT_EQ(table.values.size(), 3 * 49);
-        ASSERT_EQ(pairs.values.size(), 3 * 49);
-        for (qsizetype i = 0; i < 49; ++i) {
-            qsizetype const a = 3 * i;
-            qsizetype const b = 3 * (48 - i); // ascending energy is descending wavelength
-            EXPECT_NEAR(table.values[a], pairs.values[b], 0.01 * table.values[a]) << metal << i;
-            EXPECT_EQ(table.values[a + 1], pairs.values[b + 1]);
-            EXPECT_EQ(table.values[a + 2], pairs.values[b + 2]);
-        }
     }
 }
