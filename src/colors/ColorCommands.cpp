@@ -1,7 +1,9 @@
 #include "colors/ColorCommands.h"
 
 #include "colors/colorwayAccess.h"
+#include "core/FirstException.h"
 #include "zsg/colors/ColorDB.h"
+#include "zsg/colors/ZColorSettingsEdit.h"
 
 #include <QCoreApplication>
 
@@ -93,27 +95,63 @@ ZActivateColorwayCommand::ZActivateColorwayCommand(ColorDB* colorDB, nyx::Colorw
     std::erase(otherActive_, colorway);
 }
 
-bool ZActivateColorwayCommand::undo() { return switchTo(undoSubs_, false); }
+bool ZActivateColorwayCommand::undo() {
+    auto const start = std::exchange(interrupted_, std::nullopt);
+    if (!start) {
+        return switchTo(undoSubs_, false);
+    }
+    // What an interrupted redo() has not reached is as it was, and nothing else would tell the
+    // settings again which colorway is active.
+    FirstException thrown;
+    thrown.keep([&] { switchTo(undoSubs_, start->wasActive); });
+    ColorDB* const colorDB = colorDB_.get();
+    if (ZColorSettingsEdit* const settings =
+            colorDB ? colorDB->getColorSettingsParameters() : nullptr) {
+        thrown.keep([&] {
+            settings->setActiveColorwayId(start->named);
+            settings->commit(false);
+        });
+    }
+    thrown.pass();
+    return true;
+}
 
-bool ZActivateColorwayCommand::redo() { return switchTo(redoSubs_, true); }
+bool ZActivateColorwayCommand::redo() {
+    if (ColorDB* const colorDB = colorDB_.get()) {
+        ZColorwayEdit const* const edit = colorDB->getColorwayParameters(colorway_);
+        interrupted_ = {edit && edit->isActive(), colorDB->activeColorwayId()};
+    }
+    bool const done = switchTo(redoSubs_, true);
+    interrupted_.reset();
+    return done;
+}
 
 bool ZActivateColorwayCommand::switchTo(std::vector<MultiColorPair> const& pairs, bool isActive) {
     ColorDB* const colorDB = colorDB_.get();
     if (!colorDB) {
         return false;
     }
+    FirstException thrown;
     for (MultiColorPair const& pair : pairs) {
         ZColorExtEdit* const edit = colorDB->getColorParameters(pair.multiColor);
         if (!edit) {
+            thrown.pass();
             return false;
         }
-        edit->setActiveSub(pair.subColor);
-        colorDB->pushColor(pair.multiColor);
+        thrown.keep([&] {
+            edit->setActiveSub(pair.subColor);
+            colorDB->pushColor(pair.multiColor);
+        });
     }
-    setColorwayFlag(*colorDB, colorway_, &ZColorwayEdit::setActive, isActive);
+    auto const setActive = [&](nyx::ColorwayId colorway, bool active) {
+        thrown.keep(
+            [&] { setColorwayFlag(*colorDB, colorway, &ZColorwayEdit::setActive, active); });
+    };
+    setActive(colorway_, isActive);
     for (nyx::ColorwayId const other : otherActive_) {
-        setColorwayFlag(*colorDB, other, &ZColorwayEdit::setActive, !isActive);
+        setActive(other, !isActive);
     }
+    thrown.pass();
     return true;
 }
 
@@ -186,16 +224,20 @@ bool ZEditColorCommand::install(ZColorExtEdit const& state, bool redo) {
     if (!colorDB) {
         return false;
     }
-    colorDB->setColorEdit(&state);
-    for (nyx::ColorwayId const colorway : deactivateOnRedo_) {
-        setColorwayFlag(*colorDB, colorway, &ZColorwayEdit::setActive, !redo);
-    }
-    for (nyx::ColorwayId const colorway : undeleteOnRedo_) {
-        setColorwayFlag(*colorDB, colorway, &ZColorwayEdit::setDeleted, !redo);
-    }
+    FirstException thrown;
+    thrown.keep([&] { colorDB->setColorEdit(&state); });
+    auto const setFlags = [&](std::vector<nyx::ColorwayId> const& colorways,
+                              void (ZColorwayEdit::*flag)(bool)) {
+        for (nyx::ColorwayId const colorway : colorways) {
+            thrown.keep([&] { setColorwayFlag(*colorDB, colorway, flag, !redo); });
+        }
+    };
+    setFlags(deactivateOnRedo_, &ZColorwayEdit::setActive);
+    setFlags(undeleteOnRedo_, &ZColorwayEdit::setDeleted);
     for (nyx::ColorId const color : syncColors_) {
-        colorDB->postColorUpdateSyncEvent(color);
+        thrown.keep([&] { colorDB->postColorUpdateSyncEvent(color); });
     }
+    thrown.pass();
     return true;
 }
 

@@ -9,6 +9,7 @@
 #include "zcore/ZUndoCommand.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace zsg {
@@ -60,6 +61,11 @@ public:
     bool redo() override;
 
 private:
+    struct Start {
+        bool wasActive;
+        nyx::ColorwayId named; ///< by the settings
+    };
+
     bool switchTo(std::vector<MultiColorPair> const& pairs, bool isActive);
 
     GuardedPointer<ColorDB> colorDB_;
@@ -67,6 +73,7 @@ private:
     std::vector<MultiColorPair> redoSubs_;
     std::vector<nyx::ColorwayId> otherActive_;
     nyx::ColorwayId colorway_;
+    std::optional<Start> interrupted_; ///< where redo() began, until it has come to its end
 };
 
 /// Installs whole states of one colorway.

@@ -1,9 +1,9 @@
 #include "lightlayers/LightLayerCommands.h"
 
+#include "core/FirstException.h"
 #include "zsg/lightlayers/ZLightLayerApi.h"
 
 #include <algorithm>
-#include <exception>
 #include <set>
 #include <utility>
 
@@ -34,30 +34,6 @@ std::vector<nyx::GroupItemId> itemsOf(nyx::Span<nyx::ObjectId> objects) {
     }
     return items;
 }
-
-/// Runs steps that do not depend on each other to the last, and passes on what the first of them
-/// that failed has thrown.
-class FirstException {
-public:
-    template <class Step>
-    void keep(Step const& step) {
-        try {
-            step();
-        } catch (...) {
-            if (!thrown_) {
-                thrown_ = std::current_exception();
-            }
-        }
-    }
-    void pass() const {
-        if (thrown_) {
-            std::rethrow_exception(thrown_);
-        }
-    }
-
-private:
-    std::exception_ptr thrown_;
-};
 
 } // namespace
 

@@ -147,8 +147,8 @@ nyx::LightLayerId ZLightLayerApi::createLayer(std::string name) {
     std::string const unique = sceneLayers_->find_unique_name(name.c_str());
     nyx::LightLayerId const id = sceneLayers_->create_layer(unique.c_str(), nyx::LightLayerId());
     if (id.isValid()) {
-        workingLayers_.create_layer(unique.c_str(), id);
         try {
+            workingLayers_.create_layer(unique.c_str(), id);
             postUpdated(id);
         } catch (...) {
             // The caller never learns the id, so nobody could take the layer back.

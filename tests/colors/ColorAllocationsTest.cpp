@@ -1,28 +1,34 @@
 #include "colors/ControllerScene.h"
-#include "support/Allocations.h"
+#include "support/Mishaps.h"
+#include "zsg/colors/IColorLinkHandler.h"
 #include "zsg/colors/IColorLinker.h"
-
-#include <new>
 
 using namespace zsg;
 
 namespace {
 
-/// One scene per failure. When it ends it checks that all that the renderer lent came back.
 struct Studio final : ControllerScene {
     Studio() {
         queue.unsubscribe(this);
-        for (nyx::ColorwayId const id : db->colorways()) {
-            db->getColorwayParameters(id);
-        }
+        use(rim);
         edit.setDisplayName(green, "Leaf");
     }
     ~Studio() override { TearDown(); }
     void TestBody() override {}
+    IEventQueue& events() { return queue; }
 
     /// Ready to be run: making them also asks for memory, and changes the scene.
-    std::vector<std::function<void()>> operations() {
-        std::vector<std::function<void()>> all{
+    Mishaps::Operations operations() {
+        std::vector<Edit> edits{{[this] { edit.applyColorway(way); }, "", ""}};
+        for (auto const& more : {colorEdits(), colorwayEdits()}) {
+            edits.insert(edits.end(), more.begin(), more.end());
+        }
+        Mishaps::Operations all;
+        for (Edit const& step : edits) {
+            all.push_back(step.run);
+            undoLeavesNothing.push_back(step.left.empty());
+        }
+        Mishaps::Operations const others{
             [this] { stack.undo(), stack.redo(); },
             [this] { db->handleColorwayActivated(summer); },
             [this] { db->cloneRecursively(cover); },
@@ -37,57 +43,48 @@ struct Studio final : ControllerScene {
                 other.applyColorway(winter), other.pushTempColor(value);
             },
         };
-        for (auto const& edits : {colorEdits(), colorwayEdits()}) {
-            for (Edit const& step : edits) {
-                all.push_back(step.run);
-            }
+        all.insert(all.end(), others.begin(), others.end());
+        auto const ways = db->colorways();
+        for (nyx::ColorwayId const id : std::vector<nyx::ColorwayId>(ways.begin(), ways.end())) {
+            db->getColorwayParameters(id);
+            db->pushColorway(id); // without the pairs that the first reading drops
         }
+        before = renderer.dump();
         return all;
     }
 
-    using ColorScene::renderer;
-    using ControllerScene::stack;
+    void check(std::size_t operation) {
+        EXPECT_EQ(stack.macroDepth(), 0);
+        EXPECT_EQ(renderer.ledger().lockDepth, 0);
+        if (operation < undoLeavesNothing.size() && undoLeavesNothing[operation]) {
+            stack.goTo(1);
+            EXPECT_EQ(since(before), "");
+        }
+    }
+
+private:
+    ColorId const rim = multiColor("Rim", {red, blue});
+    ColorwayId const way = renderer.colorways().add("Both", {{cover, green}, {rim, blue}});
+    std::vector<bool> undoLeavesNothing;
+    std::string before;
 };
 
 } // namespace
 
-TEST(ColorAllocationsTest, WhicheverFailsNothingThatWasLentIsLost) {
-    std::size_t const count = Studio().operations().size();
-    for (std::size_t operation = 0; operation < count; ++operation) {
-        for (std::size_t number = 0; number < 2000; ++number) {
-            SCOPED_TRACE(std::to_string(operation) + ", allocation " + std::to_string(number));
-            Studio studio;
-            std::function<void()> const run = studio.operations()[operation];
-            bool happened = false;
-            try {
-                Allocations::Failure const failure(number);
-                struct Watch {
-                    ~Watch() { into = failure.hasHappened(); }
-                    Allocations::Failure const& failure;
-                    bool& into;
-                } const watch{failure, happened};
-                run();
-            } catch (std::bad_alloc const&) { // must reach the caller, and leave all in order
-            }
-            EXPECT_EQ(studio.stack.macroDepth(), 0);
-            EXPECT_EQ(studio.renderer.ledger().lockDepth, 0);
-            if (!happened) {
-                break;
-            }
-        }
-    }
-}
+// All that was lent is back, and nothing stays that no entry of the history stands for.
+TEST(ColorMishaps, WhateverGoesWrongNothingIsLost) { Mishaps::inTurn<Studio>(); }
 
 using ColorAllocationCounts = ControllerScene;
+
+std::size_t cost(auto const& action) {
+    std::size_t const before = Allocations::count();
+    action();
+    return Allocations::count() - before;
+}
 
 TEST_F(ColorAllocationCounts, DoNotGrowWithTheUndoStackNorWithTheColorways) {
     queue.unsubscribe(this);
     constexpr std::size_t edits = 100;
-    auto const cost = [&](auto const& action) {
-        std::size_t const before = Allocations::count();
-        action();
-        return Allocations::count() - before;
-    };
     db->getColorParameters(red);
     // Three copies of the edit, each with its block, the command and the event; now and then the
     // stack's own list.
@@ -125,4 +122,46 @@ TEST_F(ColorAllocationCounts, DoNotGrowWithTheUndoStackNorWithTheColorways) {
         return cost([&] { edit.linkColor(from, red); });
     };
     EXPECT_LE(linking(1000), 15 * linking(100));
+}
+
+TEST_F(ColorAllocationCounts, AreTheSameForEachSubColor) {
+    queue.unsubscribe(this);
+    struct Links final : IColorLinkHandler {
+        Resolution resolveConflict(ZColorExt const&, int, ColorId) override {
+            return Resolution::Link;
+        }
+    } handler;
+    auto const linker = db->getColorLinker(&edit, &handler);
+    auto const many = [&](unsigned count) {
+        std::vector<ColorId> subs;
+        for (unsigned i = 0; i < count; ++i) {
+            subs.push_back(color("Sub"));
+        }
+        return multiColor("Many", subs);
+    };
+    auto const clone = [&](unsigned count) {
+        ColorId const multi = many(count);
+        return cost([&] { db->cloneRecursively(multi); });
+    };
+    auto const merge = [&](unsigned count) {
+        ColorId const to = many(count);
+        ColorId const from = many(count);
+        return cost([&] { linker->mergeSubColors(to, from); });
+    };
+    auto const import = [&](unsigned count) { // all of them are linked to one colour
+        ZColorExt brought = db->colorFromId(cover);
+        brought.setId({});
+        brought.setColors(std::vector(count, ZColorExt::ZColorWithId({1, 1, 1, 1, "Green"}, {})));
+        return cost([&] { linker->importColor(brought); });
+    };
+    EXPECT_LE(clone(1000), 11 * clone(100));
+    EXPECT_LE(merge(1000), 11 * merge(100));
+    EXPECT_LE(import(1000), 11 * import(100));
+
+    auto const addOne = [&](unsigned count) {
+        ColorId const multi = many(count);
+        edit.addSubColors(multi, ids(red), -1, {});
+        return cost([&] { edit.addSubColors(multi, ids(green), -1, {}); });
+    };
+    EXPECT_LE(addOne(1000), addOne(100) + 10);
 }

@@ -38,10 +38,13 @@ namespace Allocations {
 
 std::size_t count() { return made; }
 
-Failure::Failure(std::size_t number) { failing = made + number; }
+Failure::Failure(std::size_t number, bool& happened) : happened_(happened) {
+    failing = made + number;
+}
 
-Failure::~Failure() { failing = never; }
-
-bool Failure::hasHappened() const { return made > failing; }
+Failure::~Failure() {
+    happened_ = made > failing;
+    failing = never;
+}
 
 } // namespace Allocations

@@ -10,16 +10,16 @@ namespace Allocations {
 std::size_t count();
 
 /// While it lives, the allocation number `number` (from 0) throws std::bad_alloc; those before and
-/// behind it do not.
+/// behind it do not. `happened` (borrowed) tells afterwards whether it came to that.
 class Failure {
 public:
-    explicit Failure(std::size_t number);
+    Failure(std::size_t number, bool& happened);
     ~Failure();
     Failure(Failure const&) = delete;
     Failure& operator=(Failure const&) = delete;
 
-    /// Whether it has come to that.
-    [[nodiscard]] bool hasHappened() const;
+private:
+    bool& happened_;
 };
 
 } // namespace Allocations
