@@ -1,6 +1,7 @@
 #include "painting/LayerCommands.h"
 
 #include "painting/ZPaintSurface.h"
+#include "painting/layerIndex.h"
 
 #include "zcore/splitTrailingNumber.h"
 
@@ -192,12 +193,16 @@ ZMoveLayerCommand::ZMoveLayerCommand(std::uint32_t layerId, std::uint32_t previo
       surface_(surface) {}
 
 bool ZMoveLayerCommand::undo() {
-    surface_->moveLayerInternal(layerId_, previousId_);
+    auto const origin = std::exchange(origin_, std::nullopt);
+    surface_->moveLayerInternal(layerId_,
+                                origin ? layerIdAt(surface_->layerList(), *origin) : previousId_);
     return true;
 }
 
 bool ZMoveLayerCommand::redo() {
+    origin_ = layerIndexOf(surface_->layerList(), layerId_);
     surface_->moveLayerInternal(layerId_, targetId_);
+    origin_.reset();
     return true;
 }
 

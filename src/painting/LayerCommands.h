@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 
 namespace zsg {
 
@@ -101,7 +102,7 @@ private:
 
 /// Undo puts the layer where the one now stands that was just above it (`previousId`; noLayer: at
 /// the top). After a move downwards that is one place above where it came from, unless it came from
-/// the top.
+/// the top. After a redo that threw, it goes back to where it was.
 class ZMoveLayerCommand final : public ZUndoCommand {
 public:
     ZMoveLayerCommand(std::uint32_t layerId, std::uint32_t previousId, std::uint32_t targetId,
@@ -114,6 +115,7 @@ private:
     std::uint32_t previousId_;
     std::uint32_t targetId_;
     ZPaintSurface* surface_;
+    std::optional<std::uint32_t> origin_; ///< the layer's index, from redo() until it succeeds
 };
 
 } // namespace zsg

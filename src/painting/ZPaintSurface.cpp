@@ -64,9 +64,20 @@ void ZPaintSurface::addLayer(int index) {
     unsigned int const at = index < 0 ? 0 : std::min(static_cast<unsigned int>(index), nLayers());
     auto command = std::make_unique<ZAddLayerCommand>(at, this);
     std::uint32_t const layerId = command->layerId();
-    if (!push(std::move(command))) {
-        // Refused, from inside a running command: a layer that no undo takes back must not stay.
-        setLayerDeletedInternal(layerId, true);
+    // A layer that no undo takes back must not stay: when the push is refused, from inside a
+    // running command, or fails.
+    auto const takeBack = [&] {
+        if (!layers_[layerIndexOf(layers_, layerId)].deleted) {
+            setLayerDeletedInternal(layerId, true);
+        }
+    };
+    try {
+        if (!push(std::move(command))) {
+            takeBack();
+        }
+    } catch (...) {
+        takeBack();
+        throw;
     }
 }
 
@@ -126,8 +137,9 @@ void ZPaintSurface::setEditLayer(unsigned int index) {
     if (index == editLayer_) {
         return;
     }
-    editLayer_ = index;
+    // First: when it fails, the next call tries again.
     queue(std::make_unique<ZEditLayerTask>(renderIndex(index), surface_));
+    editLayer_ = index;
 }
 
 unsigned int ZPaintSurface::addLayerInternal(unsigned int index, std::string name) {
@@ -138,11 +150,25 @@ unsigned int ZPaintSurface::addLayerInternal(unsigned int index, std::string nam
         name.clear(); // the renderer must not know a name that the model has no place for
     }
     layer.id = nextLayerId_++;
-    layers_.insert(layers_.begin() + static_cast<std::ptrdiff_t>(index), layer);
+    auto const at = static_cast<std::ptrdiff_t>(index);
+    layers_.insert(layers_.begin() + at, layer);
+    bool queued = false;
+    try {
+        queued = queue(std::make_unique<ZAddLayerTask>(renderIndex(index), layer.id, surface_,
+                                                       std::move(name)));
+    } catch (...) {
+        layers_.erase(layers_.begin() + at); // or all places are off by one in the renderer
+        throw;
+    }
     editLayer_ = index;
-    if (queue(std::make_unique<ZAddLayerTask>(renderIndex(index), layer.id, surface_,
-                                              std::move(name)))) {
-        postUpdated();
+    if (queued) {
+        try {
+            postUpdated();
+        } catch (...) {
+            // The caller never learns the id, so nobody could take the layer back.
+            setLayerDeletedInternal(layer.id, true);
+            throw;
+        }
     }
     return layer.id;
 }
@@ -219,6 +245,9 @@ void ZPaintSurface::moveLayerInternal(unsigned int id, unsigned int targetId) {
     auto const at = [this](unsigned int index) {
         return layers_.begin() + static_cast<std::ptrdiff_t>(index);
     };
+    // First: when it fails, nothing has moved.
+    bool const queued =
+        queue(std::make_unique<ZMoveLayerTask>(renderIndex(from), renderIndex(to), surface_));
     nyxLayerInfo const moved = layers_[from];
     if (from < to) {
         std::move(at(from + 1), at(to + 1), at(from));
@@ -226,7 +255,10 @@ void ZPaintSurface::moveLayerInternal(unsigned int id, unsigned int targetId) {
         std::move_backward(at(to), at(from), at(from + 1));
     }
     layers_[to] = moved;
-    changed(std::make_unique<ZMoveLayerTask>(renderIndex(from), renderIndex(to), surface_));
+    if (queued) {
+        refresh();
+        postUpdated();
+    }
 }
 
 void ZPaintSurface::setupLayersAfterClone(std::vector<nyxLayerInfo> const& source) {

@@ -95,8 +95,11 @@ void RenderTaskQueue::addBlockingRenderTask(ZTask* task) {
     if (task == nullptr) {
         return;
     }
+    // The queue's own from here on, also when there is no room for it.
+    std::unique_ptr<ZTask> owned(task->deleteOnDone() ? task : nullptr);
     std::lock_guard const lock(impl_->mutex);
     impl_->tasks.push_back(task);
+    static_cast<void>(owned.release());
     impl_->changed.notify_all();
 }
 
