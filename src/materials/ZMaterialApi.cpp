@@ -17,6 +17,22 @@ namespace {
 
 std::string textOf(char const* text) { return text ? text : std::string(); }
 
+std::map<std::string, std::string> cmfValuesOf(nyxMaterial const& material) {
+    std::map<std::string, std::string> values;
+    nyx_material_cmf_values(material, [&values](char const* key, char const* value) {
+        values.insert_or_assign(textOf(key), textOf(value));
+    });
+    return values;
+}
+
+/// In place of all that the material had.
+void setCMFValues(nyxMaterial& material, std::map<std::string, std::string> const& values) {
+    nyx_material_clear_cmf_values(material);
+    for (auto const& [key, value] : values) {
+        nyx_material_set_cmf_value(material, key.c_str(), value.c_str());
+    }
+}
+
 } // namespace
 
 ZMaterialApi::ZMaterialApi(nyxRT_api* rtApi) : rtApi_(rtApi) {}
@@ -35,10 +51,7 @@ std::unique_ptr<IMaterialDescriptor> ZMaterialApi::descriptor(MaterialId id) con
     nyx::Span<unsigned> const items = nyx_material_items(*found);
     auto made = std::make_unique<ZMaterialDescriptor>(
         id, std::vector<unsigned>(items.begin(), items.end()));
-    std::map<std::string, std::string>& values = made->values();
-    nyx_material_cmf_values(*found, [&values](char const* key, char const* value) {
-        values.insert_or_assign(textOf(key), textOf(value));
-    });
+    made->values() = cmfValuesOf(*found);
     bool readable = true;
     made->setMetadata(metadataFromText(textOf(nyx_material_metadata(*found)), readable));
     if (!readable) {
@@ -66,12 +79,15 @@ bool ZMaterialApi::applyDescriptor(IMaterialDescriptor const& descriptor) {
         metadata ==
         metadataToText(metadataFromText(textOf(nyx_material_metadata(*found)), readable));
 
-    nyx_material_clear_cmf_values(*found);
-    for (auto const& [key, value] : descriptor.values()) {
-        nyx_material_set_cmf_value(*found, key.c_str(), value.c_str());
-    }
-    if (!sameMetadata) {
-        nyx_material_set_metadata(*found, metadata.c_str());
+    std::map<std::string, std::string> const before = cmfValuesOf(*found);
+    try {
+        setCMFValues(*found, descriptor.values());
+        if (!sameMetadata) {
+            nyx_material_set_metadata(*found, metadata.c_str());
+        }
+    } catch (...) {
+        setCMFValues(*found, before); // memory ran out: half a description is none
+        throw;
     }
     return true;
 }

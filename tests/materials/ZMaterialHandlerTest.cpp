@@ -2,10 +2,13 @@
 
 #include "materials/ZMaterialApi.h"
 #include "support/EventTrace.h"
+#include "support/Mishaps.h"
 #include "support/TestScene.h"
 #include "zsg/core/ISceneGraph.h"
+#include "zsg/materials/ICMFManager.h"
 #include "zsg/materials/IMaterialDescriptor.h"
 #include "zsg/materials/IMaterialService.h"
+#include "zsg/materials/ZCMFSchema.h"
 
 #include "nyxrender/nyx_material.h"
 
@@ -102,6 +105,7 @@ TEST_F(ZMaterialHandlerTest, appliesByReplacingAllValuesInKeyOrderAndAnnouncesIt
     EXPECT_TRUE(handler->applyDescriptor(*descriptor));
     EXPECT_EQ(takeJournal(), "nyx_material_from_id 1\n"
                              "nyx_material_metadata 1\n"
+                             "nyx_material_cmf_values 1\n"
                              "nyx_material_clear_cmf_values 1\n"
                              "nyx_material_set_cmf_value 1 \"A\" \"\"\n"
                              "nyx_material_set_cmf_value 1 \"CMF::TEXT::NAME\" \"Bouclé\"\n"
@@ -165,3 +169,43 @@ TEST_F(ZMaterialHandlerTest, passesAssignmentsOn) {
     EXPECT_TRUE(without.applyDescriptor(*handler->descriptor(made.fabric)));
     EXPECT_EQ(trace->take(), "") << "without a root nobody is told";
 }
+
+namespace {
+
+struct Studio final : ZMaterialHandlerTest {
+    // Texts as metadata: to end a list or an object the JSON library needs memory, and has to have
+    // it.
+    Studio() {
+        trace.reset();
+        setStoredMetadata(R"("old")");
+        before = said(*handler->descriptor(made.fabric));
+    }
+    void TestBody() override {}
+    IEventQueue& events() { return *root->eventQueue(); }
+
+    Mishaps::Operations operations() {
+        change = handler->descriptor(made.fabric);
+        change->setValue(4, "Somebody else with a long name");
+        change->setMetadata("a text that is longer than what fits in place");
+        return {
+            [&] { handler->applyDescriptor(*change); },
+            [&] {
+                root->cmfManager()->setSchema({"Seats", {}});
+            },
+            [&] { handler->materialName(made.fabric); },
+        };
+    }
+    static json said(IMaterialDescriptor const& d) { return {d.values(), d.metadata()}; }
+    void check(std::size_t) {
+        json const now = said(*handler->descriptor(made.fabric));
+        EXPECT_TRUE(now == before || now == said(*change)) << now;
+    }
+
+    json before;
+    std::unique_ptr<IMaterialDescriptor> change;
+};
+
+} // namespace
+
+// A description is the old one or the new one.
+TEST(MaterialMishaps, whateverGoesWrongNothingIsLost) { Mishaps::inTurn<Studio>(); }
