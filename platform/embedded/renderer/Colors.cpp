@@ -32,7 +32,7 @@ std::vector<nyx::ColorId> Colors::ids() const {
 }
 
 nyx::ColorId Colors::find(std::string const& name) const {
-    nyx::Span<nyx::ColorId> const holders = scene_.colorsNamed(name);
+    std::vector<nyx::ColorId> const holders = scene_.colorsNamed(name);
     return holders.empty() ? nyx::ColorId() : holders[0];
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <initializer_list>
 #include <system_error>
 
 namespace nyx::embedded {
@@ -55,9 +56,19 @@ void NameIndex::add(std::string const& name, nyx::ColorId id) {
     if (name.empty()) {
         return;
     }
-    std::vector<nyx::ColorId>& ids = holders_[name];
-    ids.insert(std::upper_bound(ids.begin(), ids.end(), id), id);
-    if (Split const parts = split(name); ids.size() == 1 && parts.number != 0) {
+    auto const [entry, isNew] = holders_.try_emplace(name);
+    Holders& holders = entry->second;
+    if (!isNew) {
+        if (holders.all) {
+            holders.all->insert(id);
+        } else {
+            holders.all =
+                std::make_unique<std::set<nyx::ColorId>>(std::initializer_list{holders.only, id});
+        }
+        return;
+    }
+    holders.only = id;
+    if (Split const parts = split(name); parts.number != 0) {
         take(numbers_[std::string(parts.base)], parts.number);
     }
 }
@@ -67,13 +78,13 @@ void NameIndex::remove(std::string const& name, nyx::ColorId id) {
     if (entry == holders_.end()) {
         return;
     }
-    std::vector<nyx::ColorId>& ids = entry->second;
-    auto const place = std::lower_bound(ids.begin(), ids.end(), id);
-    if (place == ids.end() || *place != id) {
-        return;
-    }
-    ids.erase(place);
-    if (!ids.empty()) {
+    Holders& holders = entry->second;
+    if (holders.all) {
+        holders.all->erase(id);
+        if (!holders.all->empty()) {
+            return;
+        }
+    } else if (holders.only != id) {
         return;
     }
     if (Split const parts = split(name); parts.number != 0) {
@@ -86,9 +97,25 @@ void NameIndex::remove(std::string const& name, nyx::ColorId id) {
     holders_.erase(entry);
 }
 
-nyx::Span<nyx::ColorId> NameIndex::holders(std::string const& name) const {
+std::vector<nyx::ColorId> NameIndex::holders(std::string const& name) const {
     auto const entry = holders_.find(name);
-    return entry == holders_.end() ? nyx::Span<nyx::ColorId>() : entry->second;
+    if (entry == holders_.end()) {
+        return {};
+    }
+    auto const& all = entry->second.all;
+    return all ? std::vector<nyx::ColorId>(all->begin(), all->end())
+               : std::vector<nyx::ColorId>{entry->second.only};
+}
+
+bool NameIndex::isHeldOnlyBy(std::string const& name,
+                             std::vector<nyx::ColorId> const& sorted) const {
+    auto const entry = holders_.find(name);
+    if (entry == holders_.end()) {
+        return true;
+    }
+    auto const& all = entry->second.all;
+    return all ? std::includes(sorted.begin(), sorted.end(), all->begin(), all->end())
+               : std::binary_search(sorted.begin(), sorted.end(), entry->second.only);
 }
 
 std::string NameIndex::unique(std::string const& name, nyx::Span<nyx::ColorId> ignored,
@@ -96,8 +123,7 @@ std::string NameIndex::unique(std::string const& name, nyx::Span<nyx::ColorId> i
     std::vector<nyx::ColorId> dontCount(ignored.begin(), ignored.end());
     std::sort(dontCount.begin(), dontCount.end());
     auto const isFree = [&](std::string const& candidate) {
-        nyx::Span<nyx::ColorId> const ids = holders(candidate);
-        return std::includes(dontCount.begin(), dontCount.end(), ids.begin(), ids.end());
+        return isHeldOnlyBy(candidate, dontCount);
     };
     if (isFree(name)) {
         return name;

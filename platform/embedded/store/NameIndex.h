@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -14,14 +16,15 @@
 namespace nyx::embedded {
 
 /// Which colours have which name, and which numbered forms of a name are taken. Pure bookkeeping:
-/// the scene says who takes and drops a name. Nothing here grows with the number of names.
+/// the scene says who takes and drops a name. Taking and dropping do not grow with the number of
+/// names, nor but for a logarithm with that of the holders of one.
 class NameIndex {
 public:
     /// The empty name is ignored.
     void add(std::string const& name, nyx::ColorId id);
     void remove(std::string const& name, nyx::ColorId id);
     /// Ascending.
-    [[nodiscard]] nyx::Span<nyx::ColorId> holders(std::string const& name) const;
+    [[nodiscard]] std::vector<nyx::ColorId> holders(std::string const& name) const;
 
     /// `name` when it is empty or held by nobody but `ignored`. Otherwise a trailing blank and
     /// number are split off and the smallest free " 1", " 2", … is put on. `nameOf` tells the names
@@ -45,8 +48,17 @@ private:
     using Runs = std::map<std::uint32_t, std::uint32_t>;
     static void take(Runs& runs, std::uint32_t number);
     static void drop(Runs& runs, std::uint32_t number);
+    /// True for a name that nobody has.
+    [[nodiscard]] bool isHeldOnlyBy(std::string const& name,
+                                    std::vector<nyx::ColorId> const& sorted) const;
 
-    std::unordered_map<std::string, std::vector<nyx::ColorId>> holders_;
+    /// Most names have one holder, so there is no set before the second comes.
+    struct Holders {
+        nyx::ColorId only;                           ///< valid while there is no set
+        std::unique_ptr<std::set<nyx::ColorId>> all; ///< two at first, not empty
+    };
+
+    std::unordered_map<std::string, Holders> holders_;
     std::unordered_map<std::string, Runs> numbers_;
 };
 

@@ -217,7 +217,7 @@ nyx::Span<nyx::ColorId> nyxScene::namedColors() {
     return contents_.namedColors.ids();
 }
 
-nyx::Span<nyx::ColorId> nyxScene::colorsNamed(std::string const& name) {
+std::vector<nyx::ColorId> nyxScene::colorsNamed(std::string const& name) {
     noticeLentFlags();
     return contents_.names.holders(name);
 }

@@ -84,7 +84,7 @@ public:
     [[nodiscard]] nyx::Span<nyx::ColorId> multiColors();
     [[nodiscard]] nyx::Span<nyx::ColorId> namedColors();
     /// Colours of a name, plain and multi, ascending.
-    [[nodiscard]] nyx::Span<nyx::ColorId> colorsNamed(std::string const& name);
+    [[nodiscard]] std::vector<nyx::ColorId> colorsNamed(std::string const& name);
     /// `name` itself when it is empty or free, else the first free numbered form of it.
     [[nodiscard]] std::string uniqueColorName(std::string const& name,
                                               nyx::Span<nyx::ColorId> ignored);
