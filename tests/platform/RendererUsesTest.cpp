@@ -38,28 +38,6 @@ protected:
 
 } // namespace
 
-TEST_F(RendererUses, PlacesCountDirectlyAndThroughEveryMultiColorThatListsAColor) {
-    SmallScene const made = addSmallScene();
-    EXPECT_EQ(count(made.red), 2u) << "its own place and cover's";
-    EXPECT_EQ(count(made.green), 1u) << "cover's, though another is active";
-    EXPECT_THAT(users(made.red, 3), ElementsAre(made.fabric)) << "once, by both ways";
-    EXPECT_THAT(users(made.green, 1), IsEmpty());
-    EXPECT_THAT(users(made.blue, 1, false), IsEmpty()) << "no object uses frame";
-
-    setSubColors(made.cover, {made.blue, made.blue, made.cover});
-    EXPECT_EQ(count(made.blue), 2u) << "listed twice counts once";
-    EXPECT_EQ(count(made.cover), 1u) << "listing itself adds nothing";
-    EXPECT_THAT(users(made.blue, 3), ElementsAre(made.fabric, made.frame));
-    ColorId const outer = renderer.colors().addMulti("Outer", {made.cover}, made.cover);
-    renderer.materials().bindColor(made.frame, 5, "rim", outer);
-    EXPECT_EQ(count(made.cover), 2u);
-    EXPECT_EQ(count(made.blue), 2u) << "one level only";
-    setSubColors(made.cover, {made.blue}, 0);
-    EXPECT_EQ(count(made.blue), 1u) << "without flag 1 a list means nothing";
-    renderer.colors().remove(made.cover);
-    EXPECT_EQ(count(made.cover), 0u) << "the place still names it, but it is gone";
-}
-
 TEST_F(RendererUses, WithoutASceneEverythingAnswersNothing) {
     renderer.faults().noScene = true;
     nyxScene* const none = api()->scene();
