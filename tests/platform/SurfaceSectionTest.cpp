@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
 #include <string>
 
 namespace {
@@ -36,6 +37,14 @@ TEST(SurfaceSection, SurfacesComeBackWithEveryTexel) {
     EXPECT_EQ(again.saveSceneText(), renderer.saveSceneText());
     EXPECT_TRUE(*again.painting().pixels(seat, 9) == *painting.pixels(seat, 9));
     EXPECT_EQ(again.painting().composite(seat).rgba, painting.composite(seat).rgba);
+
+    for (auto const& [column, row, texel] : {std::array{1, 0, 36}, {0, 1, 36 * 64}, {1, 1, 4095}}) {
+        LayerPixels beyond(100);
+        beyond.writableTile(column, row).planes[PixelTile::alpha][texel] = 9;
+        painting.setPixels(seat, 4, beyond);
+        EXPECT_THAT(again.loadSceneText(renderer.saveSceneText()),
+                    HasSubstr("/tiles/0/2: a texel is painted beyond the edge"));
+    }
 }
 
 TEST(SurfaceSection, WrongOnesAreRefusedWithThePlace) {

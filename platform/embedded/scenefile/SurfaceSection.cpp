@@ -75,7 +75,19 @@ bool readFlag(JsonNode const& node, std::string_view name) {
     return flag && flag->boolean();
 }
 
-TileHandle readTile(JsonNode const& node) {
+/// Whether anything is painted right of `columns` or below `rows`.
+bool isPaintedBeyond(PixelTile const& tile, int columns, int rows) {
+    for (int i = 0; i < PixelTile::texels; ++i) {
+        bool const isBeyond = i % PixelTile::edge >= columns || i / PixelTile::edge >= rows;
+        if (isBeyond && tile.planes[PixelTile::alpha][i] != 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// A tile of which so many columns and rows belong to the layer.
+TileHandle readTile(JsonNode const& node, int columns, int rows) {
     std::string const& text = node.string();
     auto const bytes = QByteArray::fromBase64Encoding(
         QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size())),
@@ -97,6 +109,9 @@ TileHandle readTile(JsonNode const& node) {
             node.fail("a colour is above its alpha");
         }
     }
+    if (isPaintedBeyond(tile, columns, rows)) {
+        node.fail("a texel is painted beyond the edge of the layer");
+    }
     return TileHandle(tile);
 }
 
@@ -110,7 +125,10 @@ LayerPixels readPixels(JsonNode const& layer, int resolution) {
             auto const last = static_cast<std::uint32_t>(pixels.tilesAcross()) - 1;
             int const column = static_cast<int>(node.element(0).word(0, last));
             int const row = static_cast<int>(node.element(1).word(0, last));
-            pixels.setTile(column, row, readTile(node.element(2)));
+            int const across = pixels.resolution();
+            pixels.setTile(column, row,
+                           readTile(node.element(2), across - column * PixelTile::edge,
+                                    across - row * PixelTile::edge));
         });
     }
     return pixels;
