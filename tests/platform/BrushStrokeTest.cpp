@@ -154,22 +154,16 @@ TEST(BrushStroke, JittersAreTheSeedsAndOnlyEverLessen) {
     brush.sizePixels.jitter = 0;
     brush.flow.jitter = 0;
     LayerPixels const full = paint();
-    for (int i = 0; i < 128 * 128; ++i) {
-        ASSERT_LE(first.texel(i % 128, i / 128)[3], full.texel(i % 128, i / 128)[3] + 1);
+    for (int x = 0; x < 128; ++x) {
+        ASSERT_LE(first.texel(x, 64)[3], full.texel(x, 64)[3] + 1);
     }
 }
 
 TEST(BrushStroke, OddNumbersEndWell) {
-    float const odd[] = {0,
-                         -5,
-                         1e-30f,
-                         1e30f,
-                         3e38f,
-                         std::numeric_limits<float>::infinity(),
-                         -std::numeric_limits<float>::infinity(),
-                         std::numeric_limits<float>::quiet_NaN()};
+    constexpr float inf = std::numeric_limits<float>::infinity();
+    constexpr float nan = std::numeric_limits<float>::quiet_NaN();
     LayerPixels pixels(70);
-    for (float const value : odd) {
+    for (float const value : {0.0f, -5.0f, 1e-30f, 1e30f, 3e38f, inf, -inf, nan}) {
         for (float BrushSettings::*const member :
              {&BrushSettings::spacingPercent, &BrushSettings::hardness, &BrushSettings::opacity,
               &BrushSettings::rotation, &BrushSettings::rotationJitter}) {
