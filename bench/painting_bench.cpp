@@ -1,4 +1,5 @@
-// Painting: a rename (row 4e), the growth of layer edits, and tasks for the render thread.
+// Painting: a rename (row 4e), the growth of layer edits and of surfaces, and tasks for the render
+// thread.
 
 #include "Rows.h"
 
@@ -207,6 +208,53 @@ void growth(std::size_t size, std::string const& layers) {
     });
 }
 
+/// One edit of one surface, found by its id, whatever others there are.
+void amongOthers() {
+    std::string const edit = "show or hide a layer, ";
+    std::string const alone = edit + "no other surface";
+    auto const row = [](std::string const& workload, int others) {
+        bench::contestant("P6", workload, bench::ours, [others](benchmark::State& state) {
+            Easel e(3);
+            for (int i = 0; i < others; ++i) {
+                e.painter.createSurface(64);
+            }
+            nyx::SurfaceId const id = e.surface->id();
+            bool visible = false;
+            for (auto _ : state) {
+                e.painter.surface(id)->setLayerVisibility(1, visible);
+                visible = !visible;
+                e.drain();
+            }
+        });
+    };
+    row(alone, 0);
+    row(edit + "10,000 other surfaces", 10'000);
+    bench::target({"P6", edit + "10,000 other surfaces", bench::ours, 1.15, alone});
+}
+
+/// What a renderer made is taken up; nothing of it is known yet.
+void reload() {
+    std::string const workload = "reload of 10,000 surfaces";
+    bench::contestant("P7", workload, bench::ours,
+                      [](benchmark::State& state) {
+                          for (auto _ : state) {
+                              state.PauseTiming();
+                              auto host = std::make_unique<nyx::embedded::Host>(
+                                  RenderTaskQueue::Mode::Manual);
+                              for (int i = 0; i < 10'000; ++i) {
+                                  host->renderer().addSurface("", 64);
+                              }
+                              state.ResumeTiming();
+                              host->root().painterManager()->painter()->reload();
+                              state.PauseTiming();
+                              host.reset();
+                              state.ResumeTiming();
+                          }
+                      })
+        ->Iterations(3)
+        ->Unit(benchmark::kMillisecond);
+}
+
 /// The least that a queue with a thread needs.
 class PlainQueue {
 public:
@@ -301,6 +349,8 @@ void tasks() {
     growth(100, "100 layers");
     growth(1000, "1,000 layers");
     growth(10'000, "10,000 layers");
+    amongOthers();
+    reload();
     tasks();
     return true;
 }();
