@@ -137,9 +137,12 @@ private:
 Image composite(std::vector<CompositeLayer> const& layers, int resolution) {
     Image image{resolution, resolution, {}};
     auto const size = static_cast<std::size_t>(resolution);
-    image.rgba.resize(size * size * 4);
+    image.rgba.reserve(size * size * 4);
     TileStack stack(layers);
     for (int top = 0; top < resolution; top += edge) {
+        // A row of tiles at a time, so that it is still in the cache when they are copied there.
+        auto const bottom = static_cast<std::size_t>(std::min(top + edge, resolution));
+        image.rgba.resize(bottom * size * 4);
         for (int left = 0; left < resolution; left += edge) {
             if (PixelTile const* const tile = stack.composite(left / edge, top / edge)) {
                 copyOut(*tile, image, left, top);
