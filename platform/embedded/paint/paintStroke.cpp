@@ -1,5 +1,6 @@
 #include "paint/paintStroke.h"
 
+#include "paint/strokeLimits.h"
 #include "paint/toByte.h"
 
 #include <algorithm>
@@ -9,11 +10,6 @@ namespace nyx::embedded {
 
 namespace {
 
-/// More dabs than any hand makes; keeps a line to somewhere far off from taking hours.
-constexpr std::size_t mostDabs = 1'000'000;
-
-/// No surface has texels so far off, and sums of such numbers keep their parts of a texel.
-constexpr float farthest = 1e6f;
 constexpr float largestRadius = 1e5f;
 
 bool isNumber(Stroke::Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }

@@ -1,5 +1,7 @@
 #include "paint/strokeDabs.h"
 
+#include "paint/strokeLimits.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -9,10 +11,8 @@ namespace nyx::embedded {
 
 namespace {
 
-constexpr std::size_t mostDabs = 1'000'000;
 constexpr float largestDab = 4096;
 constexpr float smallestStep = 0.25f;
-constexpr float farthest = 1'000'000; ///< a point beyond is as good as one there
 
 /// Not a number counts as 0.
 float clamped(float value, float low, float high) {
