@@ -17,19 +17,10 @@ protected:
     void restart() {
         brush = createBrush(api(), 20, {});
         brush->updateFromNode();
-        setChoice("basic_space", 1);
+        select("basic_space", 1);
         set("basic_size_px_value", 20.0f);
         set("color_color", ZColorExt(1, 0, 0));
         brush->applyToNode();
-    }
-    template <class T>
-    void set(char const* name, T const& value) {
-        ASSERT_TRUE(parameter(name).setValue(value)) << name;
-    }
-    void setChoice(char const* name, int id) {
-        Enumerable choice = *parameter(name).value<Enumerable>();
-        choice.setSelection(id);
-        parameter(name).setValue(choice);
     }
     void setFile(char const* name, char const* file) {
         set(name, QString::fromStdString(sourceDir() + "/examples/brushes/" + file));
@@ -56,7 +47,7 @@ TEST_F(BrushPicture, ChangesWithEveryParameterOnceItIsApplied) {
     };
     auto const yes = [this](char const* name) { return [this, name] { set(name, true); }; };
     Action const none = [] {};
-    Action const worldSpace = [this] { setChoice("basic_space", 0); };
+    Action const worldSpace = [this] { select("basic_space", 0); };
     Action const fixedSpacing = [this] { set("basic_adaptive_spacing", false); };
     Action const worldSpacing = [&] {
         worldSpace();
@@ -79,7 +70,7 @@ TEST_F(BrushPicture, ChangesWithEveryParameterOnceItIsApplied) {
         {"spacing in pixels", fixedSpacing, number("basic_spacing_px", 30)},
         {"spacing in units", worldSpacing, number("basic_spacing_world", 3)},
         {"adaptive spacing", none, fixedSpacing},
-        {"mode", none, [this] { setChoice("basic_mode", 1); }},
+        {"mode", none, [this] { select("basic_mode", 1); }},
         {"hardness", none, number("basic_hardness_percent", 10)},
         {"opacity", none, number("basic_opacity_percent", 50)},
         {"flow", none, weak},

@@ -62,6 +62,12 @@ protected:
     [[nodiscard]] zsg::Parameter parameter(char const* name) const {
         return brush->parameter(QString::fromLatin1(name));
     }
+    void set(char const* name, auto const& value) { parameter(name).setValue(value); }
+    void select(char const* name, int id) {
+        zsg::Enumerable choice = *parameter(name).value<zsg::Enumerable>();
+        choice.setSelection(id);
+        set(name, choice);
+    }
     /// The value of a record of the graph, which must have it.
     Value& node(char const* key) {
         return zsg::BrushNodeIndex(brush->brushNode()).find(key)->value;

@@ -1,3 +1,5 @@
+#include "nyxrender/nyxCustomSurface.h"
+#include "nyxrender/nyxPainter.h"
 #include "painting/PaintModel.h"
 #include "painting/PaintScene.h"
 #include "ztask/ZTask.h"
@@ -13,23 +15,14 @@ using nyx::embedded::LayerPixels;
 
 namespace {
 
-std::string text(IPainterSurface& surface) {
+template <class Records>
+std::string text(Records const& layers, unsigned edit) {
     PaintModel shown;
-    shown.edit = surface.editLayer();
-    for (nyxLayerInfo const& l : surface.layers()) {
+    shown.edit = edit;
+    for (nyxLayerInfo const& l : layers) {
         shown.layers.push_back({l.id, l.name ? l.name : "", static_cast<int>(l.blend_mode),
                                 l.deleted, l.visible, l.background.r});
     }
-    return shown.text();
-}
-
-std::string text(nyx::embedded::SurfaceInfo const& surface) {
-    PaintModel shown;
-    for (auto const& l : surface.layers) {
-        shown.layers.insert(shown.layers.begin(), {l.id, l.name, static_cast<int>(l.mode),
-                                                   l.deleted, l.visible, l.background.r});
-    }
-    shown.edit = static_cast<unsigned>(surface.layers.size()) - 1 - surface.editLayer;
     return shown.text();
 }
 
@@ -83,11 +76,6 @@ TEST_F(PaintRandomEditTest, modelRendererAndPixelsAgreeWithAPlainModel) {
         unsigned const id = 1 + below(3);
         PaintModel& m = models[id];
         IPainterSurface& s = surface(nyx::SurfaceId(id));
-        if (step == 0) {
-            for (auto& [key, model] : models) {
-                surface(nyx::SurfaceId(key)).setEditLayer(0);
-            }
-        }
         auto const n = static_cast<unsigned>(m.layers.size());
         unsigned const i = below(n);
         unsigned const layer = m.layers[i].id;
@@ -100,7 +88,7 @@ TEST_F(PaintRandomEditTest, modelRendererAndPixelsAgreeWithAPlainModel) {
             s.addLayer(static_cast<int>(at));
             int largest = 0;
             for (auto const& l : m.layers) {
-                if (l.name.rfind("Layer ", 0) == 0) {
+                if (l.name.starts_with("Layer ")) {
                     largest = std::max(largest, std::stoi(l.name.substr(6)));
                 }
             }
@@ -210,13 +198,17 @@ TEST_F(PaintRandomEditTest, modelRendererAndPixelsAgreeWithAPlainModel) {
                 queue.step();
             }
         }
-        ASSERT_EQ(text(s), m.text()) << "step " << step;
+        ASSERT_EQ(text(s.layers(), s.editLayer()), m.text()) << "step " << step;
         ASSERT_EQ(undo.index(), static_cast<int>(done)) << "step " << step;
         if (step % 100 == 99) {
             queue.waitIdle();
             for (auto const& [key, model] : models) {
                 nyx::SurfaceId const sid(key);
-                ASSERT_EQ(text(renderer.painting().surface(sid).value()), model.text()) << step;
+                auto layers = painter().painter()->surface(sid)->layers();
+                auto const edit = static_cast<unsigned>(layers.size()) - 1 -
+                                  renderer.painting().surface(sid)->editLayer;
+                std::reverse(layers.begin(), layers.end());
+                ASSERT_EQ(text(layers, edit), model.text()) << step;
                 for (auto const& l : model.layers) {
                     ASSERT_TRUE(renderer.painting().pixels(sid, l.id) == l.pixels) << step;
                 }

@@ -68,7 +68,7 @@ void PaintScene::onEvent(zsg::Event const* event) {
     auto const& updated = dynamic_cast<zsg::PaintLayersUpdatedEvent const&>(*event);
     lines_ += "event " + std::to_string(updated.surfaceId().toUint()) + '\n';
     if (onPainted) {
-        onPainted();
+        std::exchange(onPainted, nullptr)();
     }
 }
 

@@ -44,7 +44,7 @@ protected:
     bool withUndoStack = true;
     nyx::embedded::RenderTaskQueue queue{nyx::embedded::RenderTaskQueue::Mode::Manual};
     ZUndoStack undo;
-    std::function<void()> onPainted; ///< called by every PaintLayersUpdatedEvent
+    std::function<void()> onPainted; ///< called once, by the next PaintLayersUpdatedEvent
 
 private:
     void addBlockingRenderTask(ZTask* task) override;

@@ -4,6 +4,7 @@
 #include "nyxrender/nyxPainter.h"
 #include "painting/PaintScene.h"
 #include "painting/ZPainterManager.h"
+#include "zsg/painting/IPainterBrush.h"
 
 #include <gtest/gtest.h>
 
@@ -86,6 +87,61 @@ TEST_F(ZPainterTest, copiesTheStructureOfLayers) {
     EXPECT_EQ(list(surface(painter().createSurface(64, nyx::SurfaceId(77)))), "*");
 }
 
+// What a scene that was replaced had stays known, and can be edited, but paints nothing.
+TEST_F(ZPainterTest, keepsSurfacesThatTheRendererNoLongerHas) {
+    nyx::SurfaceId const id = addSurface({"A"});
+    IPainterSurface& gone = surface(id);
+    ASSERT_EQ(renderer.loadSceneText(R"({"format": "zsg-scene", "version": 1, "surfaces":
+                                         [{"id": 5, "resolution": 8, "layers": []}]})"),
+              "");
+    painter().reload();
+    EXPECT_EQ(known(), "1 5");
+    EXPECT_EQ(painter().surface(id), &gone);
+    gone.addLayer(0);
+    gone.setLayerVisibility(1, false);
+    undo.undo();
+    queue.waitIdle();
+    EXPECT_EQ(list(gone), "*Layer 1 A");
+    EXPECT_FALSE(renderer.painting().surface(id));
+    EXPECT_FALSE(painter().changeResolution(id, 32));
+    EXPECT_EQ(list(surface(painter().createSurface(64, id))), "*Layer 1 A") << "still a source";
+}
+
+// A painter that makes its surfaces otherwise is asked for copies too.
+TEST_F(ZPainterTest, makesCopiesByItsVirtualOperation) {
+    struct Doubling : ZPainter {
+        using ZPainter::createSurface;
+        using ZPainter::ZPainter;
+        nyx::SurfaceId createSurface(int resolution) override {
+            return ZPainter::createSurface(2 * resolution);
+        }
+    };
+    nyx::SurfaceId const id = addSurface({"A", "B"});
+    nyxPainter_factory& factory = *nyx_painter_factory(scene());
+    Doubling doubling(factory.create("svdag_painter"), api(), nullptr, nullptr, nullptr);
+    IPainter& asInterface = doubling;
+    nyx::SurfaceId const copy = asInterface.createSurface(16, id);
+    EXPECT_EQ(renderer.painting().surface(copy)->resolution, 32);
+    EXPECT_EQ(asInterface.surface(copy)->layers().size(), 2u);
+}
+
+TEST_F(ZPainterTest, handsOutBrushes) {
+    IPainterManager& manager = *root().painterManager();
+    auto const made = manager.createBrush(20, nyx::MaterialId(7));
+    ASSERT_NE(made->brushNode(), nullptr);
+    EXPECT_EQ(made->materialId(), nyx::MaterialId(7));
+    EXPECT_EQ(made->parameter("basic_size_world_value").value<float>(), 1.0f);
+    made->parameter("basic_rotation").setValue(30.0f);
+    made->parameter("basic_hardness_percent").setValue(10.0f);
+    made->applyToNode();
+    auto const loaded = manager.loadBrush(made->brushNode(), nyx::MaterialId(8));
+    EXPECT_EQ(loaded->brushNode(), made->brushNode());
+    EXPECT_EQ(loaded->materialId(), nyx::MaterialId(8));
+    EXPECT_EQ(loaded->rotation(), 30.0f) << "of the nodes, which both share";
+    EXPECT_EQ(loaded->parameter("basic_hardness_percent").value<float>(), 60.0f) << "not read";
+    EXPECT_EQ(manager.loadBrush(nullptr, {})->brushNode(), nullptr);
+}
+
 TEST_F(ZPainterTest, releasesItsPainterTwiceAndHitsNoOther) {
     std::string const released = trace([&] {
         root();
@@ -123,6 +179,7 @@ TEST_F(ZPainterTest, livesWithRendererFaults) {
     renderer.faults().noPainter = false;
     renderer.faults().noScene = true;
     EXPECT_EQ(painter().painter(), nullptr);
+    EXPECT_EQ(root().painterManager()->createBrush(20, {})->brushNode(), nullptr);
     endRoot();
     renderer.faults().noScene = false;
 
