@@ -25,7 +25,6 @@ TEST_F(RendererMaterials, MaterialFunctionsReadAndWriteTheRecord) {
     EXPECT_EQ(nyx_material_from_id(nullptr, made.fabric), nullptr);
     EXPECT_EQ(nyx_material_from_id(scene(), nyx::MaterialId(99)), nullptr);
     nyxMaterial* const fabric = nyx_material_from_id(scene(), made.fabric);
-    EXPECT_STREQ(nyx_material_name(*fabric), "Fabric");
     nyx_material_set_cmf_value(*fabric, "supplier", "Mill");
     nyx_material_set_cmf_value(*fabric, "code", nullptr);
     nyx_material_set_cmf_value(*fabric, nullptr, "ignored");
@@ -36,8 +35,6 @@ TEST_F(RendererMaterials, MaterialFunctionsReadAndWriteTheRecord) {
     });
     EXPECT_EQ(values, "code=;supplier=Mill;");
     nyx_material_cmf_values(*fabric, [](char const* key, char const*) { ADD_FAILURE() << key; });
-    nyx_material_set_metadata(*fabric, "{\"a\":1}");
-    EXPECT_STREQ(nyx_material_metadata(*fabric), "{\"a\":1}");
     EXPECT_TRUE(renderer.materials().setItems(made.fabric, {4, 2}));
     EXPECT_THAT(nyx_material_items(*fabric), ElementsAre(4u, 2u));
 }

@@ -35,6 +35,8 @@ TEST(SurfaceSection, SurfacesComeBackWithEveryTexel) {
     Renderer again;
     ASSERT_EQ(again.loadSceneText(renderer.saveSceneText()), "");
     EXPECT_EQ(again.saveSceneText(), renderer.saveSceneText());
+    EXPECT_THAT(again.saveSceneText(),
+                HasSubstr("\"name\": \"Größe\", \"blend\": 2, \"hidden\": true"));
     EXPECT_TRUE(*again.painting().pixels(seat, 9) == *painting.pixels(seat, 9));
     EXPECT_EQ(again.painting().composite(seat).rgba, painting.composite(seat).rgba);
 
