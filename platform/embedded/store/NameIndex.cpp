@@ -62,8 +62,8 @@ void NameIndex::add(std::string const& name, nyx::ColorId id) {
         if (holders.all) {
             holders.all->insert(id);
         } else {
-            holders.all =
-                std::make_unique<std::set<nyx::ColorId>>(std::initializer_list{holders.only, id});
+            holders.all = std::make_unique<std::set<nyx::ColorId>>(
+                std::initializer_list<nyx::ColorId>{holders.only, id});
         }
         return;
     }
