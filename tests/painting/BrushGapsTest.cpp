@@ -14,22 +14,25 @@ TEST_F(BrushGaps, AMissingNodeParameterCostsOnlyItself) {
     root.link("basic", &basic);
     auto& opacity = basic.add("opacity", nyxScene_api::TypeFloat);
     basic.add("rotation", nyxScene_api::TypeFloat);
+    auto& pressure = basic.add("pen_pressure_mode", 0);
     messages.clear();
     ZPainterBrush gap(&root, api(), {});
-    EXPECT_EQ(std::ranges::count(messages, '\n'), 18);
+    EXPECT_EQ(std::ranges::count(messages, '\n'), 17);
     EXPECT_NE(messages.find("Could not find bep for basic_stencil_use_alpha\n"), std::string::npos);
-    EXPECT_EQ(gap.parameters().size(), 14);
+    EXPECT_EQ(gap.parameters().size(), 15);
     EXPECT_FALSE(gap.parameter("basic_stencil_use_alpha").isValid());
     gap.parameter("basic_opacity_percent").setValue(40.0f);
     gap.parameter("basic_hardness_percent").setValue(30.0f);
     gap.parameter("basic_size_pen_pressure").setValue(true);
     gap.applyToNode();
     EXPECT_EQ(opacity.value.f, 0.4f);
+    EXPECT_EQ(pressure.value.i, 4) << "behind what is missing";
     opacity.value.f = 0.5f;
+    pressure.value.i = 1;
     gap.updateFromNode();
     EXPECT_EQ(gap.parameter("basic_opacity_percent").value<float>(), 50.0f);
     EXPECT_EQ(gap.parameter("basic_hardness_percent").value<float>(), 30.0f) << "it keeps that";
-    EXPECT_EQ(gap.parameter("basic_size_pen_pressure").value<bool>(), true);
+    EXPECT_EQ(gap.parameter("basic_size_pen_pressure").value<bool>(), false);
 }
 
 TEST_F(BrushGaps, AnEmptyRootLeavesTheFields) {

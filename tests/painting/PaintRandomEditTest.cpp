@@ -1,3 +1,4 @@
+#include "nyxembedded/Stroke.h"
 #include "nyxrender/nyxCustomSurface.h"
 #include "nyxrender/nyxPainter.h"
 #include "painting/PaintModel.h"
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <map>
 #include <random>
+#include <utility>
 
 using namespace zsg;
 using nyx::embedded::LayerPixels;
@@ -54,7 +56,6 @@ TEST_F(PaintRandomEditTest, modelRendererAndPixelsAgreeWithAPlainModel) {
         renderer.painting().addSurface("", 64);
         models[id].layers.push_back({1, ""});
     }
-    nyx::SurfaceId const scratch = renderer.painting().addSurface("", 64);
     std::vector<Entry> history;
     std::size_t done = 0;
     auto const entered = [&](Entry entry) {
@@ -79,6 +80,11 @@ TEST_F(PaintRandomEditTest, modelRendererAndPixelsAgreeWithAPlainModel) {
         auto const n = static_cast<unsigned>(m.layers.size());
         unsigned const i = below(n);
         unsigned const layer = m.layers[i].id;
+        auto const assignment = [&m, layer](auto member, auto const& value) {
+            return Entry{
+                [&m, layer, member, value] { m.at(layer).*member = value; },
+                [&m, layer, member, old = m.at(layer).*member] { m.at(layer).*member = old; }};
+        };
         switch (below(13)) {
         case 0: {
             if (n >= 12) {
@@ -110,28 +116,23 @@ TEST_F(PaintRandomEditTest, modelRendererAndPixelsAgreeWithAPlainModel) {
         }
         case 2: {
             int const mode = static_cast<int>(below(14));
-            int const old = m.layers[i].mode;
             s.setLayerBlend(i, static_cast<nyx::ColorBlendMode>(mode));
-            if (mode != old) {
-                entered({[&m, layer, mode] { m.at(layer).mode = mode; },
-                         [&m, layer, old] { m.at(layer).mode = old; }});
+            if (mode != m.layers[i].mode) {
+                entered(assignment(&PaintModel::Layer::mode, mode));
             }
             break;
         }
         case 3: {
             bool const visible = !m.layers[i].visible;
             s.setLayerVisibility(i, visible);
-            entered({[&m, layer, visible] { m.at(layer).visible = visible; },
-                     [&m, layer, visible] { m.at(layer).visible = !visible; }});
+            entered(assignment(&PaintModel::Layer::visible, visible));
             break;
         }
         case 4: {
             queue.waitIdle();
             std::string const name = below(5) == 0 ? "" : "Name " + std::to_string(below(50));
-            std::string const old = m.layers[i].name;
             s.setLayerName(i, QString::fromStdString(name));
-            entered({[&m, layer, name] { m.at(layer).name = name; },
-                     [&m, layer, old] { m.at(layer).name = old; }});
+            entered(assignment(&PaintModel::Layer::name, name));
             break;
         }
         case 5: {
@@ -147,13 +148,14 @@ TEST_F(PaintRandomEditTest, modelRendererAndPixelsAgreeWithAPlainModel) {
         }
         case 6: {
             float const color = static_cast<float>(below(4)) / 4;
-            float const old = m.layers[i].background;
+            bool const changes = color != m.layers[i].background;
             bool const undoable = below(3) != 0;
-            EXPECT_EQ(s.setLayerBackgroundColor(i, {color, 0, 0, 0}, undoable), color != old);
-            if (color != old && undoable) {
-                entered({[&m, layer, color] { m.at(layer).background = color; },
-                         [&m, layer, old] { m.at(layer).background = old; },
-                         static_cast<int>(layer * 4 + id), color});
+            EXPECT_EQ(s.setLayerBackgroundColor(i, {color, 0, 0, 0}, undoable), changes);
+            if (changes && undoable) {
+                Entry entry = assignment(&PaintModel::Layer::background, color);
+                entry.background = static_cast<int>(layer * 4 + id);
+                entry.color = color;
+                entered(std::move(entry));
             } else {
                 m.layers[i].background = color;
             }
@@ -169,13 +171,8 @@ TEST_F(PaintRandomEditTest, modelRendererAndPixelsAgreeWithAPlainModel) {
             stroke.color = {1, static_cast<float>(below(2)), 0, 0.5f};
             queue.addBlockingRenderTask(new PaintTask([this, id, layer, stroke] {
                 EXPECT_TRUE(renderer.painting().paint(nyx::SurfaceId(id), layer, stroke));
-                auto const now = renderer.painting().pixels(nyx::SurfaceId(id), layer);
-                EXPECT_TRUE(now.has_value());
             }));
-            LayerPixels& expected = m.at(layer).pixels;
-            renderer.painting().setPixels(scratch, 1, expected);
-            renderer.painting().paint(scratch, 1, stroke);
-            expected = renderer.painting().pixels(scratch, 1).value();
+            paintStroke(m.at(layer).pixels, stroke);
             break;
         }
         case 9:

@@ -69,6 +69,8 @@ TEST_F(Painting, ReadsTheNodesOnlyWhenAsked) {
     EXPECT_EQ(brush->stencilFilePath(), QString());
 
     node("basic_hardness").f = 0.6f;
+    node("basic_opacity").f = 0.5f;
+    node("basic_flow_value").f = 0.25f;
     node("color_color").c[1] = 0.5f;
     node("basic_space").i = 1;
     node("basic_mode").i = 1;
@@ -77,8 +79,8 @@ TEST_F(Painting, ReadsTheNodesOnlyWhenAsked) {
     node("basic_stencil_filepath").file = "leaf.png";
     brush->updateFromNode();
     EXPECT_FLOAT_EQ(*parameter("basic_hardness_percent").value<float>(), 60.0f);
-    EXPECT_EQ(parameter("basic_opacity_percent").value<float>(), 100.0f);
-    EXPECT_EQ(parameter("basic_flow_value_percent").value<float>(), 100.0f);
+    EXPECT_EQ(parameter("basic_opacity_percent").value<float>(), 50.0f);
+    EXPECT_EQ(parameter("basic_flow_value_percent").value<float>(), 25.0f);
     nyxColor_rgba const color = parameter("color_color").getColor().rgba();
     EXPECT_EQ(std::tie(color.r, color.g, color.b, color.a),
               std::make_tuple(1.0f, 0.5f, 1.0f, 1.0f));
