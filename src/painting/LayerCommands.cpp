@@ -20,12 +20,12 @@ namespace zsg {
 
 namespace {
 
-/// The number of a name that ends in a blank and digits behind the prefix; nothing for any other
-/// text, and for a number that no int holds.
+/// The number of a name that ends in a blank and digits behind the prefix (with a minus sign it
+/// counts as little as none); nothing for any other text, and for a number that no int holds.
 std::optional<int> numberAfterPrefix(char const* rest) {
     int number = 0;
     char const* const end = rest + std::strlen(rest);
-    if (end - rest < 2 || rest[0] != ' ' || rest[1] == '-') {
+    if (rest[0] != ' ') {
         return std::nullopt;
     }
     auto const [behind, error] = std::from_chars(rest + 1, end, number);
