@@ -1,6 +1,6 @@
 #include "colors/ColorScene.h"
 
-#include "zsg/core/Event.h"
+#include "zsg/core/Events.h"
 
 #include <gmock/gmock.h>
 
@@ -191,6 +191,18 @@ TEST_F(ColorDBColorsTest, ListenersMayReplaceAndDropEdits) {
     };
     db->pushColor(grown);
     EXPECT_TRUE(db->getColorParameters(plain)->hasSubColor(grown.getSubColorId(0)));
+
+    // A list that a listener gives to the copy, while its parts are cloned, stays.
+    ColorId copy;
+    reaction = [&](Event const& event) {
+        if (event.type() == EventType::ColorCreated && copy.isValid()) {
+            db->getColorParameters(copy)->setSubColors(ids(blue));
+        } else if (event.type() == EventType::ColorCreated) {
+            copy = static_cast<ColorEvent const&>(event).colorId();
+        }
+    };
+    db->cloneRecursively(plain);
+    EXPECT_EQ(list(db->getColorParameters(copy)->subColors()), ids(blue));
     reaction = nullptr;
 }
 

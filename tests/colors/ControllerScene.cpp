@@ -45,7 +45,8 @@ std::vector<UndoRoundTrip::Edit> ControllerScene::colorEdits() {
          "Move Sub Color (Cover)", "Cover subs 2 1 active 1"},
         {[=, this] { edit.changeSubColor(cover, red, blue); }, "Set Color",
          "Cover subs 3 2 active 3; Summer off"},
-        {[=, this] { edit.removeSubColors(cover, ids(blue)); }, "Remove Sub Color (Cover)", ""},
+        {[=, this] { EXPECT_TRUE(edit.removeSubColors(cover, ids(blue))); },
+         "Remove Sub Color (Cover)", ""},
         {[=, this] { edit.removeSubColors(cover, ids(red, blue)); }, "+Remove Sub Color (Cover)",
          "Cover subs 2 active 2; colorway 1 'Summer' pairs 4:2"},
         {[=, this] { edit.removeSubColors(cover, ids(green, red)); }, "+Remove Sub Color (Cover)",
@@ -81,10 +82,13 @@ std::vector<UndoRoundTrip::Edit> ControllerScene::colorEdits() {
 
 std::vector<UndoRoundTrip::Edit> ControllerScene::colorwayEdits() {
     ColorId const trim = multiColor("Trim", {red, blue});
+    ColorId const hollow = renderer.colors().addMulti("Hollow", {}, {});
+    use(hollow);
     ColorwayId const way = renderer.colorways().add("Way", {{trim, red}, {cover, red}});
     MultiColorPair const coverGreen{cover, green}, trimRed{trim, red}, trimBlue{trim, blue};
     auto const of = [](auto... pair) { return std::vector<MultiColorPair>{pair...}; };
     return {
+        {[=, this] { edit.toggleMultiColor(hollow); }, "+Disable Multi Color (Hollow)", ""},
         {[=, this] { edit.setDisplayName(winter, "Ice"); }, "Set Colorway name (Ice)",
          "colorway 2 'Ice' pairs 4:2"},
         {[=, this] { edit.setColors(summer, of(trimBlue, coverGreen)); }, "Edit Colorway (Summer)",

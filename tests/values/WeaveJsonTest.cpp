@@ -126,6 +126,7 @@ TEST(WeaveJson, ReadsWhatItCan) {
     WeavePattern single;
     EXPECT_TRUE(single.setFromJson("{\"pattern_warps\":-4,\"pattern_mask\":[1]}"));
     EXPECT_EQ(single.numWarp() * single.numWeft(), 1);
+    EXPECT_TRUE(single.setFromJson("{\"pattern_mask\":[2]}") && single.get(0, 0) == 1);
     EXPECT_TRUE(single.setFromJson(document({{"kind", "[2147483647,-2147483648]"}})));
 }
 

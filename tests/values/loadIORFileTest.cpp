@@ -84,9 +84,9 @@ TEST_F(LoadIORFile, PathsAreUtf8) {
 
 TEST_F(LoadIORFile, TablesSkipWhatDoesNotFit) {
     Result const result = load("a.b.Csv", "wavelength,n,k\n500;1.5;-0.1\n500,1.5,0\n501,-1,0\n"
-                                          "502\t1.25\t2.5\n503 1 1\n504, 1,2");
+                                          "502\t0.25\t2.5\n503 1 1\n504, 1,2");
     EXPECT_TRUE(result.loaded);
-    EXPECT_EQ(result.values, (FloatArray{500, 1.5f, 0, 502, 1.25f, 2.5f, 504, 1, 2}));
+    EXPECT_EQ(result.values, (FloatArray{500, 1.5f, 0, 502, 0.25f, 2.5f, 504, 1, 2}));
     std::string const negative =
         "Real and imaginary parts of ior must be non-negative. Skipping sample\n";
     EXPECT_EQ(result.messages, negative + negative);
