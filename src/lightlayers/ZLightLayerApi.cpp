@@ -151,9 +151,7 @@ nyx::LightLayerId ZLightLayerApi::createLayer(std::string name) {
             workingLayers_.create_layer(unique.c_str(), id);
             postUpdated(id);
         } catch (...) {
-            // The caller never learns the id, so nobody could take the layer back.
-            workingLayers_.delete_layer(id);
-            sceneLayers_->delete_n_remap_layer(*scene(), id);
+            discard(id);
             throw;
         }
     }
@@ -166,12 +164,22 @@ nyx::LightLayerId ZLightLayerApi::cloneLayer(nyx::LightLayerId source) {
     }
     nyx::LightLayerId const id = sceneLayers_->create_layer("dummy", nyx::LightLayerId());
     if (id.isValid()) {
-        workingLayers_.create_layer("dummy", id);
-        workingLayers_.clone_layer(id, source);
-        sceneLayers_->clone_layer(id, source);
-        postUpdated(id);
+        try {
+            workingLayers_.create_layer("dummy", id);
+            workingLayers_.clone_layer(id, source);
+            sceneLayers_->clone_layer(id, source);
+            postUpdated(id);
+        } catch (...) {
+            discard(id);
+            throw;
+        }
     }
     return id;
+}
+
+void ZLightLayerApi::discard(nyx::LightLayerId layer) {
+    workingLayers_.delete_layer(layer);
+    sceneLayers_->delete_n_remap_layer(*scene(), layer);
 }
 
 void ZLightLayerApi::deleteLayer(nyx::LightLayerId layer) {

@@ -54,6 +54,8 @@ public:
 private:
     [[nodiscard]] nyxScene* scene() const;
     void postUpdated(nyx::LightLayerId layer);
+    /// Takes back a layer whose making failed: the caller never learns the id.
+    void discard(nyx::LightLayerId layer);
 
     IEventQueue* eventQueue_;
     nyxRT_api* rtApi_;
