@@ -35,40 +35,7 @@ bool isFaulty(QByteArray const& file) {
     return faulty;
 }
 
-TEST(CMFLint, ListsEverythingWithLineAndPlace) {
-    EXPECT_EQ(text(lintCMF(R"(// hello
-{
-  "version": "1",
-  "schemaName": 7, "a/b~": 1,
-  "attributes": [
-    { "name": "Na|me", "kind": 0, "visible": true },
-    { "name": "Name", "kind": "0",
-      "visible": 1 },
-    7,
-    { "kind": 9 },
-    { "name": "", "kind": 1.5
-    , "name": "Name", "visible": true },
-    { "name": "Grain", "kind": -1, "visible": true },
-    { "name": "Grain", "kind": 12 }
-  ]
-})")),
-              "1 : (note) what stands before the first brace is skipped\n"
-              "4 /a~1b~0: (note) nobody reads this key\n"
-              "3 /version: is not the number 1\n"
-              "4 /schemaName: is no string\n"
-              "6 /attributes/0/name: (note) holds vertical bars; they are taken out\n"
-              "7 /attributes/1/kind: is no number\n"
-              "7 /attributes/1/name: \"Name\" is the name of an attribute on line 6 already\n"
-              "8 /attributes/1/visible: is neither true nor false\n"
-              "9 /attributes/2: is no object\n"
-              "10 /attributes/3/kind: (note) 9 is no kind (0 to 7); the attribute is left out\n"
-              "10 /attributes/3: there is no \"name\"\n"
-              "12 /attributes/4/name: (note) the key stands here again; the last one counts\n"
-              "11 /attributes/4/kind: (note) is no whole number that fits; it is read as 0, text\n"
-              "12 /attributes/4/name: \"Name\" is the name of an attribute on line 6 already\n"
-              "13 /attributes/5/kind: (note) -1 is no kind (0 to 7), but is kept\n"
-              "14 /attributes/6/kind: (note) 12 is no kind (0 to 7); the attribute is left out\n"
-              "14 /attributes/6/name: \"Grain\" is the name of an attribute on line 13 already\n");
+TEST(CMFLint, SaysWhatKeepsAFileFromBeingASchema) {
     EXPECT_EQ(text(lintCMF("{}")), "1 : there is no \"version\"\n"
                                    "1 : there is no \"schemaName\"\n"
                                    "1 : there are no \"attributes\"\n");
