@@ -4,6 +4,7 @@
 #include "Rows.h"
 
 #include "nyxembedded/Host.h"
+#include "nyxembedded/Painting.h"
 #include "nyxrender/nyx_memory.h"
 #include "zcore/ZUndoCommand.h"
 #include "zsg/core/Events.h"
@@ -242,7 +243,7 @@ void reload() {
                               auto host = std::make_unique<nyx::embedded::Host>(
                                   RenderTaskQueue::Mode::Manual);
                               for (int i = 0; i < 10'000; ++i) {
-                                  host->renderer().addSurface("", 64);
+                                  host->renderer().painting().addSurface("", 64);
                               }
                               state.ResumeTiming();
                               host->root().painterManager()->painter()->reload();
