@@ -1,5 +1,6 @@
 #include "nyxembedded/BrushSettings.h"
 
+#include "store/BrushGraph.h"
 #include "store/Scene.h"
 
 #include <string_view>

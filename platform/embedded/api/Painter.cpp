@@ -6,6 +6,10 @@
 #include <algorithm>
 #include <string_view>
 
+nyxPainter::~nyxPainter() = default;
+
+nyxPainter_factory::~nyxPainter_factory() = default;
+
 namespace nyx::embedded {
 
 nyx::Unique_array<nyxPainter_surface> Painter::surfaces() const {

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "nyxembedded/ColorRecord.h"
+#include "nyxembedded/ColorwayRecord.h"
 #include "nyxrender/nyxParameter_edit.h"
-#include "store/Records.h"
 
 namespace nyx::embedded {
 

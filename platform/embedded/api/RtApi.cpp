@@ -2,9 +2,16 @@
 
 #include "api/ParameterBlocks.h"
 #include "nyxrender/nyx_warning.h"
+#include "store/BrushGraph.h"
+#include "store/ColorStore.h"
+#include "store/ColorwayStore.h"
+#include "store/LightLayers.h"
 #include "store/Scene.h"
+#include "store/SceneLights.h"
 
 #include <utility>
+
+nyxRT_api::~nyxRT_api() = default;
 
 namespace nyx::embedded {
 
@@ -74,20 +81,20 @@ bool RtApi::mayCommit(nyxParameter_edit const* block, std::int32_t kind) {
 
 nyxParameter_edit* RtApi::color_params(nyx::ColorId id) {
     scene_.journal().write("color_params", id);
-    ColorRecord const* const record = scene_.color(id);
+    ColorRecord const* const record = scene_.colors().find(id);
     return record == nullptr ? nullptr : lendNew(makeColorBlock(*record, scene_.strings()));
 }
 
 nyxParameter_edit* RtApi::colorway_params(nyx::ColorwayId id) {
     scene_.journal().write("colorway_params", id);
-    ColorwayRecord const* const record = scene_.colorway(id);
+    ColorwayRecord const* const record = scene_.colorways().find(id);
     return record == nullptr ? nullptr : lendNew(makeColorwayBlock(*record, scene_.strings()));
 }
 
 nyxParameter_edit* RtApi::color_settings_params() {
     scene_.journal().write("color_settings_params");
     return scene_.faults().noSettings ? nullptr
-                                      : lendNew(makeSettingsBlock(scene_.activeColorway()));
+                                      : lendNew(makeSettingsBlock(scene_.colorways().active()));
 }
 
 void RtApi::commit_color_params(nyxParameter_edit* block) {
@@ -95,13 +102,13 @@ void RtApi::commit_color_params(nyxParameter_edit* block) {
     if (!mayCommit(block, nyxParameter_edit::ColorKind)) {
         return;
     }
-    ColorRecord const* const record = scene_.color(nyx::ColorId(block->record_id));
+    ColorRecord const* const record = scene_.colors().find(nyx::ColorId(block->record_id));
     if (record == nullptr) {
         return;
     }
     ColorRecord values = *record;
     readBlock(*block, values);
-    if (scene_.updateColor(values)) {
+    if (scene_.colors().update(values)) {
         notifications_.colorChanged(values.id);
     }
 }
@@ -111,21 +118,21 @@ void RtApi::commit_colorway_params(nyxParameter_edit* block) {
     if (!mayCommit(block, nyxParameter_edit::ColorwayKind)) {
         return;
     }
-    ColorwayRecord const* const record = scene_.colorway(nyx::ColorwayId(block->record_id));
+    ColorwayRecord const* const record = scene_.colorways().find(nyx::ColorwayId(block->record_id));
     if (record == nullptr) {
         return;
     }
     ColorwayRecord values = *record;
     readBlock(*block, values);
-    scene_.updateColorway(values);
+    scene_.colorways().update(values);
 }
 
 void RtApi::commit_color_settings_params(nyxParameter_edit* block) {
     scene_.journal().write("commit_color_settings_params");
     if (mayCommit(block, nyxParameter_edit::ColorSettingsKind)) {
-        nyx::ColorwayId active = scene_.activeColorway();
+        nyx::ColorwayId active = scene_.colorways().active();
         readBlock(*block, active);
-        scene_.setActiveColorway(active);
+        scene_.colorways().setActive(active);
     }
 }
 

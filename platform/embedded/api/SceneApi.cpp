@@ -1,9 +1,15 @@
 #include "api/SceneApi.h"
 
+#include "store/BrushGraph.h"
+#include "store/BrushKinds.h"
+#include "store/ColorStore.h"
+#include "store/ColorwayStore.h"
 #include "store/Scene.h"
 
 #include <string_view>
 #include <utility>
+
+nyxScene_api::~nyxScene_api() = default;
 
 namespace nyx::embedded {
 
@@ -32,7 +38,8 @@ void SceneApi::begin_color() {
 
 nyxColor_record* SceneApi::end_color() {
     scene_.journal().write("end_color");
-    return end(Making::Color) ? scene_.lendColor(scene_.addColor(std::move(color_))) : nullptr;
+    return end(Making::Color) ? scene_.colors().lend(scene_.colors().add(std::move(color_)))
+                              : nullptr;
 }
 
 void SceneApi::begin_colorway() {
@@ -45,7 +52,7 @@ nyx::ColorwayId const* SceneApi::end_colorway() {
     if (!end(Making::Colorway)) {
         return nullptr;
     }
-    lastColorway_ = scene_.addColorway(std::move(colorway_));
+    lastColorway_ = scene_.colorways().add(std::move(colorway_));
     return lastColorway_.isValid() ? &lastColorway_ : nullptr;
 }
 

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "nyxembedded/ColorRecord.h"
+#include "nyxembedded/ColorwayRecord.h"
 #include "nyxrender/nyxScene_api.h"
 #include "store/BrushNode.h"
-#include "store/Records.h"
 
 class nyxScene;
 

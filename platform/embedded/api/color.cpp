@@ -1,7 +1,10 @@
 #include "nyxrender/nyx_color.h"
 
 #include "store/Accounts.h"
+#include "store/ColorStore.h"
+#include "store/ColorwayStore.h"
 #include "store/Scene.h"
+#include "store/colorUses.h"
 
 #include <cstdlib>
 #include <cstring>
@@ -19,8 +22,8 @@ nyx::Unique_array<typename List::value_type> toArray(List const& ids) {
 
 nyx::Unique_array<nyx::ColorId> colorsOfName(nyxScene& scene, char const* name, bool multi) {
     std::vector<nyx::ColorId> ids;
-    for (nyx::ColorId const id : scene.colorsNamed(name == nullptr ? "" : name)) {
-        if (scene.color(id)->isMulti() == multi) {
+    for (nyx::ColorId const id : scene.colors().named(name == nullptr ? "" : name)) {
+        if (scene.colors().find(id)->isMulti() == multi) {
             ids.push_back(id);
         }
     }
@@ -33,8 +36,8 @@ void nyx_get_colordb_revision(nyxScene* scene, unsigned& color_revision,
                               unsigned& colorway_revision) {
     if (scene != nullptr) {
         scene->journal().write("nyx_get_colordb_revision");
-        color_revision = scene->colorRevision();
-        colorway_revision = scene->colorwayRevision();
+        color_revision = scene->colors().revision();
+        colorway_revision = scene->colorways().revision();
     }
 }
 
@@ -45,9 +48,9 @@ nyx::Unique_array<nyx::ColorId> nyx_get_colors(nyxScene* scene, nyxColor_extende
     scene->journal().write("nyx_get_colors", static_cast<std::uint32_t>(type));
     switch (type) {
     case nyxColor_extended::PlainColor:
-        return toArray(scene->plainColors());
+        return toArray(scene->colors().plain());
     case nyxColor_extended::MultiColor:
-        return toArray(scene->multiColors());
+        return toArray(scene->colors().multi());
     }
     return {};
 }
@@ -57,7 +60,7 @@ nyx::Unique_array<nyx::ColorId> nyx_get_colors_named(nyxScene* scene) {
         return {};
     }
     scene->journal().write("nyx_get_colors_named");
-    return toArray(scene->namedColors());
+    return toArray(scene->colors().named());
 }
 
 nyx::Unique_array<nyx::ColorwayId> nyx_get_colorways(nyxScene* scene) {
@@ -66,7 +69,7 @@ nyx::Unique_array<nyx::ColorwayId> nyx_get_colorways(nyxScene* scene) {
     }
     scene->journal().write("nyx_get_colorways");
     std::vector<nyx::ColorwayId> ids;
-    scene->forEachColorway([&](ColorwayRecord const& colorway) { ids.push_back(colorway.id); });
+    scene->colorways().forEach([&](ColorwayRecord const& colorway) { ids.push_back(colorway.id); });
     return toArray(ids);
 }
 
@@ -92,7 +95,7 @@ nyx::Unique_array<nyx::ColorwayId> nyx_colorway_from_name(nyxScene* scene, char 
     }
     scene->journal().write("nyx_colorway_from_name", name);
     std::vector<nyx::ColorwayId> ids;
-    scene->forEachColorway([&](ColorwayRecord const& colorway) {
+    scene->colorways().forEach([&](ColorwayRecord const& colorway) {
         if (!colorway.name.empty() && colorway.name == name) {
             ids.push_back(colorway.id);
         }
@@ -105,7 +108,7 @@ unsigned nyx_color_reference_count(nyxScene* scene, nyx::ColorId id) {
         return 0;
     }
     scene->journal().write("nyx_color_reference_count", id);
-    return scene->referenceCount(id);
+    return referenceCount(*scene, id);
 }
 
 void nyx_color_set_unique_name(nyxScene* scene, nyx::ColorId id) {
@@ -113,12 +116,12 @@ void nyx_color_set_unique_name(nyxScene* scene, nyx::ColorId id) {
         return;
     }
     scene->journal().write("nyx_color_set_unique_name", id);
-    if (ColorRecord const* const color = scene->color(id)) {
-        std::string const name = scene->uniqueColorName(color->name, {id});
+    if (ColorRecord const* const color = scene->colors().find(id)) {
+        std::string const name = scene->colors().uniqueName(color->name, {id});
         if (name != color->name) {
             ColorRecord renamed = *color;
             renamed.name = name;
-            scene->updateColor(renamed);
+            scene->colors().update(renamed);
         }
     }
 }
@@ -134,7 +137,7 @@ char* nyx_color_find_unique_name(nyxScene* scene, char const* name, nyx::Span<ny
         return nullptr;
     }
     // Names are unique among plain and multi-colours together, so the type makes no difference.
-    std::string const unique = scene->uniqueColorName(name, ignored);
+    std::string const unique = scene->colors().uniqueName(name, ignored);
     auto* const text = static_cast<char*>(std::malloc(unique.size() + 1));
     if (text == nullptr) {
         throw std::bad_alloc();
@@ -150,5 +153,5 @@ nyx::Unique_array<nyx::MaterialId> nyx_get_materials_using_color(nyxScene* scene
         return {};
     }
     scene->journal().write("nyx_get_materials_using_color", id, how, unassigned);
-    return toArray(scene->materialsUsing(id, (how & 1u) != 0, (how & 2u) != 0, unassigned));
+    return toArray(materialsUsing(*scene, id, (how & 1u) != 0, (how & 2u) != 0, unassigned));
 }

@@ -1,5 +1,6 @@
 #include "nyxrender/nyx_material.h"
 
+#include "store/MaterialStore.h"
 #include "store/Scene.h"
 
 namespace {
@@ -18,7 +19,7 @@ nyxMaterial* nyx_material_from_id(nyxScene* scene, nyx::MaterialId id) {
         return nullptr;
     }
     scene->journal().write("nyx_material_from_id", id);
-    nyxMaterial* const material = scene->material(id);
+    nyxMaterial* const material = scene->materials().find(id);
     if (material != nullptr) {
         material->journal = &scene->journal();
     }

@@ -1,8 +1,12 @@
 // Free functions over the scene as a whole.
 
+#include "nyxrender/nyxGroup_item.h"
 #include "nyxrender/nyxScene.h"
+#include "nyxrender/nyxScene_hierarchy.h"
 #include "nyxrender/nyx_memory.h"
+#include "store/ItemTree.h"
 #include "store/Scene.h"
+#include "store/StringPool.h"
 
 nyxScene_api* nyx_get_scene_api(nyxScene* scene) {
     return scene == nullptr ? nullptr : scene->api();
@@ -18,7 +22,7 @@ char* nyx_string_dup(nyxScene& scene, char const* text) {
 }
 
 nyxGroup_item* nyx_group_item_from_id(nyxScene* scene, nyx::GroupItemId id) {
-    return scene == nullptr ? nullptr : scene->item(id);
+    return scene == nullptr ? nullptr : scene->items().find(id);
 }
 
 nyxScene_hierarchy* nyx_scene_hierarchy_get(nyxScene* scene) {

@@ -2,7 +2,7 @@
 
 #include "api/Notifications.h"
 #include "renderer/upToZero.h"
-#include "store/Scene.h"
+#include "store/ColorStore.h"
 
 #include <utility>
 
@@ -10,53 +10,53 @@ namespace nyx::embedded {
 
 nyx::ColorId Colors::add(std::string const& name, nyxColor_rgba const& value) {
     ColorRecord record;
-    record.name = scene_.uniqueColorName(upToZero(name), {});
+    record.name = colors_.uniqueName(upToZero(name), {});
     record.value = value;
-    return scene_.addColor(std::move(record));
+    return colors_.add(std::move(record));
 }
 
 nyx::ColorId Colors::addMulti(std::string const& name, nyx::Span<nyx::ColorId> subColors,
                               nyx::ColorId active) {
     ColorRecord record;
     record.flags = ColorRecord::MultiColor;
-    record.name = scene_.uniqueColorName(upToZero(name), {});
+    record.name = colors_.uniqueName(upToZero(name), {});
     record.subColors.assign(subColors.begin(), subColors.end());
     record.activeSub = active;
-    return scene_.addColor(std::move(record));
+    return colors_.add(std::move(record));
 }
 
 std::vector<nyx::ColorId> Colors::ids() const {
     std::vector<nyx::ColorId> ids;
-    scene_.forEachColor([&](ColorRecord const& record) { ids.push_back(record.id); });
+    colors_.forEach([&](ColorRecord const& record) { ids.push_back(record.id); });
     return ids;
 }
 
 nyx::ColorId Colors::find(std::string const& name) const {
-    std::vector<nyx::ColorId> const holders = scene_.colorsNamed(name);
+    std::vector<nyx::ColorId> const holders = colors_.named(name);
     return holders.empty() ? nyx::ColorId() : holders[0];
 }
 
 std::optional<ColorRecord> Colors::record(nyx::ColorId id) const {
-    ColorRecord const* const record = scene_.color(id);
+    ColorRecord const* const record = colors_.find(id);
     return record == nullptr ? std::nullopt : std::optional(*record);
 }
 
-bool Colors::remove(nyx::ColorId id) { return scene_.removeColor(id); }
+bool Colors::remove(nyx::ColorId id) { return colors_.remove(id); }
 
 bool Colors::change(nyx::ColorId id, nyxColor_rgba const& value) {
-    ColorRecord const* const record = scene_.color(id);
+    ColorRecord const* const record = colors_.find(id);
     if (record == nullptr) {
         return false;
     }
     ColorRecord changed = *record;
     changed.value = value;
-    scene_.updateColor(changed);
+    colors_.update(changed);
     notifications_.colorChanged(id);
     return true;
 }
 
 void Colors::announce() {
-    scene_.forEachColor([this](ColorRecord const& color) {
+    colors_.forEach([this](ColorRecord const& color) {
         if (!color.isTemporary()) {
             notifications_.colorChanged(color.id);
         }

@@ -2,7 +2,8 @@
 
 #include "api/Notifications.h"
 #include "renderer/upToZero.h"
-#include "store/Scene.h"
+#include "store/ColorStore.h"
+#include "store/ColorwayStore.h"
 
 #include <algorithm>
 #include <utility>
@@ -16,39 +17,39 @@ nyx::ColorwayId Colorways::add(std::string const& name, nyx::Span<ColorwayPair> 
         record.multiColors.push_back(pair.multiColor);
         record.activeSubs.push_back(pair.subColor);
     }
-    return scene_.addColorway(std::move(record));
+    return colorways_.add(std::move(record));
 }
 
 std::vector<nyx::ColorwayId> Colorways::ids() const {
     std::vector<nyx::ColorwayId> ids;
-    scene_.forEachColorway([&](ColorwayRecord const& record) { ids.push_back(record.id); });
+    colorways_.forEach([&](ColorwayRecord const& record) { ids.push_back(record.id); });
     return ids;
 }
 
 nyx::ColorwayId Colorways::find(std::string const& name) const {
     nyx::ColorwayId found;
-    scene_.forEachColorway([&](ColorwayRecord const& record) {
+    colorways_.forEach([&](ColorwayRecord const& record) {
         found = !found.isValid() && record.name == name ? record.id : found;
     });
     return found;
 }
 
 std::optional<ColorwayRecord> Colorways::record(nyx::ColorwayId id) const {
-    ColorwayRecord const* const record = scene_.colorway(id);
+    ColorwayRecord const* const record = colorways_.find(id);
     return record == nullptr ? std::nullopt : std::optional(*record);
 }
 
-nyx::ColorwayId Colorways::active() const { return scene_.activeColorway(); }
+nyx::ColorwayId Colorways::active() const { return colorways_.active(); }
 
-bool Colorways::remove(nyx::ColorwayId id) { return scene_.removeColorway(id); }
+bool Colorways::remove(nyx::ColorwayId id) { return colorways_.remove(id); }
 
 bool Colorways::activate(nyx::ColorwayId id) {
-    ColorwayRecord const* const wanted = scene_.colorway(id);
+    ColorwayRecord const* const wanted = colorways_.find(id);
     if (wanted == nullptr) {
         return false;
     }
     std::vector<ColorwayRecord> flagged;
-    scene_.forEachColorway([&](ColorwayRecord const& colorway) {
+    colorways_.forEach([&](ColorwayRecord const& colorway) {
         std::uint32_t const flags = colorway.id == id ? colorway.flags | ColorwayRecord::Active
                                                       : colorway.flags & ~ColorwayRecord::Active;
         if (flags != colorway.flags) {
@@ -57,19 +58,19 @@ bool Colorways::activate(nyx::ColorwayId id) {
         }
     });
     for (ColorwayRecord const& colorway : flagged) {
-        scene_.updateColorway(colorway);
+        colorways_.update(colorway);
     }
-    scene_.setActiveColorway(id);
+    colorways_.setActive(id);
     std::size_t const pairs = std::min(wanted->multiColors.size(), wanted->activeSubs.size());
     for (std::size_t i = 0; i < pairs; ++i) {
-        ColorRecord const* const multi = scene_.color(wanted->multiColors[i]);
+        ColorRecord const* const multi = colors_.find(wanted->multiColors[i]);
         nyx::ColorId const sub = wanted->activeSubs[i];
         if (multi != nullptr && multi->isMulti() &&
             std::find(multi->subColors.begin(), multi->subColors.end(), sub) !=
                 multi->subColors.end()) {
             ColorRecord changed = *multi;
             changed.activeSub = sub;
-            scene_.updateColor(changed);
+            colors_.update(changed);
         }
     }
     notifications_.colorwayActivated(id);

@@ -1,28 +1,29 @@
 #include "nyxembedded/Items.h"
 
 #include "renderer/upToZero.h"
-#include "store/Scene.h"
+#include "store/ItemTree.h"
+#include "store/LightLayers.h"
 
 namespace nyx::embedded {
 
 nyx::GroupItemId Items::addGroup(std::string const& name, nyx::GroupItemId parent) {
-    return scene_.addItem({{}, ItemKind::Group, upToZero(name), parent, {}});
+    return items_.add({{}, ItemKind::Group, upToZero(name), parent, {}});
 }
 
 nyx::ObjectId Items::addObject(std::string const& name, nyx::GroupItemId parent,
                                nyx::MaterialId material) {
-    auto const id = scene_.addItem({{}, ItemKind::Object, upToZero(name), parent, material});
+    auto const id = items_.add({{}, ItemKind::Object, upToZero(name), parent, material});
     return nyx::ObjectId(id.toUint());
 }
 
 nyx::ObjectId Items::addLight(std::string const& name, nyx::GroupItemId parent) {
-    auto const id = scene_.addItem({{}, ItemKind::Light, upToZero(name), parent, {}});
+    auto const id = items_.add({{}, ItemKind::Light, upToZero(name), parent, {}});
     return nyx::ObjectId(id.toUint());
 }
 
 bool Items::setUnlisted(nyx::ObjectId light, bool unlisted) {
-    GroupItem* const item = scene_.item(nyx::GroupItemId(light.toUint()));
-    if (item == nullptr || !item->is_light()) {
+    GroupItem* const item = items_.findLight(light);
+    if (item == nullptr) {
         return false;
     }
     item->record.unlisted = unlisted;
@@ -31,25 +32,23 @@ bool Items::setUnlisted(nyx::ObjectId light, bool unlisted) {
 
 std::vector<nyx::GroupItemId> Items::ids() const {
     std::vector<nyx::GroupItemId> ids;
-    scene_.forEachItem([&](GroupItem const& item) { ids.push_back(item.id()); });
+    items_.forEach([&](GroupItem const& item) { ids.push_back(item.id()); });
     return ids;
 }
 
 nyx::GroupItemId Items::find(std::string const& name) const {
     nyx::GroupItemId found;
-    scene_.forEachItem([&](GroupItem const& item) {
+    items_.forEach([&](GroupItem const& item) {
         found = !found.isValid() && item.record.name == name ? item.id() : found;
     });
     return found;
 }
 
 std::optional<ItemRecord> Items::record(nyx::GroupItemId id) const {
-    GroupItem const* const item = scene_.item(id);
+    GroupItem const* const item = items_.find(id);
     return item == nullptr ? std::nullopt : std::optional(item->record);
 }
 
-nyx::LightLayerId Items::lightLayer(nyx::ObjectId light) const {
-    return scene_.lightLayers().layerOf(light);
-}
+nyx::LightLayerId Items::lightLayer(nyx::ObjectId light) const { return layers_.layerOf(light); }
 
 } // namespace nyx::embedded

@@ -1,30 +1,31 @@
 #include "nyxembedded/Materials.h"
 
 #include "renderer/upToZero.h"
-#include "store/Scene.h"
+#include "store/ItemTree.h"
+#include "store/MaterialStore.h"
 
 #include <utility>
 
 namespace nyx::embedded {
 
 nyx::MaterialId Materials::add(std::string const& name) {
-    nyxMaterial record;
+    MaterialRecord record;
     record.name = upToZero(name);
-    return scene_.addMaterial(std::move(record));
+    return materials_.add(std::move(record));
 }
 
 bool Materials::bindColor(nyx::MaterialId id, std::uint32_t node, std::string const& parameter,
                           nyx::ColorId color) {
-    return scene_.bindColor(id, node, upToZero(parameter), color, true);
+    return materials_.bindColor(id, node, upToZero(parameter), color, true);
 }
 
 bool Materials::rebindColor(nyx::MaterialId id, std::uint32_t node, std::string const& parameter,
                             nyx::ColorId color) {
-    return scene_.bindColor(id, node, upToZero(parameter), color, false);
+    return materials_.bindColor(id, node, upToZero(parameter), color, false);
 }
 
 bool Materials::setItems(nyx::MaterialId id, std::vector<unsigned> items) {
-    nyxMaterial* const record = scene_.material(id);
+    nyxMaterial* const record = materials_.find(id);
     if (record == nullptr) {
         return false;
     }
@@ -34,25 +35,25 @@ bool Materials::setItems(nyx::MaterialId id, std::vector<unsigned> items) {
 
 std::vector<nyx::MaterialId> Materials::ids() const {
     std::vector<nyx::MaterialId> ids;
-    scene_.forEachMaterial([&](nyxMaterial const& record) { ids.push_back(record.id); });
+    materials_.forEach([&](nyxMaterial const& record) { ids.push_back(record.id); });
     return ids;
 }
 
 nyx::MaterialId Materials::find(std::string const& name) const {
     nyx::MaterialId found;
-    scene_.forEachMaterial([&](nyxMaterial const& record) {
+    materials_.forEach([&](nyxMaterial const& record) {
         found = !found.isValid() && record.name == name ? record.id : found;
     });
     return found;
 }
 
-bool Materials::contains(nyx::MaterialId id) const { return scene_.material(id) != nullptr; }
+bool Materials::contains(nyx::MaterialId id) const { return materials_.find(id) != nullptr; }
 
 std::optional<MaterialRecord> Materials::record(nyx::MaterialId id) const {
-    MaterialRecord const* const record = scene_.material(id);
+    MaterialRecord const* const record = materials_.find(id);
     return record == nullptr ? std::nullopt : std::optional(*record);
 }
 
-bool Materials::isUsed(nyx::MaterialId id) const { return scene_.isMaterialUsed(id); }
+bool Materials::isUsed(nyx::MaterialId id) const { return items_.isMaterialUsed(id); }
 
 } // namespace nyx::embedded

@@ -8,7 +8,10 @@
 #include "scenefile/SceneDump.h"
 #include "scenefile/SceneFile.h"
 #include "store/Accounts.h"
+#include "store/LightLayers.h"
 #include "store/Scene.h"
+#include "store/SceneLights.h"
+#include "store/StringPool.h"
 
 #include <cmath>
 #include <utility>
@@ -42,10 +45,10 @@ public:
     PainterFactory painters{scene};
     Notifications notifications{scene.faults()};
     RtApi api{scene, notifications};
-    Colors colors{scene, notifications};
-    Colorways colorways{scene, notifications};
-    Materials materials{scene};
-    Items items{scene};
+    Colors colors{scene.colors(), notifications};
+    Colorways colorways{scene.colorways(), scene.colors(), notifications};
+    Materials materials{scene.materials(), scene.items()};
+    Items items{scene.items(), scene.lightLayers()};
     Painting painting{scene.surfaces()};
 
     void replaceScene(nyxScene& fresh, std::function<void()> const& beforeReplacing) {

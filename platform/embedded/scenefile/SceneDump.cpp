@@ -1,6 +1,12 @@
 #include "scenefile/SceneDump.h"
 
+#include "store/ColorStore.h"
+#include "store/ColorwayStore.h"
+#include "store/ItemTree.h"
+#include "store/LightLayers.h"
+#include "store/MaterialStore.h"
 #include "store/Scene.h"
+#include "store/Surfaces.h"
 #include "store/jsonText.h"
 
 #include <algorithm>
@@ -79,7 +85,7 @@ void append(std::string& out, ColorwayRecord const& record) {
     out += '\n';
 }
 
-void append(std::string& out, nyxMaterial const& record) {
+void append(std::string& out, MaterialRecord const& record) {
     appendHead(out, "material", idText(record.id), record.name);
     if (!record.places.empty()) {
         out += " places";
@@ -156,10 +162,10 @@ void append(std::string& out, Surface const& surface) {
 
 std::string dumpScene(nyxScene const& scene) {
     std::string out = "unit scale " + numberText(scene.unitScale()) + "\nactive colorway " +
-                      idText(scene.activeColorway()) + '\n';
-    scene.forEachColor([&out](ColorRecord const& record) { append(out, record); });
-    scene.forEachColorway([&out](ColorwayRecord const& record) { append(out, record); });
-    scene.forEachMaterial([&out](nyxMaterial const& record) { append(out, record); });
+                      idText(scene.colorways().active()) + '\n';
+    scene.colors().forEach([&out](ColorRecord const& record) { append(out, record); });
+    scene.colorways().forEach([&out](ColorwayRecord const& record) { append(out, record); });
+    scene.materials().forEach([&out](MaterialRecord const& record) { append(out, record); });
     LightLayers const& layers = scene.lightLayers();
     out.append("environment light mask ")
         .append(std::to_string(layers.environmentMask()))
@@ -167,7 +173,7 @@ std::string dumpScene(nyxScene const& scene) {
     for (nyx::LightLayerId const id : layers.ids()) {
         append(out, id, *layers.find(id));
     }
-    scene.forEachItem([&](GroupItem const& item) { append(out, item, layers); });
+    scene.items().forEach([&](GroupItem const& item) { append(out, item, layers); });
     for (Surface const* const surface : scene.surfaces().all()) {
         append(out, *surface);
     }

@@ -4,7 +4,6 @@
 #include "scenefile/SceneReader.h"
 #include "scenefile/SceneWriter.h"
 #include "scenefile/StrictJson.h"
-#include "store/Scene.h"
 
 #include <QByteArray>
 #include <QFile>

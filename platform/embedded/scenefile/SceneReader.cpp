@@ -2,7 +2,14 @@
 
 #include "scenefile/JsonNode.h"
 #include "scenefile/SurfaceSection.h"
+#include "store/ColorStore.h"
+#include "store/ColorwayStore.h"
+#include "store/ItemTree.h"
+#include "store/LightLayers.h"
+#include "store/MaterialStore.h"
 #include "store/Scene.h"
+#include "store/SceneLights.h"
+#include "store/Surfaces.h"
 
 #include <cstdint>
 #include <set>
@@ -64,28 +71,28 @@ nyxColor_rgba readColorValue(JsonNode const& node) {
             node.element(3).component()};
 }
 
-void readColor(JsonNode const& node, nyxScene& scene) {
+void readColor(JsonNode const& node, ColorStore& colors) {
     node.checkObject({"id", "name", "originalName", "value", "flags", "subColors", "activeSub"});
     ColorRecord record;
-    record.id = readId(node, scene.nextColorId());
+    record.id = readId(node, colors.nextId());
     record.flags = readWord(node, "flags");
     record.name = readText(node, "name");
     record.originalName = readText(node, "originalName");
     record.value = readColorValue(node.member("value"));
     record.subColors = readReferences(node, "subColors");
     record.activeSub = readReference<nyx::ColorId>(node, "activeSub");
-    static_cast<void>(scene.addColor(std::move(record)));
+    static_cast<void>(colors.add(std::move(record)));
 }
 
-void readColorway(JsonNode const& node, nyxScene& scene) {
+void readColorway(JsonNode const& node, ColorwayStore& colorways) {
     node.checkObject({"id", "name", "flags", "multiColors", "activeSubs"});
     ColorwayRecord record;
-    record.id = readId(node, scene.nextColorwayId());
+    record.id = readId(node, colorways.nextId());
     record.flags = readWord(node, "flags");
     record.name = readText(node, "name");
     record.multiColors = readReferences(node, "multiColors");
     record.activeSubs = readReferences(node, "activeSubs");
-    static_cast<void>(scene.addColorway(std::move(record)));
+    static_cast<void>(colorways.add(std::move(record)));
 }
 
 std::vector<MaterialPlace> readPlaces(JsonNode const& list) {
@@ -105,7 +112,7 @@ std::vector<MaterialPlace> readPlaces(JsonNode const& list) {
     return places;
 }
 
-void readCmfValue(JsonNode const& pair, nyxMaterial& material) {
+void readCmfValue(JsonNode const& pair, MaterialRecord& material) {
     if (pair.arraySize() != 2) {
         pair.fail("expected a key and a value, found " + std::to_string(pair.arraySize()) +
                   " elements");
@@ -115,10 +122,10 @@ void readCmfValue(JsonNode const& pair, nyxMaterial& material) {
     }
 }
 
-void readMaterial(JsonNode const& node, nyxScene& scene) {
+void readMaterial(JsonNode const& node, MaterialStore& materials) {
     node.checkObject({"id", "name", "places", "cmf", "metadata", "items"});
-    nyxMaterial record;
-    record.id = readId(node, scene.nextMaterialId());
+    MaterialRecord record;
+    record.id = readId(node, materials.nextId());
     record.name = readText(node, "name");
     if (auto const places = node.find("places")) {
         record.places = readPlaces(*places);
@@ -130,7 +137,7 @@ void readMaterial(JsonNode const& node, nyxScene& scene) {
     if (auto const items = node.find("items")) {
         items->forEachElement([&](JsonNode const& item) { record.items.push_back(item.word()); });
     }
-    static_cast<void>(scene.addMaterial(std::move(record)));
+    static_cast<void>(materials.add(std::move(record)));
 }
 
 /// Layers of a file ascend, and the first one is where lights are that name none.
@@ -170,13 +177,13 @@ ItemKind readKind(JsonNode const& node) {
 void readItem(JsonNode const& node, nyxScene& scene) {
     node.checkObject({"id", "kind", "name", "parent", "material", "lightLayer", "unlisted"});
     ItemRecord record;
-    record.id = readId(node, scene.nextItemId());
+    record.id = readId(node, scene.items().nextId());
     record.kind = readKind(node.member("kind"));
     record.name = readText(node, "name");
     if (auto const parent = node.find("parent")) {
         record.parent = nyx::GroupItemId(parent->word());
         // Parents before their children, so that no item can be its own ancestor.
-        if (scene.item(record.parent) == nullptr) {
+        if (scene.items().find(record.parent) == nullptr) {
             parent->failExpected("the id of an item further up");
         }
     }
@@ -186,8 +193,8 @@ void readItem(JsonNode const& node, nyxScene& scene) {
         }
         record.material = nyx::MaterialId(material->word());
     }
-    nyx::GroupItemId const id = scene.addItem(std::move(record));
-    GroupItem& item = *scene.item(id);
+    nyx::GroupItemId const id = scene.items().add(std::move(record));
+    GroupItem& item = *scene.items().find(id);
     if (auto const layer = node.find("lightLayer")) {
         nyx::LightLayerId const wanted(layer->word());
         if (!item.is_light()) {
@@ -207,13 +214,12 @@ void readItem(JsonNode const& node, nyxScene& scene) {
 }
 
 /// The ids of records that are gone are not given out again, so the next ones are written down.
-template <class IdType>
-IdType readNextId(JsonNode const& nextIds, std::string_view key, IdType least) {
-    auto const node = nextIds.find(key);
-    if (!node) {
-        return least;
+template <class Owner>
+void readNextId(JsonNode const& nextIds, std::string_view key, Owner& owner) {
+    if (auto const node = nextIds.find(key)) {
+        auto const least = owner.nextId();
+        owner.skipIdsBelow(decltype(owner.nextId())(node->word(least.toUint(), 0xFFFFFFFFu)));
     }
-    return IdType(node->word(least.toUint(), 0xFFFFFFFFu));
 }
 
 void readHeader(JsonNode const& file) {
@@ -227,10 +233,11 @@ void readHeader(JsonNode const& file) {
     }
 }
 
-void readSection(JsonNode const& file, std::string_view key, nyxScene& scene,
-                 void (*readRecord)(JsonNode const&, nyxScene&)) {
+template <class Owner>
+void readSection(JsonNode const& file, std::string_view key, Owner& owner,
+                 void (*readRecord)(JsonNode const&, Owner&)) {
     if (auto const section = file.find(key)) {
-        section->forEachElement([&](JsonNode const& record) { readRecord(record, scene); });
+        section->forEachElement([&](JsonNode const& record) { readRecord(record, owner); });
     }
 }
 
@@ -253,9 +260,9 @@ void readScene(nlohmann::json const& document, nyxScene& scene) {
         }
         scene.setUnitScale(scale->number());
     }
-    readSection(file, "colors", scene, readColor);
-    readSection(file, "colorways", scene, readColorway);
-    readSection(file, "materials", scene, readMaterial);
+    readSection(file, "colors", scene.colors(), readColor);
+    readSection(file, "colorways", scene.colorways(), readColorway);
+    readSection(file, "materials", scene.materials(), readMaterial);
     if (auto const layers = file.find("lightLayers")) {
         scene.lights().replace(readLightLayers(*layers));
     }
@@ -263,18 +270,18 @@ void readScene(nlohmann::json const& document, nyxScene& scene) {
         scene.lightLayers().setEnvironmentMask(mask->word());
     }
     readSection(file, "hierarchy", scene, readItem);
-    readSection(file, "surfaces", scene, readSurface);
+    readSection(file, "surfaces", scene.surfaces(), readSurface);
     if (auto const settings = file.find("settings")) {
         settings->checkObject({"activeColorway"});
-        scene.setActiveColorway(readReference<nyx::ColorwayId>(*settings, "activeColorway"));
+        scene.colorways().setActive(readReference<nyx::ColorwayId>(*settings, "activeColorway"));
     }
     if (auto const next = file.find("nextIds")) {
         next->checkObject({"color", "colorway", "material", "item", "surface"});
-        scene.skipIdsBelow(readNextId(*next, "color", scene.nextColorId()),
-                           readNextId(*next, "colorway", scene.nextColorwayId()),
-                           readNextId(*next, "material", scene.nextMaterialId()),
-                           readNextId(*next, "item", scene.nextItemId()));
-        scene.surfaces().skipIdsBelow(readNextId(*next, "surface", scene.surfaces().nextId()));
+        readNextId(*next, "color", scene.colors());
+        readNextId(*next, "colorway", scene.colorways());
+        readNextId(*next, "material", scene.materials());
+        readNextId(*next, "item", scene.items());
+        readNextId(*next, "surface", scene.surfaces());
     }
 }
 

@@ -1,7 +1,13 @@
 #include "scenefile/SceneWriter.h"
 
 #include "scenefile/SurfaceSection.h"
+#include "store/ColorStore.h"
+#include "store/ColorwayStore.h"
+#include "store/ItemTree.h"
+#include "store/LightLayers.h"
+#include "store/MaterialStore.h"
 #include "store/Scene.h"
+#include "store/Surfaces.h"
 #include "store/jsonText.h"
 
 #include <cstdint>
@@ -149,7 +155,7 @@ void write(std::string& out, std::map<std::string, std::string> const& values) {
     out += ']';
 }
 
-void write(std::string& out, nyxMaterial const& record) {
+void write(std::string& out, MaterialRecord const& record) {
     Line line(out);
     line.value("id", record.id);
     line.text("name", record.name);
@@ -207,27 +213,29 @@ std::string writeScene(nyxScene const& scene) {
     out += ",\n  \"nextIds\": ";
     {
         Line line(out);
-        line.value("color", scene.nextColorId());
-        line.value("colorway", scene.nextColorwayId());
-        line.value("material", scene.nextMaterialId());
-        line.value("item", scene.nextItemId());
+        line.value("color", scene.colors().nextId());
+        line.value("colorway", scene.colorways().nextId());
+        line.value("material", scene.materials().nextId());
+        line.value("item", scene.items().nextId());
         if (scene.surfaces().nextId().toUint() > 1) {
             line.value("surface", scene.surfaces().nextId());
         }
     }
     {
         Section section(out, "colors");
-        scene.forEachColor([&](ColorRecord const& record) { write(section.next(), record); });
+        scene.colors().forEach([&](ColorRecord const& record) { write(section.next(), record); });
     }
     {
         Section section(out, "colorways");
-        scene.forEachColorway([&](ColorwayRecord const& record) { write(section.next(), record); });
+        scene.colorways().forEach(
+            [&](ColorwayRecord const& record) { write(section.next(), record); });
     }
     out += ",\n  \"settings\": ";
-    Line(out).reference("activeColorway", scene.activeColorway());
+    Line(out).reference("activeColorway", scene.colorways().active());
     {
         Section section(out, "materials");
-        scene.forEachMaterial([&](nyxMaterial const& record) { write(section.next(), record); });
+        scene.materials().forEach(
+            [&](MaterialRecord const& record) { write(section.next(), record); });
     }
     LightLayers const& layers = scene.lightLayers();
     out.append(",\n  \"environmentLightMask\": ").append(number(layers.environmentMask()));
@@ -239,7 +247,7 @@ std::string writeScene(nyxScene const& scene) {
     }
     {
         Section section(out, "hierarchy");
-        scene.forEachItem([&](GroupItem const& item) { write(section.next(), item, layers); });
+        scene.items().forEach([&](GroupItem const& item) { write(section.next(), item, layers); });
     }
     if (auto const surfaces = scene.surfaces().all(); !surfaces.empty()) {
         Section section(out, "surfaces");

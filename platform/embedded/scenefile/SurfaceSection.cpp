@@ -1,6 +1,6 @@
 #include "scenefile/SurfaceSection.h"
 
-#include "store/Scene.h"
+#include "store/Surfaces.h"
 #include "store/jsonText.h"
 
 #include <QByteArray>
@@ -182,13 +182,13 @@ void appendSurface(std::string& out, Surface const& surface) {
     out += "]}";
 }
 
-void readSurface(JsonNode const& node, nyxScene& scene) {
+void readSurface(JsonNode const& node, Surfaces& surfaces) {
     node.checkObject({"id", "name", "resolution", "deleted", "editLayer", "layers"});
     SurfaceInfo info;
     JsonNode const id = node.member("id");
     info.id = nyx::SurfaceId(id.word(1, lastId));
-    if (info.id < scene.surfaces().nextId()) {
-        id.fail("ids ascend: expected " + std::to_string(scene.surfaces().nextId().toUint()) +
+    if (info.id < surfaces.nextId()) {
+        id.fail("ids ascend: expected " + std::to_string(surfaces.nextId().toUint()) +
                 " or more, found " + std::to_string(info.id.toUint()));
     }
     if (auto const name = node.find("name")) {
@@ -207,7 +207,7 @@ void readSurface(JsonNode const& node, nyxScene& scene) {
             layer.fail("two layers have this id");
         }
     });
-    scene.surfaces().add(info, std::move(layers));
+    surfaces.add(info, std::move(layers));
 }
 
 } // namespace nyx::embedded

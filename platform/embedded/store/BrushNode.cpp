@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <functional>
 
+nyx::painter::nyxBrush_node::~nyxBrush_node() = default;
+
 namespace nyx::embedded {
 
 BrushNode::BrushNode(BrushKind const& kind) : kind_(kind), params_(kind.params.size()) {

@@ -1,15 +1,18 @@
 #include "store/Hierarchy.h"
 
-#include "store/Scene.h"
+#include "nyxembedded/Journal.h"
+#include "store/ItemTree.h"
 
 #include <vector>
+
+nyxScene_hierarchy::~nyxScene_hierarchy() = default;
 
 namespace nyx::embedded {
 
 void Hierarchy::walk(std::function<void(nyxGroup_item const&)> const& visit) const {
-    scene_.journal().write("walk");
+    journal_.write("walk");
     // With a stack of its own: a file may nest groups deeper than calls may.
-    std::vector<nyxGroup_item const*> waiting(scene_.topItems().rbegin(), scene_.topItems().rend());
+    std::vector<nyxGroup_item const*> waiting(items_.topItems().rbegin(), items_.topItems().rend());
     while (!waiting.empty()) {
         nyxGroup_item const& item = *waiting.back();
         waiting.pop_back();
@@ -22,15 +25,5 @@ void Hierarchy::walk(std::function<void(nyxGroup_item const&)> const& visit) con
         }
     }
 }
-
-bool LightShader::info(unsigned query) const { return query == 4100 && light_.unlisted; }
-
-nyx::ObjectId GroupItem::object_id() const {
-    return record.kind == ItemKind::Group ? nyx::ObjectId() : nyx::ObjectId(record.id.toUint());
-}
-
-nyxShader* GroupItem::shader() const { return is_light() ? &lightShader : nullptr; }
-
-std::uint32_t GroupItem::light_layer_mask() const { return is_light() ? lightShader.mask : 0; }
 
 } // namespace nyx::embedded

@@ -2,18 +2,20 @@
 
 #include "nyxrender/nyxScene_hierarchy.h"
 
-class nyxScene;
-
 namespace nyx::embedded {
 
-/// The tree of a scene's items.
+class ItemTree;
+class Journal;
+
+/// The tree of a scene's items as the renderer's clients walk it.
 class Hierarchy final : public nyxScene_hierarchy {
 public:
-    explicit Hierarchy(nyxScene& scene) : scene_(scene) {}
+    Hierarchy(ItemTree const& items, Journal& journal) : items_(items), journal_(journal) {}
     void walk(std::function<void(nyxGroup_item const&)> const& visit) const override;
 
 private:
-    nyxScene& scene_;
+    ItemTree const& items_;
+    Journal& journal_;
 };
 
 } // namespace nyx::embedded

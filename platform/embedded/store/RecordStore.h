@@ -35,6 +35,10 @@ public:
 
     /// The id that the next record will have when it does not ask for one.
     [[nodiscard]] std::uint32_t nextId() const { return nextId_; }
+    /// `wanted`, or nextId() for the invalid id.
+    [[nodiscard]] std::uint32_t idFor(std::uint32_t wanted) const {
+        return wanted == invalidId ? nextId_ : wanted;
+    }
     /// Keeps ids below `id` from being given out.
     void skipIdsBelow(std::uint32_t id) { nextId_ = std::max(nextId_, id); }
 

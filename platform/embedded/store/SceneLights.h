@@ -6,18 +6,17 @@
 
 #include <memory>
 
-class nyxScene;
-
 namespace nyx::embedded {
 
+class ItemTree;
 class LightLayers;
 
 /// What keeps the light layers of a scene and its lights together: only lights of the scene are in
 /// layers, each is in one, and its shader's mask says in which.
 class SceneLights {
 public:
-    SceneLights(nyxScene& scene, std::unique_ptr<nyxLight_layer_db> database)
-        : scene_(scene), database_(std::move(database)) {}
+    SceneLights(ItemTree& items, LightLayers& layers, std::unique_ptr<nyxLight_layer_db> database)
+        : items_(items), layers_(layers), database_(std::move(database)) {}
 
     /// What the renderer's clients are lent.
     [[nodiscard]] nyxLight_layer_db* database() const { return database_.get(); }
@@ -33,7 +32,8 @@ public:
     void follow(LightLayers const& layers, nyx::Span<nyx::ObjectId> lights);
 
 private:
-    nyxScene& scene_;
+    ItemTree& items_;
+    LightLayers& layers_;
     std::unique_ptr<nyxLight_layer_db> database_;
 };
 

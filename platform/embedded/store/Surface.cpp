@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <utility>
 
+nyxCustomSurface::~nyxCustomSurface() = default;
+
 namespace nyx::embedded {
 
 using Guard = std::lock_guard<std::mutex>;

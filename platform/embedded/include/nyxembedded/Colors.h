@@ -10,17 +10,16 @@
 #include <string>
 #include <vector>
 
-class nyxScene;
-
 namespace nyx::embedded {
 
+class ColorStore;
 class Notifications;
 
 /// The colours and multi-colours of a renderer's scene; Renderer::colors() has them. Main thread.
 class NYXRENDER_EXPORT Colors {
 public:
-    Colors(nyxScene& scene, Notifications& notifications)
-        : scene_(scene), notifications_(notifications) {}
+    Colors(ColorStore& colors, Notifications& notifications)
+        : colors_(colors), notifications_(notifications) {}
 
     // Building, which notifies nobody. Names are made unique; unknown sub-colours are kept.
 
@@ -45,7 +44,7 @@ public:
     void announce();
 
 private:
-    nyxScene& scene_;
+    ColorStore& colors_;
     Notifications& notifications_;
 };
 

@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-class nyxScene;
-
 namespace nyx::embedded {
 
+class ColorStore;
+class ColorwayStore;
 class Notifications;
 
 /// A multi-colour and the sub-colour that a colorway makes active in it.
@@ -24,8 +24,8 @@ struct ColorwayPair {
 /// The colorways of a renderer's scene; Renderer::colorways() has them. Main thread.
 class NYXRENDER_EXPORT Colorways {
 public:
-    Colorways(nyxScene& scene, Notifications& notifications)
-        : scene_(scene), notifications_(notifications) {}
+    Colorways(ColorwayStore& colorways, ColorStore& colors, Notifications& notifications)
+        : colorways_(colorways), colors_(colors), notifications_(notifications) {}
 
     /// Notifies nobody. The name is taken as it is; unknown colours are kept.
     nyx::ColorwayId add(std::string const& name, nyx::Span<ColorwayPair> pairs);
@@ -49,7 +49,8 @@ public:
     bool activate(nyx::ColorwayId id);
 
 private:
-    nyxScene& scene_;
+    ColorwayStore& colorways_;
+    ColorStore& colors_;
     Notifications& notifications_;
 };
 

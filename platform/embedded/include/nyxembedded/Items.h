@@ -8,15 +8,16 @@
 #include <string>
 #include <vector>
 
-class nyxScene;
-
 namespace nyx::embedded {
+
+class ItemTree;
+class LightLayers;
 
 /// The groups, objects and lights of a renderer's scene; Renderer::items() has them. Building
 /// notifies nobody. Main thread.
 class NYXRENDER_EXPORT Items {
 public:
-    explicit Items(nyxScene& scene) : scene_(scene) {}
+    Items(ItemTree& items, LightLayers const& layers) : items_(items), layers_(layers) {}
 
     // Names are taken as they are. Nothing is made under an unknown parent, and the result is the
     // invalid id.
@@ -42,7 +43,8 @@ public:
     [[nodiscard]] nyx::LightLayerId lightLayer(nyx::ObjectId light) const;
 
 private:
-    nyxScene& scene_;
+    ItemTree& items_;
+    LightLayers const& layers_;
 };
 
 } // namespace nyx::embedded

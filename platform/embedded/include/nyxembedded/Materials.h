@@ -9,15 +9,17 @@
 #include <string>
 #include <vector>
 
-class nyxScene;
-
 namespace nyx::embedded {
+
+class ItemTree;
+class MaterialStore;
 
 /// The materials of a renderer's scene; Renderer::materials() has them. Building notifies nobody.
 /// Main thread.
 class NYXRENDER_EXPORT Materials {
 public:
-    explicit Materials(nyxScene& scene) : scene_(scene) {}
+    Materials(MaterialStore& materials, ItemTree const& items)
+        : materials_(materials), items_(items) {}
 
     /// A material without places. The name is taken as it is.
     nyx::MaterialId add(std::string const& name);
@@ -42,7 +44,8 @@ public:
     [[nodiscard]] bool isUsed(nyx::MaterialId id) const;
 
 private:
-    nyxScene& scene_;
+    MaterialStore& materials_;
+    ItemTree const& items_;
 };
 
 } // namespace nyx::embedded

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "nyxembedded/ColorRecord.h"
-#include "nyxembedded/ColorwayRecord.h"
 #include "nyxembedded/ItemRecord.h"
-#include "nyxembedded/MaterialRecord.h"
 #include "nyxrender/Ids.h"
+#include "nyxrender/Span.h"
 #include "nyxrender/nyxGroup_item.h"
 #include "nyxrender/nyxShader.h"
 
@@ -12,11 +10,7 @@
 #include <utility>
 #include <vector>
 
-// What the scene makes of the records of materials and items: what the renderer's clients are lent.
-
 namespace nyx::embedded {
-
-class Journal;
 
 /// A light's shader: all that it knows is about light layers.
 class LightShader final : public nyxShader {
@@ -41,7 +35,7 @@ public:
 
     [[nodiscard]] nyx::GroupItemId id() const override { return record.id; }
     [[nodiscard]] nyx::ObjectId object_id() const override;
-    [[nodiscard]] bool is_light() const override { return record.kind == ItemKind::Light; }
+    [[nodiscard]] bool is_light() const override { return record.isLight(); }
     [[nodiscard]] nyx::Span<nyxGroup_item*> children() const override { return childItems; }
     [[nodiscard]] nyxShader* shader() const override;
     [[nodiscard]] std::uint32_t light_layer_mask() const override;
@@ -52,9 +46,3 @@ public:
 };
 
 } // namespace nyx::embedded
-
-/// A material as it is handed out. Everything but the places may be changed directly.
-class nyxMaterial : public nyx::embedded::MaterialRecord {
-public:
-    nyx::embedded::Journal* journal = nullptr; ///< set when the material is handed out
-};
