@@ -206,7 +206,7 @@ TEST(ZCMFSchema, readsSavedTextTheFastWayWithoutADifference) {
     EXPECT_EQ(fast, schema);
     // One character left out, repeated, or replaced; the blank keeps it from the fast way.
     for (qsizetype at = 0; at < file.size(); ++at) {
-        for (char const c : std::string("\0A|\"\\\n8-}, 1", 13)) {
+        for (char const c : std::string("\0A|\"\\\n8-}, 1", 12)) {
             for (QByteArray changed :
                  {QByteArray(file).replace(at, 1, &c, 1), QByteArray(file).insert(at, c),
                   QByteArray(file).remove(at, 1)}) {

@@ -112,9 +112,9 @@ TEST_F(RendererColors, ListsFollowFlagsThatAreWrittenIntoTheNewRecord) {
     ColorId const multi = create("Cover", 1);
     ColorId const unnamed = create("");
     ColorId const temporary = create("Sand", 4);
+    EXPECT_THAT(nyx_get_colors_named(scene()), ElementsAre(plain, multi));
     EXPECT_THAT(nyx_get_colors(scene(), nyxColor_extended::PlainColor),
                 ElementsAre(plain, unnamed));
-    EXPECT_THAT(nyx_get_colors_named(scene()), ElementsAre(plain, multi));
     EXPECT_THAT(nyx_color_from_name(scene(), "Cover"), IsEmpty());
     EXPECT_EQ(uniqueName("Sand", {plain}), "Sand") << "a preview takes no name away";
 
