@@ -2,6 +2,7 @@
 
 #include "Rows.h"
 
+#include "nyxembedded/Host.h"
 #include "nyxembedded/MaterialManager.h"
 #include "nyxembedded/Renderer.h"
 #include "nyxrender/nyxParameter_edit.h"
@@ -145,6 +146,17 @@ void editToEvent() {
         });
 }
 
+/// A scene file that is in memory already, until the root stands over it.
+void loading() {
+    bench::contestant("0", "load 100 k colours", bench::ours, [](benchmark::State& state) {
+        std::string const text = Studio(100'000).renderer.saveSceneText();
+        for (auto _ : state) {
+            nyx::embedded::Host host;
+            benchmark::DoNotOptimize(host.loadSceneText(text));
+        }
+    })->Unit(benchmark::kMillisecond);
+}
+
 void drags() {
     for (bool const plain : {true, false}) {
         bench::contestant("growth",
@@ -228,6 +240,7 @@ void mixed() {
 
 bool const registered = [] {
     editToEvent();
+    loading();
     wholeEdit();
     drags();
     mixed();

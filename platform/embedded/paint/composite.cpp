@@ -4,14 +4,19 @@
 #include "paint/toByte.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 #include <memory>
+#include <system_error>
+#include <thread>
 
 namespace nyx::embedded {
 
 namespace {
 
 constexpr int edge = PixelTile::edge;
+/// A thread takes longer to begin than fewer rows of tiles take.
+constexpr int fewestRows = 8;
 
 /// Whether every texel's alpha is that value. Most tiles say no in their first row.
 bool isAlphaEverywhere(PixelTile const& tile, std::uint8_t value) {
@@ -135,20 +140,37 @@ private:
 } // namespace
 
 Image composite(std::vector<CompositeLayer> const& layers, int resolution) {
-    Image image{resolution, resolution, {}};
     auto const size = static_cast<std::size_t>(resolution);
-    image.rgba.reserve(size * size * 4);
-    TileStack stack(layers);
-    for (int top = 0; top < resolution; top += edge) {
-        // A row of tiles at a time, so that it is still in the cache when they are copied there.
-        auto const bottom = static_cast<std::size_t>(std::min(top + edge, resolution));
-        image.rgba.resize(bottom * size * 4);
-        for (int left = 0; left < resolution; left += edge) {
-            if (PixelTile const* const tile = stack.composite(left / edge, top / edge)) {
-                copyOut(*tile, image, left, top);
+    Image image{resolution, resolution, std::vector<std::uint8_t>(size * size * 4)};
+    int const tileRows = (resolution + edge - 1) / edge;
+    std::atomic<int> next = 0;
+    auto const work = [&](TileStack& stack) noexcept {
+        for (int row = next++; row < tileRows; row = next++) {
+            for (int left = 0; left < resolution; left += edge) {
+                if (PixelTile const* const tile = stack.composite(left / edge, row)) {
+                    copyOut(*tile, image, left, row * edge);
+                }
             }
         }
+    };
+    // What a worker needs is made before the first begins: no worker can fail.
+    auto const shares =
+        std::min(std::thread::hardware_concurrency(), static_cast<unsigned>(tileRows / fewestRows));
+    std::vector<std::unique_ptr<TileStack>> stacks;
+    for (unsigned i = 0; i == 0 || i < shares; ++i) {
+        stacks.push_back(std::make_unique<TileStack>(layers));
     }
+    std::vector<std::jthread> helpers;
+    helpers.reserve(stacks.size());
+    try {
+        for (std::size_t i = 1; i < stacks.size(); ++i) {
+            helpers.emplace_back([&work, &stack = *stacks[i]] { work(stack); });
+        }
+    } catch (std::system_error const&) {
+        // The system has no more threads: those that there are do all of it.
+    }
+    work(*stacks[0]);
+    helpers.clear();
     return image;
 }
 

@@ -16,6 +16,7 @@ struct CompositeLayer {
 };
 
 /// Layers of one resolution from the bottom up, each blended into those below it (see blendTile).
+/// Big ones are shared between the processors; the result is the same.
 [[nodiscard]] Image composite(std::vector<CompositeLayer> const& layers, int resolution);
 
 } // namespace nyx::embedded
