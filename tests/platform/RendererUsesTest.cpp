@@ -15,7 +15,6 @@
 using nyx::ColorId;
 using nyx::MaterialId;
 using nyx::embedded::ColorRecord;
-using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
 
