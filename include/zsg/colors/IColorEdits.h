@@ -16,14 +16,8 @@ namespace zsg {
 // the record; who posts events or calls out while walking it copies it first.
 
 /// The flag bits of colour and colorway records.
-struct ColorFlags {
-    static constexpr unsigned MultiColor = 1; ///< lists sub-colours, one of them active
-    static constexpr unsigned Temporary = 4;  ///< the preview colour, left out of all lists
-};
-struct ColorwayFlags {
-    static constexpr unsigned Deleted = 1;
-    static constexpr unsigned Active = 2;
-};
+using ColorFlags = nyxColor_flags;
+using ColorwayFlags = nyxColorway_flags;
 
 /// One colour.
 class ZSG_EXPORT IColorExtEdit {

@@ -18,7 +18,7 @@ nyx::ColorId Colors::add(std::string const& name, nyxColor_rgba const& value) {
 nyx::ColorId Colors::addMulti(std::string const& name, nyx::Span<nyx::ColorId> subColors,
                               nyx::ColorId active) {
     ColorRecord record;
-    record.flags = ColorRecord::MultiColor;
+    record.flags = nyxColor_flags::MultiColor;
     record.name = colors_.uniqueName(upToZero(name), {});
     record.subColors.assign(subColors.begin(), subColors.end());
     record.activeSub = active;
@@ -38,14 +38,14 @@ nyx::ColorId Colors::find(std::string const& name) const {
 
 std::optional<ColorRecord> Colors::record(nyx::ColorId id) const {
     ColorRecord const* const record = colors_.find(id);
-    return record == nullptr ? std::nullopt : std::optional(*record);
+    return record ? std::optional(*record) : std::nullopt;
 }
 
 bool Colors::remove(nyx::ColorId id) { return colors_.remove(id); }
 
 bool Colors::change(nyx::ColorId id, nyxColor_rgba const& value) {
     ColorRecord const* const record = colors_.find(id);
-    if (record == nullptr) {
+    if (!record) {
         return false;
     }
     ColorRecord changed = *record;

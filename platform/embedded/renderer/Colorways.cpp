@@ -1,6 +1,7 @@
 #include "nyxembedded/Colorways.h"
 
 #include "api/Notifications.h"
+#include "nyxrender/nyxColor.h"
 #include "renderer/upToZero.h"
 #include "store/ColorStore.h"
 #include "store/ColorwayStore.h"
@@ -36,7 +37,7 @@ nyx::ColorwayId Colorways::find(std::string const& name) const {
 
 std::optional<ColorwayRecord> Colorways::record(nyx::ColorwayId id) const {
     ColorwayRecord const* const record = colorways_.find(id);
-    return record == nullptr ? std::nullopt : std::optional(*record);
+    return record ? std::optional(*record) : std::nullopt;
 }
 
 nyx::ColorwayId Colorways::active() const { return colorways_.active(); }
@@ -45,13 +46,13 @@ bool Colorways::remove(nyx::ColorwayId id) { return colorways_.remove(id); }
 
 bool Colorways::activate(nyx::ColorwayId id) {
     ColorwayRecord const* const wanted = colorways_.find(id);
-    if (wanted == nullptr) {
+    if (!wanted) {
         return false;
     }
     std::vector<ColorwayRecord> flagged;
     colorways_.forEach([&](ColorwayRecord const& colorway) {
-        std::uint32_t const flags = colorway.id == id ? colorway.flags | ColorwayRecord::Active
-                                                      : colorway.flags & ~ColorwayRecord::Active;
+        std::uint32_t const flags = colorway.id == id ? colorway.flags | nyxColorway_flags::Active
+                                                      : colorway.flags & ~nyxColorway_flags::Active;
         if (flags != colorway.flags) {
             flagged.push_back(colorway);
             flagged.back().flags = flags;
@@ -65,7 +66,7 @@ bool Colorways::activate(nyx::ColorwayId id) {
     for (std::size_t i = 0; i < pairs; ++i) {
         ColorRecord const* const multi = colors_.find(wanted->multiColors[i]);
         nyx::ColorId const sub = wanted->activeSubs[i];
-        if (multi != nullptr && multi->isMulti() &&
+        if (multi && multi->isMulti() &&
             std::find(multi->subColors.begin(), multi->subColors.end(), sub) !=
                 multi->subColors.end()) {
             ColorRecord changed = *multi;

@@ -9,7 +9,7 @@ nyx::ColorId ColorStore::add(ColorRecord record) {
     nyx::ColorId const id(contents_.records.idFor(record.id.toUint()));
     record.id = id;
     ColorRecord const* const added = contents_.records.emplace(id.toUint(), std::move(record));
-    if (added == nullptr) {
+    if (!added) {
         return {};
     }
     list(*added, {}, listsOf(*added, added->flags));
@@ -22,7 +22,7 @@ bool ColorStore::update(ColorRecord const& values) {
     noticeLentFlags();
     nyx::ColorId const id = values.id;
     ColorRecord* const record = contents_.records.find(id.toUint());
-    if (record == nullptr) {
+    if (!record) {
         return false;
     }
     bool changed = false;
@@ -62,8 +62,8 @@ bool ColorStore::update(ColorRecord const& values) {
 }
 
 ColorStore::Lists ColorStore::listsOf(ColorRecord const& record, std::uint32_t flags) {
-    bool const listed = (flags & ColorRecord::Temporary) == 0;
-    bool const multi = (flags & ColorRecord::MultiColor) != 0;
+    bool const listed = (flags & nyxColor_flags::Temporary) == 0;
+    bool const multi = (flags & nyxColor_flags::MultiColor) != 0;
     return {listed && !multi, listed && multi, listed && !record.name.empty()};
 }
 
@@ -80,7 +80,7 @@ void ColorStore::enlist(nyx::ColorId id, Lists before, Lists after) {
     apply(contents_.named, before.named, after.named);
 }
 
-// The same for a record whose name stays.
+/// The same for a record whose name stays.
 void ColorStore::list(ColorRecord const& record, Lists before, Lists after) {
     if (before.named && !after.named) {
         contents_.names.remove(record.name, record.id);
@@ -93,7 +93,7 @@ void ColorStore::list(ColorRecord const& record, Lists before, Lists after) {
 bool ColorStore::remove(nyx::ColorId id) {
     noticeLentFlags();
     ColorRecord const* const record = find(id);
-    if (record == nullptr) {
+    if (!record) {
         return false;
     }
     list(*record, listsOf(*record, record->flags), {});
@@ -109,14 +109,14 @@ bool ColorStore::remove(nyx::ColorId id) {
 nyxColor_record* ColorStore::lend(nyx::ColorId id) {
     noticeLentFlags();
     lent_ = contents_.records.find(id.toUint());
-    lentFlagsSeen_ = lent_ == nullptr ? 0 : lent_->flags;
+    lentFlagsSeen_ = lent_ ? lent_->flags : 0;
     return lent_;
 }
 
-// The borrower of the last record writes its flags without a call; what depends on flags is put
-// right before anybody can see it.
+/// The borrower of the last record writes its flags without a call; what depends on flags is put
+/// right before anybody can see it.
 void ColorStore::noticeLentFlags() {
-    if (lent_ == nullptr || lent_->flags == lentFlagsSeen_) {
+    if (!lent_ || lent_->flags == lentFlagsSeen_) {
         return;
     }
     ColorRecord const& record = *find(lent_->id);
@@ -150,7 +150,7 @@ std::string ColorStore::uniqueName(std::string const& name, nyx::Span<nyx::Color
     noticeLentFlags();
     return contents_.names.unique(name, ignored, [this](nyx::ColorId id) {
         ColorRecord const* const record = find(id);
-        return record == nullptr ? nullptr : &record->name;
+        return record ? &record->name : nullptr;
     });
 }
 

@@ -17,6 +17,18 @@ struct nyxColor_rgba {
     friend bool operator==(nyxColor_rgba const&, nyxColor_rgba const&) = default;
 };
 
+/// The flag bits of colour records.
+struct nyxColor_flags {
+    static constexpr std::uint32_t MultiColor = 1; ///< lists sub-colours, one of them active
+    static constexpr std::uint32_t Temporary = 4;  ///< the preview colour, left out of all lists
+};
+
+/// The flag bits of colorway records.
+struct nyxColorway_flags {
+    static constexpr std::uint32_t Deleted = 1;
+    static constexpr std::uint32_t Active = 2;
+};
+
 /// The kinds of colour records that can be listed and created.
 struct nyxColor_extended {
     enum ColorType : std::uint32_t {

@@ -11,17 +11,14 @@ namespace nyx::embedded {
 
 /// A colour of the scene, or a multi-colour, as the scene holds it and its file keeps it.
 struct ColorRecord : nyxColor_record {
-    static constexpr std::uint32_t MultiColor = 1;
-    static constexpr std::uint32_t Temporary = 4; ///< the preview colour, left out of all lists
-
     std::string name; ///< UTF-8
     std::string originalName;
     nyxColor_rgba value{0, 0, 0, 1};
     std::vector<nyx::ColorId> subColors; ///< may name colours that are gone, or one twice
     nyx::ColorId activeSub;              ///< meant to be one of them; nothing forces it
 
-    [[nodiscard]] bool isMulti() const { return (flags & MultiColor) != 0; }
-    [[nodiscard]] bool isTemporary() const { return (flags & Temporary) != 0; }
+    [[nodiscard]] bool isMulti() const { return (flags & nyxColor_flags::MultiColor) != 0; }
+    [[nodiscard]] bool isTemporary() const { return (flags & nyxColor_flags::Temporary) != 0; }
 };
 
 } // namespace nyx::embedded

@@ -11,12 +11,9 @@ namespace nyx::embedded {
 /// A colorway of the scene: the multi-colours that it covers, and the sub-colour that it makes
 /// active in each.
 struct ColorwayRecord {
-    static constexpr std::uint32_t Deleted = 1;
-    static constexpr std::uint32_t Active = 2;
-
     nyx::ColorwayId id;
-    std::uint32_t flags = 0;
-    std::string name; ///< UTF-8
+    std::uint32_t flags = 0; ///< nyxColorway_flags
+    std::string name;        ///< UTF-8
     std::vector<nyx::ColorId> multiColors;
     std::vector<nyx::ColorId> activeSubs; ///< meant to be as long as multiColors; nothing forces it
 
