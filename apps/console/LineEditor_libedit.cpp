@@ -44,7 +44,7 @@ std::optional<std::string> editLine(char const* prompt) {
         using_history();
     }
     std::unique_ptr<char, decltype(&std::free)> const line(readline(prompt), &std::free);
-    if (line == nullptr) {
+    if (!line) {
         return {};
     }
     if (line.get()[0] != '\0') {

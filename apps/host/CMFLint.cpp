@@ -40,7 +40,7 @@ public:
         version(root);
         schemaName(root);
         PlacedJson const* const attributes = root.find("attributes");
-        if (attributes == nullptr) {
+        if (!attributes) {
             fault(root.line, "", "there are no \"attributes\"");
         } else if (attributes->kind != Kind::Array || attributes->elements.empty()) {
             fault(attributes->line, "/attributes", "is no array with at least one attribute");
@@ -76,7 +76,7 @@ private:
 
     void version(PlacedJson const& root) {
         PlacedJson const* const value = root.find("version");
-        if (value == nullptr) {
+        if (!value) {
             fault(root.line, "", "there is no \"version\"");
         } else if (value->kind != Kind::Number || toInt(value->number) != 1) {
             fault(value->line, "/version", "is not the number 1");
@@ -85,7 +85,7 @@ private:
 
     void schemaName(PlacedJson const& root) {
         PlacedJson const* const value = root.find("schemaName");
-        if (value == nullptr) {
+        if (!value) {
             fault(root.line, "", "there is no \"schemaName\"");
         } else if (value->kind != Kind::String) {
             fault(value->line, "/schemaName", "is no string");
@@ -106,7 +106,7 @@ private:
         if (!known) {
             return; // it is left out before this is looked at
         }
-        if (visible == nullptr) {
+        if (!visible) {
             fault(value.line, place, "there is no \"visible\"");
         } else if (visible->kind != Kind::Boolean) {
             fault(visible->line, place + "/visible", "is neither true nor false");
@@ -116,7 +116,7 @@ private:
     /// False for a kind that makes the loader leave the attribute out.
     bool kind(PlacedJson const& attribute, std::string const& place) {
         PlacedJson const* const value = attribute.find("kind");
-        if (value == nullptr) {
+        if (!value) {
             fault(attribute.line, place, "there is no \"kind\"");
             return true;
         }
@@ -141,7 +141,7 @@ private:
     void name(PlacedJson const& attribute, std::string const& place, bool known) {
         PlacedJson const* const value = attribute.find("name");
         std::string const here = place + "/name";
-        if (value == nullptr) {
+        if (!value) {
             fault(attribute.line, place, "there is no \"name\"");
             return;
         }

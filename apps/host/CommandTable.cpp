@@ -94,7 +94,7 @@ std::vector<Command const*> const& allCommands() {
 
 void carryOut(Host& host, std::vector<std::string> const& words) {
     auto const [command, used] = find(words);
-    if (command == nullptr) {
+    if (!command) {
         bool const isFamily = std::ranges::any_of(
             allCommands(), [&](Command const* c) { return c->name.starts_with(words[0] + ' '); });
         if (isFamily && words.size() == 1) {

@@ -10,7 +10,7 @@ namespace app {
 
 zsg::IPainterBrush& currentBrush(Host& host) {
     auto const& brush = host.sceneState<CurrentBrush>().brush;
-    if (brush == nullptr) {
+    if (!brush) {
         throw CommandError("there is no brush; \"brush create\" makes one");
     }
     return *brush;

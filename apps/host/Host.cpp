@@ -13,7 +13,7 @@ Host::Host(std::ostream& out) : out_(&out) {
     embedded_.watchRoot([this](zsg::ISceneGraph* root) {
         sceneStates_.clear();
         events_.reset();
-        if (root == nullptr) {
+        if (!root) {
             return;
         }
         events_.emplace(*root->eventQueue(), [this](EventLog::Entry const& e) {

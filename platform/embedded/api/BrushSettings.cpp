@@ -17,7 +17,7 @@ public:
 
     [[nodiscard]] Reader link(char const* name) const {
         auto const* const value = published(name, nyxScene_api::TypeNode);
-        return {graph_, value == nullptr ? nullptr : value->node};
+        return {graph_, value ? value->node : nullptr};
     }
     void read(char const* name, float& out) const {
         if (auto const* const value = published(name, nyxScene_api::TypeFloat)) {
@@ -44,7 +44,7 @@ public:
         read("jitter", out.jitter);
     }
     void read(std::shared_ptr<BrushImage const>& out) const {
-        if (node_ != nullptr) {
+        if (node_) {
             out = node_->publishedImage();
         }
     }
@@ -52,7 +52,7 @@ public:
 
 private:
     [[nodiscard]] BrushNode::Param::Value const* published(char const* name, int type) const {
-        return node_ == nullptr ? nullptr : node_->published(name, type);
+        return node_ ? node_->published(name, type) : nullptr;
     }
 
     BrushGraph const& graph_;

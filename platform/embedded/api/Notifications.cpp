@@ -82,13 +82,13 @@ void Notifications::forgetMessages() {
     waiting_.colors.clear();
     waitingColors_.clear();
     waiting_.messages.clear();
-    if (delivering_ != nullptr) {
+    if (delivering_) {
         delivering_->messages.clear();
     }
 }
 
 void Notifications::schedule(Guard const&) {
-    if (!posted_ && delivering_ == nullptr && QCoreApplication::instance() != nullptr) {
+    if (!posted_ && !delivering_ && QCoreApplication::instance()) {
         posted_ = true;
         QCoreApplication::postEvent(this, new QEvent(QEvent::User));
     }
@@ -116,7 +116,7 @@ void Notifications::turn() {
     {
         Guard const guard(mutex_);
         posted_ = false;
-        if (delivering_ != nullptr) {
+        if (delivering_) {
             return;
         }
     }
@@ -124,7 +124,7 @@ void Notifications::turn() {
 }
 
 void Notifications::processEvents() {
-    if (delivering_ != nullptr) { // written by this thread alone
+    if (delivering_) { // written by this thread alone
         return;
     }
     for (int turn = 0; turn < turnLimit; ++turn) {

@@ -35,7 +35,7 @@ nyx::SurfaceId Painter::create_surface(char const* name, int resolution) {
         --scene_->faults().failCreations;
         return {};
     }
-    return scene_->surfaces().create(name == nullptr ? "" : name, resolution);
+    return scene_->surfaces().create(name ? name : "", resolution);
 }
 
 nyxCustomSurface* Painter::surface(nyx::SurfaceId id) const {
@@ -48,13 +48,13 @@ bool Painter::change_resolution(nyxScene* scene, nyx::SurfaceId id, unsigned res
     }
     scene_->journal().write("change_resolution", id, resolution);
     Surface* const surface = scene_->surfaces().find(id);
-    return surface != nullptr && resolution <= static_cast<unsigned>(Surface::mostTexels) &&
+    return surface && resolution <= static_cast<unsigned>(Surface::mostTexels) &&
            surface->resample(static_cast<int>(resolution));
 }
 
 nyxPainter* PainterFactory::create(char const* kind) {
     scene_.journal().write("create_painter", kind);
-    if (scene_.faults().noPainter || kind == nullptr || std::string_view(kind) != "svdag_painter") {
+    if (scene_.faults().noPainter || !kind || std::string_view(kind) != "svdag_painter") {
         return nullptr;
     }
     return painters_.emplace_back(std::make_unique<Painter>(scene_)).get();
@@ -78,5 +78,5 @@ std::size_t PainterFactory::count() const {
 } // namespace nyx::embedded
 
 nyxPainter_factory* nyx_painter_factory(nyxScene* scene) {
-    return scene == nullptr ? nullptr : scene->painterFactory();
+    return scene ? scene->painterFactory() : nullptr;
 }

@@ -19,7 +19,7 @@ public:
     [[nodiscard]] nyxCustomSurface* surface(nyx::SurfaceId id) const override;
     bool change_resolution(nyxScene* scene, nyx::SurfaceId id, unsigned resolution) override;
 
-    [[nodiscard]] bool isReleased() const { return scene_ == nullptr; }
+    [[nodiscard]] bool isReleased() const { return !scene_; }
     void release() { scene_ = nullptr; }
 
 private:

@@ -70,14 +70,14 @@ struct Block final : nyxParameter_edit {
 };
 
 nyx::Span<nyxParameter_entry> entriesOf(nyxParameter_edit const& block) {
-    if (block.entries == nullptr || block.count <= 0) {
+    if (!block.entries || block.count <= 0) {
         return {};
     }
     return {block.entries, static_cast<std::size_t>(block.count)};
 }
 
 nyx::Span<nyx::ColorId> listOf(nyxParameter_entry const& entry) {
-    if (entry.value.list.ids == nullptr || entry.value.list.count <= 0) {
+    if (!entry.value.list.ids || entry.value.list.count <= 0) {
         return {};
     }
     return {entry.value.list.ids, static_cast<std::size_t>(entry.value.list.count)};
@@ -115,7 +115,7 @@ struct BlockDeleter {
 using BlockPointer = std::unique_ptr<Block, BlockDeleter>;
 
 void readText(nyxParameter_entry const& entry, std::string& into) {
-    into = entry.value.text == nullptr ? "" : entry.value.text;
+    into = entry.value.text ? entry.value.text : "";
 }
 
 void readList(nyxParameter_entry const& entry, std::vector<nyx::ColorId>& into) {

@@ -19,7 +19,7 @@ namespace {
 
 /// How the journal names a block: by the record that a commit would write to.
 nyx::ColorId recordOf(nyxParameter_edit const* block) {
-    return block == nullptr ? nyx::ColorId() : nyx::ColorId(block->record_id);
+    return block ? nyx::ColorId(block->record_id) : nyx::ColorId();
 }
 
 } // namespace
@@ -66,7 +66,7 @@ nyxParameter_edit* RtApi::lendNew(nyxParameter_edit* block) {
 }
 
 bool RtApi::mayCommit(nyxParameter_edit const* block, std::int32_t kind) {
-    if (block == nullptr || block->kind != kind) {
+    if (!block || block->kind != kind) {
         return false;
     }
     if (generationOf(*block) == scene_.generation()) {
@@ -82,13 +82,13 @@ bool RtApi::mayCommit(nyxParameter_edit const* block, std::int32_t kind) {
 nyxParameter_edit* RtApi::color_params(nyx::ColorId id) {
     scene_.journal().write("color_params", id);
     ColorRecord const* const record = scene_.colors().find(id);
-    return record == nullptr ? nullptr : lendNew(makeColorBlock(*record, scene_.strings()));
+    return record ? lendNew(makeColorBlock(*record, scene_.strings())) : nullptr;
 }
 
 nyxParameter_edit* RtApi::colorway_params(nyx::ColorwayId id) {
     scene_.journal().write("colorway_params", id);
     ColorwayRecord const* const record = scene_.colorways().find(id);
-    return record == nullptr ? nullptr : lendNew(makeColorwayBlock(*record, scene_.strings()));
+    return record ? lendNew(makeColorwayBlock(*record, scene_.strings())) : nullptr;
 }
 
 nyxParameter_edit* RtApi::color_settings_params() {
@@ -103,7 +103,7 @@ void RtApi::commit_color_params(nyxParameter_edit* block) {
         return;
     }
     ColorRecord const* const record = scene_.colors().find(nyx::ColorId(block->record_id));
-    if (record == nullptr) {
+    if (!record) {
         return;
     }
     ColorRecord values = *record;
@@ -119,7 +119,7 @@ void RtApi::commit_colorway_params(nyxParameter_edit* block) {
         return;
     }
     ColorwayRecord const* const record = scene_.colorways().find(nyx::ColorwayId(block->record_id));
-    if (record == nullptr) {
+    if (!record) {
         return;
     }
     ColorwayRecord values = *record;
@@ -138,7 +138,7 @@ void RtApi::commit_color_settings_params(nyxParameter_edit* block) {
 
 void RtApi::release(char const* call, nyxParameter_edit* block) {
     scene_.journal().write(call, recordOf(block));
-    if (block != nullptr) {
+    if (block) {
         releaseBlock(block);
         --blocks_;
     }
@@ -158,7 +158,7 @@ void RtApi::release_color_settings_params(nyxParameter_edit* block) {
 
 nyxParameter_edit* RtApi::clone_color_params(nyxParameter_edit const* block, bool copy_values) {
     scene_.journal().write("clone_color_params", recordOf(block));
-    return block == nullptr ? nullptr : lend(cloneBlock(*block, copy_values));
+    return block ? lend(cloneBlock(*block, copy_values)) : nullptr;
 }
 
 void RtApi::change_layer_lights(nyx::LightLayerId layer, nyx::Span<nyx::ObjectId> lights,
@@ -182,7 +182,7 @@ void RtApi::set_layer_flags(nyx::LightLayerId layer, nyx::Flags<layerFlags> flag
 }
 
 void RtApi::update_brush_node(nyx::painter::nyxBrush_node* node) {
-    scene_.journal().write("update_brush_node", node == nullptr ? nullptr : node->kind());
+    scene_.journal().write("update_brush_node", node ? node->kind() : nullptr);
     if (BrushNode* const known = scene_.brushes().find(node)) {
         known->publish();
     }

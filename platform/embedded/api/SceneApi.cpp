@@ -58,11 +58,11 @@ nyx::ColorwayId const* SceneApi::end_colorway() {
 
 void SceneApi::set_param(char const* name, int type, char const* text) {
     scene_.journal().write("set_param", name, type, text);
-    if (name == nullptr || type != TypeText) {
+    if (!name || type != TypeText) {
         return;
     }
     std::string_view const parameter = name;
-    std::string const value = text == nullptr ? "" : text;
+    std::string const value = text ? text : "";
     if (parameter == "display_name") {
         (making_ == Making::Color ? color_.name : colorway_.name) = value;
     } else if (parameter == "original_name") {
@@ -72,9 +72,7 @@ void SceneApi::set_param(char const* name, int type, char const* text) {
 
 // A node that is not being made, and a parameter of another type, are as good as unknown.
 BrushNode::Param* SceneApi::brushParam(char const* name, int type, int wantedType) {
-    return brushNode_ == nullptr || name == nullptr || type != wantedType
-               ? nullptr
-               : brushNode_->find(name, type);
+    return !brushNode_ || !name || type != wantedType ? nullptr : brushNode_->find(name, type);
 }
 
 void SceneApi::set_param(char const* name, int type, float value) {
@@ -90,13 +88,13 @@ void SceneApi::set_param(char const* name, int type, nyxColor const& value) {
         param->value.c[0] = value.r;
         param->value.c[1] = value.g;
         param->value.c[2] = value.b;
-    } else if (name != nullptr && type == TypeColor && std::string_view(name) == "color") {
+    } else if (name && type == TypeColor && std::string_view(name) == "color") {
         color_.value = {value.r, value.g, value.b, 1};
     }
 }
 
 void SceneApi::set_param(char const* name, int type, nyx::painter::nyxBrush_node* node) {
-    scene_.journal().write("set_param", name, type, node == nullptr ? nullptr : node->kind());
+    scene_.journal().write("set_param", name, type, node ? node->kind() : nullptr);
     if (auto* const param = brushParam(name, type, TypeNode)) {
         param->value.node = node;
     }
@@ -105,7 +103,7 @@ void SceneApi::set_param(char const* name, int type, nyx::painter::nyxBrush_node
 void SceneApi::begin_brush_node(char const* kind, int extra) {
     scene_.journal().write("begin_brush_node", kind, extra);
     begin(Making::BrushNode);
-    if (BrushKind const* const known = kind == nullptr ? nullptr : findBrushKind(kind)) {
+    if (BrushKind const* const known = kind ? findBrushKind(kind) : nullptr) {
         brushNode_ = std::make_unique<BrushNode>(*known);
     }
 }
@@ -113,7 +111,7 @@ void SceneApi::begin_brush_node(char const* kind, int extra) {
 nyx::painter::nyxBrush_node* SceneApi::end_brush_node() {
     scene_.journal().write("end_brush_node");
     auto node = std::exchange(brushNode_, nullptr);
-    if (!end(Making::BrushNode) || node == nullptr) {
+    if (!end(Making::BrushNode) || !node) {
         return nullptr;
     }
     node->publish();

@@ -22,7 +22,7 @@ nyx::Unique_array<typename List::value_type> toArray(List const& ids) {
 
 nyx::Unique_array<nyx::ColorId> colorsOfName(nyxScene& scene, char const* name, bool multi) {
     std::vector<nyx::ColorId> ids;
-    for (nyx::ColorId const id : scene.colors().named(name == nullptr ? "" : name)) {
+    for (nyx::ColorId const id : scene.colors().named(name ? name : "")) {
         if (scene.colors().find(id)->isMulti() == multi) {
             ids.push_back(id);
         }
@@ -34,7 +34,7 @@ nyx::Unique_array<nyx::ColorId> colorsOfName(nyxScene& scene, char const* name, 
 
 void nyx_get_colordb_revision(nyxScene* scene, unsigned& color_revision,
                               unsigned& colorway_revision) {
-    if (scene != nullptr) {
+    if (scene) {
         scene->journal().write("nyx_get_colordb_revision");
         color_revision = scene->colors().revision();
         colorway_revision = scene->colorways().revision();
@@ -42,7 +42,7 @@ void nyx_get_colordb_revision(nyxScene* scene, unsigned& color_revision,
 }
 
 nyx::Unique_array<nyx::ColorId> nyx_get_colors(nyxScene* scene, nyxColor_extended::ColorType type) {
-    if (scene == nullptr) {
+    if (!scene) {
         return {};
     }
     scene->journal().write("nyx_get_colors", static_cast<std::uint32_t>(type));
@@ -56,7 +56,7 @@ nyx::Unique_array<nyx::ColorId> nyx_get_colors(nyxScene* scene, nyxColor_extende
 }
 
 nyx::Unique_array<nyx::ColorId> nyx_get_colors_named(nyxScene* scene) {
-    if (scene == nullptr) {
+    if (!scene) {
         return {};
     }
     scene->journal().write("nyx_get_colors_named");
@@ -64,7 +64,7 @@ nyx::Unique_array<nyx::ColorId> nyx_get_colors_named(nyxScene* scene) {
 }
 
 nyx::Unique_array<nyx::ColorwayId> nyx_get_colorways(nyxScene* scene) {
-    if (scene == nullptr) {
+    if (!scene) {
         return {};
     }
     scene->journal().write("nyx_get_colorways");
@@ -74,7 +74,7 @@ nyx::Unique_array<nyx::ColorwayId> nyx_get_colorways(nyxScene* scene) {
 }
 
 nyx::Unique_array<nyx::ColorId> nyx_color_from_name(nyxScene* scene, char const* name) {
-    if (scene == nullptr) {
+    if (!scene) {
         return {};
     }
     scene->journal().write("nyx_color_from_name", name);
@@ -82,7 +82,7 @@ nyx::Unique_array<nyx::ColorId> nyx_color_from_name(nyxScene* scene, char const*
 }
 
 nyx::Unique_array<nyx::ColorId> nyx_multi_color_from_name(nyxScene* scene, char const* name) {
-    if (scene == nullptr) {
+    if (!scene) {
         return {};
     }
     scene->journal().write("nyx_multi_color_from_name", name);
@@ -90,7 +90,7 @@ nyx::Unique_array<nyx::ColorId> nyx_multi_color_from_name(nyxScene* scene, char 
 }
 
 nyx::Unique_array<nyx::ColorwayId> nyx_colorway_from_name(nyxScene* scene, char const* name) {
-    if (scene == nullptr || name == nullptr) {
+    if (!scene || !name) {
         return {};
     }
     scene->journal().write("nyx_colorway_from_name", name);
@@ -104,7 +104,7 @@ nyx::Unique_array<nyx::ColorwayId> nyx_colorway_from_name(nyxScene* scene, char 
 }
 
 unsigned nyx_color_reference_count(nyxScene* scene, nyx::ColorId id) {
-    if (scene == nullptr) {
+    if (!scene) {
         return 0;
     }
     scene->journal().write("nyx_color_reference_count", id);
@@ -112,7 +112,7 @@ unsigned nyx_color_reference_count(nyxScene* scene, nyx::ColorId id) {
 }
 
 void nyx_color_set_unique_name(nyxScene* scene, nyx::ColorId id) {
-    if (scene == nullptr) {
+    if (!scene) {
         return;
     }
     scene->journal().write("nyx_color_set_unique_name", id);
@@ -128,7 +128,7 @@ void nyx_color_set_unique_name(nyxScene* scene, nyx::ColorId id) {
 
 char* nyx_color_find_unique_name(nyxScene* scene, char const* name, nyx::Span<nyx::ColorId> ignored,
                                  nyxColor_extended::ColorType type) {
-    if (scene == nullptr || name == nullptr) {
+    if (!scene || !name) {
         return nullptr;
     }
     scene->journal().write("nyx_color_find_unique_name", name, ignored,
@@ -139,7 +139,7 @@ char* nyx_color_find_unique_name(nyxScene* scene, char const* name, nyx::Span<ny
     // Names are unique among plain and multi-colours together, so the type makes no difference.
     std::string const unique = scene->colors().uniqueName(name, ignored);
     auto* const text = static_cast<char*>(std::malloc(unique.size() + 1));
-    if (text == nullptr) {
+    if (!text) {
         throw std::bad_alloc();
     }
     std::memcpy(text, unique.c_str(), unique.size() + 1);
@@ -149,7 +149,7 @@ char* nyx_color_find_unique_name(nyxScene* scene, char const* name, nyx::Span<ny
 
 nyx::Unique_array<nyx::MaterialId> nyx_get_materials_using_color(nyxScene* scene, nyx::ColorId id,
                                                                  unsigned how, bool unassigned) {
-    if (scene == nullptr) {
+    if (!scene) {
         return {};
     }
     scene->journal().write("nyx_get_materials_using_color", id, how, unassigned);

@@ -15,7 +15,7 @@ using nyx::embedded::LightLayers;
 
 namespace {
 
-std::string textOf(char const* text) { return text == nullptr ? std::string() : text; }
+std::string textOf(char const* text) { return text ? text : std::string(); }
 
 template <class Id>
 nyx::Unique_array<Id> arrayOf(std::vector<Id> const& ids) {
@@ -36,9 +36,9 @@ struct nyxLight_layer_db::Data {
     template <class... Parts>
     void write(char const* call, Parts const&... parts) const {
         std::shared_ptr<Journal*> const to = journal.lock();
-        if (to != nullptr && (*to)->isRecording()) {
+        if (to && (*to)->isRecording()) {
             std::string const line =
-                std::string(scene != nullptr ? "light_layers." : "light_layers_copy.") + call;
+                std::string(scene ? "light_layers." : "light_layers_copy.") + call;
             (*to)->write(line.c_str(), parts...);
         }
     }
@@ -57,7 +57,7 @@ nyxLight_layer_db::~nyxLight_layer_db() = default;
 
 nyx::LightLayerId nyxLight_layer_db::create_layer(char const* name, nyx::LightLayerId wanted) {
     data_->write("create_layer", textOf(name), wanted);
-    if (data_->scene != nullptr && data_->scene->faults().failCreations > 0) {
+    if (data_->scene && data_->scene->faults().failCreations > 0) {
         --data_->scene->faults().failCreations;
         return {};
     }
@@ -66,7 +66,7 @@ nyx::LightLayerId nyxLight_layer_db::create_layer(char const* name, nyx::LightLa
 
 void nyxLight_layer_db::delete_layer(nyx::LightLayerId id) {
     data_->write("delete_layer", id);
-    if (data_->scene != nullptr) {
+    if (data_->scene) {
         data_->scene->lights().markDeleted(id);
     } else {
         data_->layers->markDeleted(id);
@@ -85,7 +85,7 @@ void nyxLight_layer_db::clone_layer(nyx::LightLayerId target, nyx::LightLayerId 
 
 void nyxLight_layer_db::add_lights(nyx::Span<nyx::ObjectId> lights, nyx::LightLayerId id) {
     data_->write("add_lights", lights, id);
-    if (data_->scene != nullptr) {
+    if (data_->scene) {
         data_->scene->lights().put(lights, id);
     } else {
         data_->layers->put(lights, id);
@@ -94,7 +94,7 @@ void nyxLight_layer_db::add_lights(nyx::Span<nyx::ObjectId> lights, nyx::LightLa
 
 void nyxLight_layer_db::remove_lights(nyx::Span<nyx::ObjectId> lights, nyx::LightLayerId id) {
     data_->write("remove_lights", lights, id);
-    if (data_->scene != nullptr) {
+    if (data_->scene) {
         data_->scene->lights().take(lights, id);
     } else {
         data_->layers->take(lights, id);
@@ -109,7 +109,7 @@ void nyxLight_layer_db::set_flags(nyx::LightLayerId id, nyx::Flags<layerFlags> f
 nyx::Flags<layerFlags> nyxLight_layer_db::flags(nyx::LightLayerId id) const {
     data_->write("flags", id);
     LightLayer const* const layer = data_->layers->find(id);
-    return layer == nullptr ? nyx::Flags<layerFlags>() : layer->flags;
+    return layer ? layer->flags : nyx::Flags<layerFlags>();
 }
 
 std::uint32_t nyxLight_layer_db::layer_bitmask(nyx::LightLayerId id) const {
@@ -135,7 +135,7 @@ std::string nyxLight_layer_db::find_unique_name(char const* text) const {
 char const* nyxLight_layer_db::get_layer_name(nyx::LightLayerId id) const {
     data_->write("get_layer_name", id);
     LightLayer const* const layer = data_->layers->find(id);
-    return layer == nullptr ? nullptr : layer->name.c_str();
+    return layer ? layer->name.c_str() : nullptr;
 }
 
 void nyxLight_layer_db::set_layer_name(nyx::LightLayerId id, char const* name) {
@@ -144,10 +144,10 @@ void nyxLight_layer_db::set_layer_name(nyx::LightLayerId id, char const* name) {
 }
 
 void nyxLight_layer_db::sync(nyxLight_layer_db const* source) {
-    if (source == nullptr || source == this) {
+    if (!source || source == this) {
         return;
     }
-    if (data_->scene == nullptr) {
+    if (!data_->scene) {
         data_->journal = source->data_->journal;
         *data_->layers = *source->data_->layers;
     } else {
@@ -168,7 +168,7 @@ nyx::Unique_array<nyx::ObjectId> nyxLight_layer_db::get_lights(nyx::LightLayerId
 
 bool nyxLight_layer_db::contains(nyx::LightLayerId id, nyx::ObjectId light) const {
     data_->write("contains", id, light);
-    return data_->layers->find(id) != nullptr && data_->layers->layerOf(light) == id;
+    return data_->layers->find(id) && data_->layers->layerOf(light) == id;
 }
 
 unsigned nyxLight_layer_db::get_layer_count() const {

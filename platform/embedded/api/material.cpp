@@ -7,7 +7,7 @@ namespace {
 
 template <class... Parts>
 void journal(nyxMaterial const& material, char const* call, Parts const&... parts) {
-    if (material.journal != nullptr) {
+    if (material.journal) {
         material.journal->write(call, material.id, parts...);
     }
 }
@@ -15,12 +15,12 @@ void journal(nyxMaterial const& material, char const* call, Parts const&... part
 } // namespace
 
 nyxMaterial* nyx_material_from_id(nyxScene* scene, nyx::MaterialId id) {
-    if (scene == nullptr) {
+    if (!scene) {
         return nullptr;
     }
     scene->journal().write("nyx_material_from_id", id);
     nyxMaterial* const material = scene->materials().find(id);
-    if (material != nullptr) {
+    if (material) {
         material->journal = &scene->journal();
     }
     return material;
@@ -47,8 +47,8 @@ void nyx_material_clear_cmf_values(nyxMaterial& material) {
 
 void nyx_material_set_cmf_value(nyxMaterial& material, char const* key, char const* value) {
     journal(material, "nyx_material_set_cmf_value", key, value);
-    if (key != nullptr) {
-        material.cmfValues[key] = value == nullptr ? "" : value;
+    if (key) {
+        material.cmfValues[key] = value ? value : "";
     }
 }
 
@@ -59,7 +59,7 @@ char const* nyx_material_metadata(nyxMaterial const& material) {
 
 void nyx_material_set_metadata(nyxMaterial& material, char const* json) {
     journal(material, "nyx_material_set_metadata", json);
-    material.metadata = json == nullptr ? "" : json;
+    material.metadata = json ? json : "";
 }
 
 nyx::Span<unsigned> nyx_material_items(nyxMaterial const& material) {

@@ -44,7 +44,7 @@ void* nyx::Unique_array_helper::allocate(std::size_t bytes) {
         return nullptr;
     }
     void* const memory = std::malloc(bytes);
-    if (memory == nullptr) {
+    if (!memory) {
         throw std::bad_alloc();
     }
     ++accounts().arrays;
@@ -52,7 +52,7 @@ void* nyx::Unique_array_helper::allocate(std::size_t bytes) {
 }
 
 void nyx::Unique_array_helper::free(void* memory) noexcept {
-    if (memory != nullptr) {
+    if (memory) {
         --accounts().arrays;
         std::free(memory);
     }
@@ -63,7 +63,7 @@ void* nyx_malloc_aligned(std::size_t bytes, std::size_t alignment) {
         return nullptr;
     }
     void* const memory = allocateAligned(bytes, alignment);
-    if (memory == nullptr) {
+    if (!memory) {
         throw std::bad_alloc();
     }
     ++accounts().alignedBlocks;
@@ -71,14 +71,14 @@ void* nyx_malloc_aligned(std::size_t bytes, std::size_t alignment) {
 }
 
 void nyx_free_aligned(void* memory) noexcept {
-    if (memory != nullptr) {
+    if (memory) {
         --accounts().alignedBlocks;
         freeAligned(memory);
     }
 }
 
 void nyx_free(void* memory) noexcept {
-    if (memory != nullptr) {
+    if (memory) {
         --accounts().texts;
         std::free(memory);
     }

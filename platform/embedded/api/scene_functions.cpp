@@ -8,9 +8,7 @@
 #include "store/Scene.h"
 #include "store/StringPool.h"
 
-nyxScene_api* nyx_get_scene_api(nyxScene* scene) {
-    return scene == nullptr ? nullptr : scene->api();
-}
+nyxScene_api* nyx_get_scene_api(nyxScene* scene) { return scene ? scene->api() : nullptr; }
 
 double nyx_scene_unit_scale(nyxScene const& scene) {
     scene.journal().write("nyx_scene_unit_scale");
@@ -18,13 +16,13 @@ double nyx_scene_unit_scale(nyxScene const& scene) {
 }
 
 char* nyx_string_dup(nyxScene& scene, char const* text) {
-    return text == nullptr ? nullptr : scene.strings().duplicate(text);
+    return text ? scene.strings().duplicate(text) : nullptr;
 }
 
 nyxGroup_item* nyx_group_item_from_id(nyxScene* scene, nyx::GroupItemId id) {
-    return scene == nullptr ? nullptr : scene->items().find(id);
+    return scene ? scene->items().find(id) : nullptr;
 }
 
 nyxScene_hierarchy* nyx_scene_hierarchy_get(nyxScene* scene) {
-    return scene == nullptr ? nullptr : scene->hierarchy();
+    return scene ? scene->hierarchy() : nullptr;
 }

@@ -38,14 +38,14 @@ public:
     void endRoot() {
         tasks.waitIdle();
         undoStack.clear();
-        if (root != nullptr && watcher) {
+        if (root && watcher) {
             watcher(nullptr);
         }
         root.reset();
     }
 
     void forward(nyxMessage const& message) {
-        if (root == nullptr) {
+        if (!root) {
             return;
         }
         struct Forwarding {
@@ -63,7 +63,7 @@ public:
                               : "no scene can be loaded while a command runs";
         }
         std::string message = loadInto([this] { endRoot(); });
-        if (root == nullptr) {
+        if (!root) {
             buildRoot();
         }
         return message;
@@ -109,7 +109,7 @@ std::string Host::loadSceneText(std::string const& json) {
 
 void Host::watchRoot(std::function<void(zsg::ISceneGraph*)> watcher) {
     impl_->watcher = std::move(watcher);
-    if (impl_->watcher && impl_->root != nullptr) {
+    if (impl_->watcher && impl_->root) {
         impl_->watcher(impl_->root.get());
     }
 }

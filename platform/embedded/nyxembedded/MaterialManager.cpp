@@ -113,7 +113,7 @@ public:
             renderer_, material_, std::move(changes),
             QCoreApplication::translate("ZEditMaterialCommand", "Edit Material %1")
                 .arg(QString::fromStdString(material->name)));
-        if (undoStack_ != nullptr) {
+        if (undoStack_) {
             undoStack_->push(command.release());
         } else {
             command->redo();
@@ -160,7 +160,7 @@ zsg::IMaterialEdit* MaterialManager::createMaterialEdit(nyx::MaterialId material
         return nullptr;
     }
     std::unique_ptr<zsg::IMaterialEdit>& edit = impl_->edits[material];
-    if (edit == nullptr) {
+    if (!edit) {
         edit = std::make_unique<MaterialEdit>(impl_->renderer, material, impl_->undoStack);
     }
     return edit.get();

@@ -92,7 +92,7 @@ RenderTaskQueue::~RenderTaskQueue() {
 }
 
 void RenderTaskQueue::addBlockingRenderTask(ZTask* task) {
-    if (task == nullptr) {
+    if (!task) {
         return;
     }
     // The queue's own from here on, also when there is no room for it.

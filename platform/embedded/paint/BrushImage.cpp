@@ -44,7 +44,7 @@ std::shared_ptr<BrushImage const> readBrushImage(std::string const& path, std::s
         return nullptr;
     }
     File const open = openToRead(file);
-    if (open == nullptr) {
+    if (!open) {
         message = path + ": " + std::generic_category().message(errno);
         return nullptr;
     }

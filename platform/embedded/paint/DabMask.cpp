@@ -49,7 +49,7 @@ float DabMasks::Gray::at(int x, int y) const {
 
 DabMasks::DabMasks(BrushSettings const& brush)
     : hardness_(brush.hardness > 0 ? std::min(brush.hardness, 1.0f) : 0.0f) {
-    if (brush.stencil == nullptr) {
+    if (!brush.stencil) {
         return;
     }
     BrushImage const& image = *brush.stencil;
@@ -165,7 +165,7 @@ DabMask const& DabMasks::mask(Dab const& dab) {
     auto const slot = static_cast<std::size_t>(py) * static_cast<std::size_t>(parts_) +
                       static_cast<std::size_t>(px);
     auto& kept = kept_[slot];
-    if (kept == nullptr) {
+    if (!kept) {
         float const x = (static_cast<float>(px) + 0.5f) / static_cast<float>(parts_);
         float const y = (static_cast<float>(py) + 0.5f) / static_cast<float>(parts_);
         kept =

@@ -48,8 +48,7 @@ void readRow(LayerPixels const& pixels, int plane, int y, std::vector<float>& ro
         for (int x = 0; x < count; ++x) {
             int const at = column * edge + x;
             row[static_cast<std::size_t>(at)] =
-                tile == nullptr ? 0.0f
-                                : static_cast<float>(tile->planes[plane][y % edge * edge + x]);
+                tile ? static_cast<float>(tile->planes[plane][y % edge * edge + x]) : 0.0f;
         }
     }
 }
@@ -107,7 +106,7 @@ std::array<std::uint8_t, 4> LayerPixels::texel(int x, int y) const {
     }
     int const edge = PixelTile::edge;
     PixelTile const* const found = tile(x / edge, y / edge).get();
-    if (found == nullptr) {
+    if (!found) {
         return {};
     }
     int const at = y % edge * edge + x % edge;

@@ -66,7 +66,7 @@ void StrokeCoverage::add(DabMask const& mask, Dab const& dab) {
         std::uint16_t const* const row = mask.row(y - originY);
         for (int x = std::max(originX + extent.begin, 0); x < end;) {
             auto& tile = tiles_[slot(x / edge, y / edge)];
-            if (tile == nullptr) {
+            if (!tile) {
                 tile = std::make_unique<Tile>();
             }
             int const count = std::min(end - x, edge - x % edge);
@@ -89,7 +89,7 @@ void StrokeCoverage::paintOn(LayerPixels& pixels, BrushSettings const& brush) co
     for (int row = 0; row < tilesAcross_; ++row) {
         for (int column = 0; column < tilesAcross_; ++column) {
             Tile const* const covered = tiles_[slot(column, row)].get();
-            if (covered == nullptr) {
+            if (!covered) {
                 continue;
             }
             PixelTile& tile = pixels.writableTile(column, row);
@@ -99,7 +99,7 @@ void StrokeCoverage::paintOn(LayerPixels& pixels, BrushSettings const& brush) co
                     continue;
                 }
                 std::uint8_t const* color = solid;
-                if (texture != nullptr) {
+                if (texture) {
                     color = texture->at((column * edge + i % edge) % texture->width,
                                         (row * edge + i / edge) % texture->height);
                     alpha = alpha * color[3] / 255u;

@@ -85,10 +85,10 @@ public:
         PixelTile const* shown = nullptr;
         for (std::size_t i = lowestSeen(column, row); i < layers_.size(); ++i) {
             PixelTile const* const source = withBackground(i, column, row);
-            if (source == nullptr || isAlphaEverywhere(*source, 0)) {
+            if (!source || isAlphaEverywhere(*source, 0)) {
                 continue;
             }
-            if (shown == nullptr) { // over nothing, every mode leaves the source as it is
+            if (!shown) { // over nothing, every mode leaves the source as it is
                 shown = source;
                 if (source == &over_) {
                     sum_ = over_;
@@ -109,7 +109,7 @@ private:
     /// The topmost layer that hides everything beneath it, or the lowest.
     [[nodiscard]] std::size_t lowestSeen(int column, int row) const {
         auto const isOpaque = [](PixelTile const* tile) {
-            return tile != nullptr && isAlphaEverywhere(*tile, 255);
+            return tile && isAlphaEverywhere(*tile, 255);
         };
         for (std::size_t i = layers_.size(); i-- > 1;) {
             if (layers_[i].mode == nyx::ColorBlendMode::Normal &&
@@ -123,8 +123,8 @@ private:
     PixelTile const* withBackground(std::size_t layer, int column, int row) {
         PixelTile const* const pixels = layers_[layer].pixels.tile(column, row).get();
         PixelTile const* const background = backgrounds_[layer].get();
-        if (pixels == nullptr || background == nullptr) {
-            return pixels != nullptr ? pixels : background;
+        if (!pixels || !background) {
+            return pixels ? pixels : background;
         }
         over_ = *background;
         blendTile(over_, *pixels, nyx::ColorBlendMode::Normal);

@@ -80,7 +80,7 @@ void StrokeMask::apply(LayerPixels& pixels, nyxColor_rgba const& color, bool era
         for (int column = 0; column < tilesAcross_; ++column) {
             int const number = row * tilesAcross_ + column;
             Tile const* const mask = tiles_[static_cast<std::size_t>(number)].get();
-            if (mask == nullptr || (erase && !pixels.tile(column, row))) {
+            if (!mask || (erase && !pixels.tile(column, row))) {
                 continue;
             }
             PixelTile& tile = pixels.writableTile(column, row);

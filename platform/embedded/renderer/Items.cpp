@@ -23,7 +23,7 @@ nyx::ObjectId Items::addLight(std::string const& name, nyx::GroupItemId parent) 
 
 bool Items::setUnlisted(nyx::ObjectId light, bool unlisted) {
     GroupItem* const item = items_.findLight(light);
-    if (item == nullptr) {
+    if (!item) {
         return false;
     }
     item->record.unlisted = unlisted;
@@ -46,7 +46,7 @@ nyx::GroupItemId Items::find(std::string const& name) const {
 
 std::optional<ItemRecord> Items::record(nyx::GroupItemId id) const {
     GroupItem const* const item = items_.find(id);
-    return item == nullptr ? std::nullopt : std::optional(item->record);
+    return item ? std::optional(item->record) : std::nullopt;
 }
 
 nyx::LightLayerId Items::lightLayer(nyx::ObjectId light) const { return layers_.layerOf(light); }

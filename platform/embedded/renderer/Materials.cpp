@@ -26,7 +26,7 @@ bool Materials::rebindColor(nyx::MaterialId id, std::uint32_t node, std::string 
 
 bool Materials::setItems(nyx::MaterialId id, std::vector<unsigned> items) {
     nyxMaterial* const record = materials_.find(id);
-    if (record == nullptr) {
+    if (!record) {
         return false;
     }
     record->items = std::move(items);
@@ -51,7 +51,7 @@ bool Materials::contains(nyx::MaterialId id) const { return materials_.find(id) 
 
 std::optional<MaterialRecord> Materials::record(nyx::MaterialId id) const {
     MaterialRecord const* const record = materials_.find(id);
-    return record == nullptr ? std::nullopt : std::optional(*record);
+    return record ? std::optional(*record) : std::nullopt;
 }
 
 bool Materials::isUsed(nyx::MaterialId id) const { return items_.isMaterialUsed(id); }

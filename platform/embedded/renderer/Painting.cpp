@@ -21,27 +21,27 @@ std::vector<nyx::SurfaceId> Painting::surfaces() const {
 
 std::optional<SurfaceInfo> Painting::surface(nyx::SurfaceId id) const {
     Surface const* const surface = surfaces_.find(id);
-    return surface == nullptr ? std::nullopt : std::optional(surface->info());
+    return surface ? std::optional(surface->info()) : std::nullopt;
 }
 
 std::optional<LayerPixels> Painting::pixels(nyx::SurfaceId id, std::uint32_t layer) const {
     Surface const* const surface = surfaces_.find(id);
-    return surface == nullptr ? std::nullopt : surface->pixels(layer);
+    return surface ? surface->pixels(layer) : std::nullopt;
 }
 
 bool Painting::setPixels(nyx::SurfaceId id, std::uint32_t layer, LayerPixels pixels) {
     Surface* const surface = surfaces_.find(id);
-    return surface != nullptr && surface->setPixels(layer, std::move(pixels));
+    return surface && surface->setPixels(layer, std::move(pixels));
 }
 
 bool Painting::paint(nyx::SurfaceId id, std::uint32_t layer, Stroke const& stroke) {
     Surface* const surface = surfaces_.find(id);
-    return surface != nullptr && surface->paint(layer, stroke);
+    return surface && surface->paint(layer, stroke);
 }
 
 Image Painting::composite(nyx::SurfaceId id) const {
     Surface const* const surface = surfaces_.find(id);
-    return surface == nullptr ? Image() : surface->composite();
+    return surface ? surface->composite() : Image();
 }
 
 } // namespace nyx::embedded

@@ -39,12 +39,12 @@ int hexDigit(char c) {
 } // namespace
 
 std::string JsonNode::place() const {
-    if (parent_ == nullptr) {
+    if (!parent_) {
         return "the file";
     }
     std::string const token = parent_->value_.is_array() ? std::string("/") + std::to_string(index_)
                                                          : pointerToken(std::string(key_));
-    return parent_->parent_ == nullptr ? token : parent_->place() + token;
+    return parent_->parent_ ? parent_->place() + token : token;
 }
 
 void JsonNode::fail(std::string const& problem) const {

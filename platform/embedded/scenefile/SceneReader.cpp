@@ -154,7 +154,7 @@ LightLayers readLightLayers(JsonNode const& list) {
             id);
         next = nyx::LightLayerId(id.toUint() + 1);
     });
-    if (layers.find(LightLayers::defaultLayer) == nullptr) {
+    if (!layers.find(LightLayers::defaultLayer)) {
         list.fail("there is no layer 1");
     }
     return layers;
@@ -183,7 +183,7 @@ void readItem(JsonNode const& node, nyxScene& scene) {
     if (auto const parent = node.find("parent")) {
         record.parent = nyx::GroupItemId(parent->word());
         // Parents before their children, so that no item can be its own ancestor.
-        if (scene.items().find(record.parent) == nullptr) {
+        if (!scene.items().find(record.parent)) {
             parent->failExpected("the id of an item further up");
         }
     }
@@ -200,7 +200,7 @@ void readItem(JsonNode const& node, nyxScene& scene) {
         if (!item.is_light()) {
             layer->fail("only lights are in light layers");
         }
-        if (scene.lightLayers().find(wanted) == nullptr) {
+        if (!scene.lightLayers().find(wanted)) {
             layer->failExpected("the id of a light layer");
         }
         scene.lights().put({item.object_id()}, wanted);

@@ -27,7 +27,7 @@ void appendTiles(std::string& out, LayerPixels const& pixels) {
     for (int row = 0; row < pixels.tilesAcross(); ++row) {
         for (int column = 0; column < pixels.tilesAcross(); ++column) {
             PixelTile const* const tile = pixels.tile(column, row).get();
-            if (tile == nullptr || isTransparent(*tile)) {
+            if (!tile || isTransparent(*tile)) {
                 continue;
             }
             QByteArray const text =

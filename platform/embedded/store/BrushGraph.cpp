@@ -29,7 +29,7 @@ void BrushGraph::loadFile(BrushNode::Param& param, char const* path) {
         nyx_warning("nyxrender: load_brush_file() of what is no file parameter of the scene\n");
         return;
     }
-    std::string const text = path == nullptr ? "" : path;
+    std::string const text = path ? path : "";
     param.value.file = strings_.intern(text);
     node->second->setImage(text.empty() ? nullptr : image(text));
 }
@@ -49,7 +49,7 @@ std::shared_ptr<BrushImage const> BrushGraph::image(std::string const& path) {
     }
     std::string message;
     auto read = readBrushImage(path, message);
-    if (read == nullptr) {
+    if (!read) {
         nyx_warning("nyxrender: %s\n", message.c_str());
     } else if (!error) {
         images_.insert_or_assign(path, CachedImage{time, bytes, read});

@@ -7,7 +7,7 @@ namespace nyx::embedded {
 nyx::ColorwayId ColorwayStore::add(ColorwayRecord record) {
     nyx::ColorwayId const id(contents_.records.idFor(record.id.toUint()));
     record.id = id;
-    if (contents_.records.emplace(id.toUint(), std::move(record)) == nullptr) {
+    if (!contents_.records.emplace(id.toUint(), std::move(record))) {
         return {};
     }
     ++revision_;
@@ -16,7 +16,7 @@ nyx::ColorwayId ColorwayStore::add(ColorwayRecord record) {
 
 bool ColorwayStore::update(ColorwayRecord const& values) {
     ColorwayRecord* const record = contents_.records.find(values.id.toUint());
-    if (record == nullptr || *record == values) {
+    if (!record || *record == values) {
         return false;
     }
     if (record->name != values.name || record->flags != values.flags) {

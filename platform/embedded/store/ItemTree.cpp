@@ -8,16 +8,16 @@ namespace nyx::embedded {
 
 nyx::GroupItemId ItemTree::add(ItemRecord record) {
     GroupItem* const parent = find(record.parent);
-    if (record.parent.isValid() && parent == nullptr) {
+    if (record.parent.isValid() && !parent) {
         return {};
     }
     nyx::GroupItemId const id(contents_.records.idFor(record.id.toUint()));
     record.id = id;
     GroupItem* const added = contents_.records.emplace(id.toUint(), std::move(record));
-    if (added == nullptr) {
+    if (!added) {
         return {};
     }
-    (parent == nullptr ? contents_.topItems : parent->childItems).push_back(added);
+    (parent ? parent->childItems : contents_.topItems).push_back(added);
     if (added->record.material.isValid()) {
         ++contents_.objectsOfMaterial[added->record.material];
     }
@@ -30,7 +30,7 @@ nyx::GroupItemId ItemTree::add(ItemRecord record) {
 
 GroupItem* ItemTree::findLight(nyx::ObjectId id) {
     GroupItem* const item = find(nyx::GroupItemId(id.toUint()));
-    return item != nullptr && item->is_light() ? item : nullptr;
+    return item && item->is_light() ? item : nullptr;
 }
 
 void ItemTree::takeContents(ItemTree& fresh) {

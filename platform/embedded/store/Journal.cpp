@@ -12,7 +12,7 @@ std::vector<std::string> Journal::take() {
 }
 
 void Journal::append(std::string& line, char const* text) {
-    if (text == nullptr) {
+    if (!text) {
         line += " null";
     } else {
         append(line, std::string(text));

@@ -95,7 +95,7 @@ std::string LightLayers::uniqueName(std::string const& text, nyx::LightLayerId e
 void LightLayers::copyLayer(nyx::LightLayerId target, nyx::LightLayerId source) {
     LightLayer* const to = layer(target);
     LightLayer const* const from = find(source);
-    if (to != nullptr && from != nullptr && to != from) {
+    if (to && from && to != from) {
         to->flags = nyx::Flags<layerFlags>::fromBits(
             from->flags.bits() & ~static_cast<std::uint32_t>(layerFlags::Deleted));
         to->name = uniqueName(from->name, target);
@@ -121,7 +121,7 @@ std::vector<nyx::LightLayerId> LightLayers::liveIds() const {
 }
 
 std::uint32_t LightLayers::mask(nyx::LightLayerId id) const {
-    return find(id) == nullptr ? 0 : 1u << (id.toUint() - 1);
+    return find(id) ? 1u << (id.toUint() - 1) : 0;
 }
 
 nyx::LightLayerId LightLayers::layerOf(std::uint32_t mask) const {
@@ -129,7 +129,7 @@ nyx::LightLayerId LightLayers::layerOf(std::uint32_t mask) const {
         return {};
     }
     nyx::LightLayerId const id(static_cast<std::uint32_t>(std::countr_zero(mask)) + 1);
-    return find(id) == nullptr ? nyx::LightLayerId() : id;
+    return find(id) ? id : nyx::LightLayerId();
 }
 
 nyx::LightLayerId LightLayers::layerOf(nyx::ObjectId light) const {
@@ -138,11 +138,11 @@ nyx::LightLayerId LightLayers::layerOf(nyx::ObjectId light) const {
 }
 
 std::vector<nyx::ObjectId> LightLayers::lights(nyx::LightLayerId id) const {
-    return find(id) == nullptr ? std::vector<nyx::ObjectId>() : layerOfLight_.lights(number(id));
+    return find(id) ? layerOfLight_.lights(number(id)) : std::vector<nyx::ObjectId>();
 }
 
 void LightLayers::put(nyx::Span<nyx::ObjectId> lights, nyx::LightLayerId id) {
-    if (find(id) == nullptr) {
+    if (!find(id)) {
         return;
     }
     for (nyx::ObjectId const light : lights) {
@@ -153,7 +153,7 @@ void LightLayers::put(nyx::Span<nyx::ObjectId> lights, nyx::LightLayerId id) {
 }
 
 void LightLayers::take(nyx::Span<nyx::ObjectId> lights, nyx::LightLayerId id) {
-    if (find(id) != nullptr && id != defaultLayer) {
+    if (find(id) && id != defaultLayer) {
         for (nyx::ObjectId const light : lights) {
             if (layerOfLight_.find(light) == number(id)) {
                 layerOfLight_.put(light, fallback());
@@ -164,12 +164,12 @@ void LightLayers::take(nyx::Span<nyx::ObjectId> lights, nyx::LightLayerId id) {
 
 /// A copy that was never made equal to a scene may lack the default layer.
 std::uint8_t LightLayers::fallback() const {
-    return find(defaultLayer) == nullptr ? std::uint8_t(0) : number(defaultLayer);
+    return find(defaultLayer) ? number(defaultLayer) : std::uint8_t(0);
 }
 
 std::vector<nyx::ObjectId> LightLayers::markDeleted(nyx::LightLayerId id) {
     LightLayer* const deleted = layer(id);
-    if (deleted == nullptr || id == defaultLayer) {
+    if (!deleted || id == defaultLayer) {
         return {};
     }
     deleted->flags = nyx::Flags<layerFlags>::fromBits(

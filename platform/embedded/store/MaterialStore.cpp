@@ -8,7 +8,7 @@ nyx::MaterialId MaterialStore::add(MaterialRecord record) {
     nyx::MaterialId const id(contents_.records.idFor(record.id.toUint()));
     record.id = id;
     nyxMaterial const* const added = contents_.records.emplace(id.toUint(), std::move(record));
-    if (added == nullptr) {
+    if (!added) {
         return {};
     }
     std::uint32_t position = 0;
@@ -32,11 +32,11 @@ MaterialPlace* MaterialStore::findPlace(nyxMaterial& material, std::uint32_t nod
 bool MaterialStore::bindColor(nyx::MaterialId id, std::uint32_t node, std::string const& parameter,
                               nyx::ColorId color, bool make) {
     nyxMaterial* const material = find(id);
-    if (material == nullptr) {
+    if (!material) {
         return false;
     }
     MaterialPlace* place = findPlace(*material, node, parameter);
-    if (place == nullptr) {
+    if (!place) {
         if (!make) {
             return false;
         }

@@ -136,7 +136,7 @@ std::string NameIndex::unique(std::string const& name, nyx::Span<nyx::ColorId> i
     }
     for (nyx::ColorId const id : ignored) {
         std::string const* const held = nameOf(id);
-        if (held == nullptr) {
+        if (!held) {
             continue;
         }
         Split const parts = split(*held);

@@ -60,7 +60,7 @@ public:
 
     bool erase(std::uint32_t id) {
         Record const* const record = find(id);
-        if (record == nullptr) {
+        if (!record) {
             return false;
         }
         auto const run = std::prev(std::upper_bound(

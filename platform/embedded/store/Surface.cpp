@@ -95,7 +95,7 @@ Surface::Layer* Surface::withId(std::uint32_t layerId) const {
 void Surface::set_edit_layer(std::uint32_t index) {
     journal_->write("set_edit_layer", id_, index);
     Guard const guard(mutex_);
-    if (at(index) != nullptr) {
+    if (at(index)) {
         editLayer_ = index;
     }
 }
@@ -113,7 +113,7 @@ void Surface::add_layer(std::uint32_t index, std::uint32_t layer_id) {
 void Surface::move_layer(std::uint32_t from, std::uint32_t to) {
     journal_->write("move_layer", id_, from, to);
     Guard const guard(mutex_);
-    if (at(from) == nullptr || at(to) == nullptr) {
+    if (!at(from) || !at(to)) {
         return;
     }
     auto const place = [this](std::uint32_t index) {
@@ -156,7 +156,7 @@ void Surface::set_layer_name(std::uint32_t index, char const* name) {
     journal_->write("set_layer_name", id_, index, name);
     Guard const guard(mutex_);
     if (Layer* const layer = at(index)) {
-        layer->info.name = name == nullptr ? "" : name;
+        layer->info.name = name ? name : "";
     }
 }
 
@@ -196,13 +196,13 @@ std::vector<Surface::Layer> Surface::layersWithPixels() const {
 std::optional<LayerPixels> Surface::pixels(std::uint32_t layerId) const {
     Guard const guard(mutex_);
     Layer const* const layer = withId(layerId);
-    return layer == nullptr ? std::nullopt : std::optional(layer->pixels);
+    return layer ? std::optional(layer->pixels) : std::nullopt;
 }
 
 bool Surface::setPixels(std::uint32_t layerId, LayerPixels pixels) {
     Guard const guard(mutex_);
     Layer* const layer = pixels.resolution() == resolution_ ? withId(layerId) : nullptr;
-    if (layer == nullptr) {
+    if (!layer) {
         return false;
     }
     layer->pixels = std::move(pixels);
@@ -212,7 +212,7 @@ bool Surface::setPixels(std::uint32_t layerId, LayerPixels pixels) {
 bool Surface::paint(std::uint32_t layerId, Stroke const& stroke) {
     Guard const guard(mutex_);
     Layer* const layer = withId(layerId);
-    if (layer == nullptr) {
+    if (!layer) {
         return false;
     }
     paintStroke(layer->pixels, stroke);

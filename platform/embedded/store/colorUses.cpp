@@ -26,7 +26,7 @@ void forEachMultiListing(ColorStore const& colors, nyx::ColorId color, Visit con
 
 unsigned referenceCount(nyxScene const& scene, nyx::ColorId color) {
     MaterialStore const& materials = scene.materials();
-    if (scene.colors().find(color) == nullptr) {
+    if (!scene.colors().find(color)) {
         return 0;
     }
     unsigned count = materials.uses(color).places;
@@ -38,7 +38,7 @@ unsigned referenceCount(nyxScene const& scene, nyx::ColorId color) {
 std::vector<nyx::MaterialId> materialsUsing(nyxScene const& scene, nyx::ColorId color, bool direct,
                                             bool throughMulti, bool unassigned) {
     std::vector<nyx::MaterialId> materials;
-    if (scene.colors().find(color) == nullptr) {
+    if (!scene.colors().find(color)) {
         return materials;
     }
     auto const collect = [&](nyx::ColorId bound) {

@@ -33,12 +33,12 @@ Element const& noElement() {
 
 /// The data of a value; one that was never changed, or was moved from, has none of its own.
 ZColorExtData const& read(QSharedDataPointer<ZColorExtData> const& d) {
-    return d.constData() != nullptr ? *d.constData() : defaultData();
+    return d.constData() ? *d.constData() : defaultData();
 }
 
 /// The data of a value that is about to change, shared with no other.
 ZColorExtData& write(QSharedDataPointer<ZColorExtData>& d) {
-    if (d.constData() == nullptr) {
+    if (!d.constData()) {
         d = new ZColorExtData;
     }
     return *d.data();

@@ -12,11 +12,11 @@ namespace {
 
 /// The thread that the function is to run on.
 QThread* mainThread(QObject const* parent) {
-    if (parent != nullptr) {
+    if (parent) {
         return parent->thread();
     }
     QCoreApplication const* const application = QCoreApplication::instance();
-    return application != nullptr ? application->thread() : QThread::currentThread();
+    return application ? application->thread() : QThread::currentThread();
 }
 
 } // namespace
@@ -35,12 +35,12 @@ ZMainThreadCallback::ZMainThreadCallback(nyxRT_api* api, std::function<void()> f
     } else {
         setParent(parent);
     }
-    if (isElsewhere || api == nullptr) {
+    if (isElsewhere || !api) {
         sent_.store(true, std::memory_order_release);
         QCoreApplication::postEvent(this, new QEvent(QEvent::User));
         // From here on, elsewhere, the main thread may run this callback and delete it.
     }
-    if (api != nullptr) {
+    if (api) {
         api->call_after_sync([self] {
             if (!self.isNull()) {
                 self->run();

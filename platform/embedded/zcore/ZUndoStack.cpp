@@ -222,7 +222,7 @@ public:
 
     /// The last thing that a call does: the callback may call the stack, or replace itself.
     void notify() const {
-        if (callback != nullptr) {
+        if (callback) {
             auto const running = callback;
             (*running)();
         }
@@ -271,7 +271,7 @@ ZUndoStack::~ZUndoStack() {
 
 bool ZUndoStack::push(ZUndoCommand* command) {
     CommandPtr owned(command);
-    if (owned == nullptr || impl_->refuses("push", false)) {
+    if (!owned || impl_->refuses("push", false)) {
         return false;
     }
     try {
@@ -378,7 +378,7 @@ bool ZUndoStack::canRedo() const {
 
 QString ZUndoStack::text(int entry) const {
     ZUndoCommand const* const found = command(entry);
-    return found != nullptr ? found->text() : QString();
+    return found ? found->text() : QString();
 }
 
 ZUndoCommand const* ZUndoStack::command(int entry) const {
