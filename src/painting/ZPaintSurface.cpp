@@ -137,9 +137,13 @@ void ZPaintSurface::setEditLayer(unsigned int index) {
     if (index == editLayer_) {
         return;
     }
-    // First: when it fails, the next call tries again.
-    queue(std::make_unique<ZEditLayerTask>(renderIndex(index), surface_));
-    editLayer_ = index;
+    auto const before = std::exchange(editLayer_, index);
+    try {
+        queue(std::make_unique<ZEditLayerTask>(renderIndex(index), surface_));
+    } catch (...) {
+        editLayer_ = before; // so that the next call tries again
+        throw;
+    }
 }
 
 unsigned int ZPaintSurface::addLayerInternal(unsigned int index, std::string name) {
@@ -152,15 +156,16 @@ unsigned int ZPaintSurface::addLayerInternal(unsigned int index, std::string nam
     layer.id = nextLayerId_++;
     auto const at = static_cast<std::ptrdiff_t>(index);
     layers_.insert(layers_.begin() + at, layer);
+    auto const before = std::exchange(editLayer_, index);
     bool queued = false;
     try {
         queued = queue(std::make_unique<ZAddLayerTask>(renderIndex(index), layer.id, surface_,
                                                        std::move(name)));
     } catch (...) {
+        editLayer_ = before;
         layers_.erase(layers_.begin() + at); // or all places are off by one in the renderer
         throw;
     }
-    editLayer_ = index;
     if (queued) {
         try {
             postUpdated();
@@ -245,16 +250,24 @@ void ZPaintSurface::moveLayerInternal(unsigned int id, unsigned int targetId) {
     auto const at = [this](unsigned int index) {
         return layers_.begin() + static_cast<std::ptrdiff_t>(index);
     };
-    // First: when it fails, nothing has moved.
-    bool const queued =
-        queue(std::make_unique<ZMoveLayerTask>(renderIndex(from), renderIndex(to), surface_));
-    nyxLayerInfo const moved = layers_[from];
-    if (from < to) {
-        std::move(at(from + 1), at(to + 1), at(from));
-    } else {
-        std::move_backward(at(to), at(from), at(from + 1));
+    auto const move = [&](unsigned int source, unsigned int target) {
+        nyxLayerInfo const moved = layers_[source];
+        if (source < target) {
+            std::move(at(source + 1), at(target + 1), at(source));
+        } else {
+            std::move_backward(at(target), at(source), at(source + 1));
+        }
+        layers_[target] = moved;
+    };
+    move(from, to);
+    bool queued = false;
+    try {
+        queued =
+            queue(std::make_unique<ZMoveLayerTask>(renderIndex(from), renderIndex(to), surface_));
+    } catch (...) {
+        move(to, from); // or the undo moves something else in the renderer
+        throw;
     }
-    layers_[to] = moved;
     if (queued) {
         refresh();
         postUpdated();
