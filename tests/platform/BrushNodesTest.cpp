@@ -7,6 +7,8 @@
 #include "nyxrender/nyxScene.h"
 #include "nyxrender/nyxScene_api.h"
 
+#include <QTemporaryDir>
+
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -20,14 +22,10 @@ class BrushNodes : public TestScene {
 protected:
     BrushNodes() {
         nyx::embedded::setWarningHandler([this](std::string_view text) { warnings += text; });
-        std::filesystem::create_directories(folder);
         std::filesystem::copy_file(sourceDir() + "/examples/brushes/leaf.png", folder / "a.png");
         root = makeRoot();
     }
-    ~BrushNodes() override {
-        nyx::embedded::setWarningHandler({});
-        std::filesystem::remove_all(folder);
-    }
+    ~BrushNodes() override { nyx::embedded::setWarningHandler({}); }
 
     nyxBrush_node* make(char const* kind) {
         sceneApi().begin_brush_node(kind, -1);
@@ -62,8 +60,8 @@ protected:
         return settings().stencil;
     }
 
-    std::filesystem::path const folder =
-        std::filesystem::temp_directory_path() / "zsg-brush-nodes-test";
+    QTemporaryDir const temporary; // of each case its own: they run side by side
+    std::filesystem::path const folder = temporary.path().toStdString();
     std::string warnings;
     nyxBrush_node* stencil = nullptr;
     nyxBrush_node* basic = nullptr;
