@@ -75,6 +75,14 @@ ZColorExtEdit* ColorDB::getColorParameters(nyx::ColorId id) {
     return edit ? colorEdits_->set(id, std::move(edit)) : nullptr;
 }
 
+std::string ColorDB::colorName(nyx::ColorId id) const {
+    if (ZColorExtEdit const* const cached = colorEdits_->find(id)) {
+        return cached->displayName();
+    }
+    auto const edit = ZColorExtEdit::read(rtApi_, id);
+    return edit ? edit->displayName() : std::string();
+}
+
 ZColorSettingsEdit* ColorDB::getColorSettingsParameters() {
     if (!settingsEdit_) {
         settingsEdit_ = ZColorSettingsEdit::read(rtApi_);

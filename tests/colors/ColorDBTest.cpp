@@ -47,7 +47,10 @@ TEST_F(ColorDBTest, FindsNames) {
     use(used);
     ColorId const multi = multiColor("Multi", {unused});
     nyx::ColorwayId const colorway = renderer.colorways().add("Way", {});
+    EXPECT_EQ(db->colorName(used) + db->colorName(ColorId(99)), "Green");
+    EXPECT_EQ(renderer.ledger().blocks, 0) << "no edit is kept for a name";
     db->getColorParameters(used)->setDisplayName("Red"); // two of that name
+    EXPECT_EQ(db->colorName(used), "Red");
     db->pushColor(used);
     auto const lock = db->createRtApiLock();
     EXPECT_EQ(renderer.ledger().lockDepth, 1);

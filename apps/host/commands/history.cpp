@@ -27,6 +27,8 @@ void goTo(Host& host, Arguments& arguments) {
 
 void clean(Host& host, Arguments&) { host.undoStack().setClean(); }
 
+void forget(Host& host, Arguments&) { host.undoStack().clearRedo(); }
+
 void limit(Host& host, Arguments& arguments) {
     int const entries = arguments.integer("how many entries are kept");
     arguments.done();
@@ -40,6 +42,7 @@ constexpr Command table[] = {
     {"history", "", "list the edits, * marks the saved state", list},
     {"history goto", "N", "undo or redo until N edits are done", goTo},
     {"history clean", "", "mark the present state as saved", clean},
+    {"history forget", "", "drop the edits that could be made again", forget},
     {"history limit", "N", "keep at most N edits, 0 keeps all", limit},
 };
 

@@ -70,6 +70,11 @@ public:
                                                                IColorLinkHandler* handler) override;
     void handleColorwayActivated(nyx::ColorwayId const& id) override;
 
+    /// The colour's name as its edit has it, else as the renderer has it: then no edit is made and
+    /// kept, so whoever asks all names of a large scene once fills no memory. Empty for an unknown
+    /// id.
+    [[nodiscard]] std::string colorName(nyx::ColorId id) const;
+
     /// A new black colour; its name becomes a unique form of `name`. Nothing is announced. The
     /// invalid id when none could be made.
     nyx::ColorId createColor(std::string const& name, nyxColor_extended::ColorType type);

@@ -365,6 +365,20 @@ bool ZUndoStack::clear() {
     return true;
 }
 
+bool ZUndoStack::clearRedo() {
+    if (impl_->refuses("clearRedo", true)) {
+        return false;
+    }
+    if (impl_->index < impl_->count()) {
+        {
+            Raised const running(impl_->executing);
+            impl_->dropBack(impl_->index);
+        }
+        impl_->notify();
+    }
+    return true;
+}
+
 int ZUndoStack::count() const { return impl_->count(); }
 int ZUndoStack::index() const { return impl_->index; }
 

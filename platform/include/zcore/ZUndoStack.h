@@ -13,10 +13,10 @@ class ZUndoCommand;
 /// below index() are done, those from index() on are undone and can be redone.
 ///
 /// While the stack runs code of a command (undo, redo, mergeWith, destructor), every push, macro
-/// begin or end, undo, redo, goTo, clear and setClean is refused (a pushed command is deleted).
-/// While a macro is open, undo, redo, goTo, clear and setClean are. A refusal changes nothing,
-/// writes one warning to the logging category "zcore.undo" and yields false where there is a
-/// result.
+/// begin or end, undo, redo, goTo, clear, clearRedo and setClean is refused (a pushed command is
+/// deleted). While a macro is open, undo, redo, goTo, clear, clearRedo and setClean are. A refusal
+/// changes nothing, writes one warning to the logging category "zcore.undo" and yields false where
+/// there is a result.
 ///
 /// What a command throws passes through to the caller. The stack stays usable. After a throw in
 /// redo() the stack runs the command's undo() (whose own exception is dropped), so that no change
@@ -55,6 +55,9 @@ public:
     bool goTo(int index);
     /// Deletes all entries; the empty stack is clean.
     bool clear();
+    /// Deletes the entries that could be redone. After the undo() of an edit that was given up half
+    /// way (Escape in a drag), so that nothing of it waits to be made again.
+    bool clearRedo();
 
     [[nodiscard]] int count() const;
     [[nodiscard]] int index() const;
