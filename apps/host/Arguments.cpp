@@ -1,11 +1,14 @@
 #include "host/Arguments.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
 namespace app {
 
 namespace {
+
+bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
 
 template <class T>
 T parse(std::string const& word, char const* expected) {
@@ -17,17 +20,25 @@ T parse(std::string const& word, char const* expected) {
     return value;
 }
 
+// "#", six or eight hex digits, and the end of the word.
+bool isHexColor(std::string_view text) {
+    std::size_t const digits =
+        std::min(text.find_first_not_of("0123456789abcdefABCDEF", 1), text.size()) - 1;
+    std::size_t const end = digits + 1;
+    return (digits == 6 || digits == 8) && (end == text.size() || isBlank(text[end]));
+}
+
 } // namespace
 
 std::vector<std::string> splitWords(std::string_view line) {
     std::vector<std::string> words;
     std::size_t i = 0;
-    auto const isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r'; };
     while (true) {
         while (i < line.size() && isBlank(line[i])) {
             ++i;
         }
-        if (i == line.size() || line[i] == '#') {
+        if (i == line.size() ||
+            (line[i] == '#' && (words.empty() || !isHexColor(line.substr(i))))) {
             return words;
         }
         std::string word;

@@ -15,7 +15,8 @@ public:
 };
 
 /// Splits a line into words at blanks. Double quotes keep blanks together; inside them \" \\ \n
-/// stand for themselves and a line feed. A # at the start of a word begins a comment. Throws
+/// stand for themselves and a line feed. A # at the start of a word begins a comment,
+/// unless it is a colour behind the first word: six or eight hex digits and a blank. Throws
 /// CommandError for an open quote.
 [[nodiscard]] std::vector<std::string> splitWords(std::string_view line);
 

@@ -24,14 +24,16 @@ nyx::ColorwayId takeColorway(Host& host, Arguments& arguments);
 std::vector<nyx::ColorId> takeColors(Host& host, Arguments& arguments);
 /// All remaining words, each MULTI:SUB.
 std::vector<zsg::MultiColorPair> takePairs(Host& host, Arguments& arguments);
-/// Three components, and alpha when a fourth number follows.
-nyxColor_rgba takeRgba(Arguments& arguments);
+/// The linear value of a colour, in any of the ways to write one: "#rrggbb[aa]" and
+/// "rgb(r, g, b[, a])" with components of 0 to 255 are sRGB; three linear numbers, and alpha when a
+/// fourth follows; the name of a colour of the scene, or "=" and its id. Throws CommandError.
+nyxColor_rgba takeRgba(Host& host, Arguments& arguments);
+/// The same without alpha, so that a fourth number is left.
+nyxColor takeRgb(Host& host, Arguments& arguments);
 
-/// A line about a colour: id, swatch, name.
+/// A line about a colour: id, "#rrggbb[aa]" in sRGB, name.
 std::string colorLine(Host& host, nyx::ColorId id);
 /// Prints it; throws CommandError with the text `failure` for the invalid id.
 void printColor(Host& host, nyx::ColorId id, char const* failure);
-/// "#rrggbb", clamped.
-std::string hexColor(nyxColor_rgba const& color);
 
 } // namespace app

@@ -1,9 +1,9 @@
 #include "host/Picture.h"
 
 #include "host/Arguments.h"
-#include "host/ColorArguments.h"
 #include "host/OutputFile.h"
 #include "host/png.h"
+#include "host/sRGB.h"
 
 #include <QString>
 

@@ -7,9 +7,9 @@
 
 namespace app {
 
-/// A drawing of a few simple shapes, in pixels from the upper left corner, written as SVG text or
-/// as a PNG image. Texts are in the SVG only: drawing them into an image would need fonts and a
-/// graphical application.
+/// A drawing of a few simple shapes in linear colours, in pixels from the upper left corner,
+/// written as SVG text or as a PNG image. Texts are in the SVG only: drawing them into an image
+/// would need fonts and a graphical application.
 class Picture {
 public:
     struct Point {
@@ -49,10 +49,10 @@ private:
 namespace ink {
 inline constexpr nyxColor_rgba black{0, 0, 0, 1};
 inline constexpr nyxColor_rgba white{1, 1, 1, 1};
-inline constexpr nyxColor_rgba grey{0.75f, 0.75f, 0.75f, 1};
-inline constexpr nyxColor_rgba blue{0.12f, 0.35f, 0.75f, 1};
-inline constexpr nyxColor_rgba red{0.8f, 0.2f, 0.15f, 1};
-inline constexpr nyxColor_rgba green{0.15f, 0.55f, 0.25f, 1};
+inline constexpr nyxColor_rgba grey{0.521f, 0.521f, 0.521f, 1};
+inline constexpr nyxColor_rgba blue{0.0137f, 0.0999f, 0.521f, 1};
+inline constexpr nyxColor_rgba red{0.6038f, 0.0331f, 0.01938f, 1};
+inline constexpr nyxColor_rgba green{0.01938f, 0.2623f, 0.05127f, 1};
 } // namespace ink
 
 } // namespace app

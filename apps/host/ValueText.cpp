@@ -14,14 +14,6 @@ using zsg::Type;
 
 float takeFloat(Arguments& arguments) { return static_cast<float>(arguments.real("a number")); }
 
-nyxColor takeTriplet(Arguments& arguments) {
-    nyxColor color;
-    color.r = takeFloat(arguments);
-    color.g = takeFloat(arguments);
-    color.b = takeFloat(arguments);
-    return color;
-}
-
 // LABEL... [select N]; the ids count from 0.
 zsg::Enumerable takeEnumerable(Arguments& arguments) {
     zsg::Enumerable options;
@@ -63,8 +55,9 @@ void withValue(Host& host, Type type, Arguments& arguments,
         return hand(nyxVector2f{x, takeFloat(arguments)});
     }
     case Type::Float3: {
-        nyxColor const c = takeTriplet(arguments);
-        return hand(nyxVectorf{c.r, c.g, c.b});
+        float const x = takeFloat(arguments);
+        float const y = takeFloat(arguments);
+        return hand(nyxVectorf{x, y, takeFloat(arguments)});
     }
     case Type::Double:
         return hand(arguments.real("a number"));
@@ -94,11 +87,11 @@ void withValue(Host& host, Type type, Arguments& arguments,
         return hand(matrix);
     }
     case Type::Color: {
-        nyxColor_rgba const c = takeRgba(arguments);
+        nyxColor_rgba const c = takeRgba(host, arguments);
         return hand(ZColorExt(c.r, c.g, c.b, c.a));
     }
     case Type::ColorAlpha: {
-        nyxColor_rgba const c = takeRgba(arguments);
+        nyxColor_rgba const c = takeRgba(host, arguments);
         return hand(ZColorExtAlpha(c.r, c.g, c.b, c.a));
     }
     case Type::FloatArray: {
@@ -109,9 +102,9 @@ void withValue(Host& host, Type type, Arguments& arguments,
         return hand(list);
     }
     case Type::AxaltaColor: {
-        nyxColor const a = takeTriplet(arguments);
-        nyxColor const b = takeTriplet(arguments);
-        return hand(zsg::AxaltaColor(a, b, takeTriplet(arguments)));
+        nyxColor const a = takeRgb(host, arguments);
+        nyxColor const b = takeRgb(host, arguments);
+        return hand(zsg::AxaltaColor(a, b, takeRgb(host, arguments)));
     }
     case Type::Enumerable:
         return hand(takeEnumerable(arguments));

@@ -15,7 +15,8 @@ namespace app {
 class Host;
 
 /// Reads the remaining words as a value of a type and hands a pointer to it to `use`, as
-/// zsg::Variant::set() wants it. Numbers stand one by one, texts each in a word; a weave, a
+/// zsg::Variant::set() wants it. Numbers stand one by one, texts each in a word, colours as
+/// takeRgba() reads them; a weave, a
 /// gradient or a curve is one that its own commands have given a name. Throws CommandError when the
 /// words do not make such a value, or the type has none.
 void withValue(Host& host, zsg::Type type, Arguments& arguments,

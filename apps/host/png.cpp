@@ -2,6 +2,7 @@
 
 #include "host/Arguments.h"
 #include "host/Picture.h"
+#include "host/sRGB.h"
 
 #include "nyxembedded/Image.h"
 
@@ -11,16 +12,13 @@
 #include <QPainter>
 #include <QPolygonF>
 
-#include <algorithm>
-
 namespace app {
 
 namespace {
 
 QColor qtColor(nyxColor_rgba const& c) {
-    // Through a comparison that a NaN fails.
-    auto const unit = [](float v) { return v > 0 ? std::min(v, 1.0f) : 0.0f; };
-    return QColor::fromRgbF(unit(c.r), unit(c.g), unit(c.b), unit(c.a));
+    auto const [red, green, blue, alpha] = sRGBFromLinear(c);
+    return {red, green, blue, alpha};
 }
 
 std::string encoded(QImage const& image) {

@@ -167,7 +167,8 @@ TEST_F(BlendModesTest, compositeLikeALoopOverTexels) {
             surface(id).set_layer_visible(l, below(6) != 0);
             surface(id).set_layer_deleted(l, below(6) == 0);
             if (below(3) == 0) {
-                surface(id).set_layer_background(l, {0.2f, 0.6f, 1, below(2) == 0 ? 1 : 0.6f});
+                surface(id).set_layer_background(
+                    l, {0.2158605f, 0.6038273f, 1, below(2) == 0 ? 1 : 0.6f});
             }
         }
         auto const info = renderer.painting().surface(id).value();
@@ -183,7 +184,7 @@ TEST_F(BlendModesTest, compositeLikeALoopOverTexels) {
                 auto const top = layers[l].texel(i % resolution, i / resolution);
                 auto const& ground = info.layers[l].background;
                 double const ga = nearest(ground.a * 255.0);
-                double const straight[] = {ground.r, ground.g, ground.b, 1};
+                double const straight[] = {128 / 255.0, 204 / 255.0, 1, 1}; // in sRGB
                 double over[4];
                 for (std::size_t p = 0; p < 4; ++p) {
                     double const g = nearest(nearest(straight[p] * 255) * ga / 255);

@@ -14,7 +14,7 @@ BrushSettings pixelBrush(float diameter) {
     BrushSettings brush;
     brush.pixels = true;
     brush.sizePixels.value = diameter;
-    brush.color = {1, 0.5f, 0};
+    brush.color = {1, 0.2158605f, 0}; // 128 in sRGB
     return brush;
 }
 

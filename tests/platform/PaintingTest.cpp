@@ -43,7 +43,7 @@ TEST(LayerPixelsTest, sharesTilesUntilOneSideWrites) {
 
 TEST(StrokeTest, coversDiscsEvenlyAndSurvivesAnyNumbers) {
     LayerPixels pixels(128);
-    Stroke soft = dot(64, 64, 40, {1, 0.5f, 0, 0.5f});
+    Stroke soft = dot(64, 64, 40, {1, 0.2158605f, 0, 0.5f});
     soft.hardness = 0.5f;
     paintStroke(pixels, soft);
     EXPECT_EQ(pixels.texel(64, 64), (std::array<std::uint8_t, 4>{128, 64, 0, 128}));

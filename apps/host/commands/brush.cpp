@@ -7,6 +7,7 @@
 #include "host/OutputFile.h"
 #include "host/ValueText.h"
 #include "host/png.h"
+#include "host/sRGB.h"
 
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/painting/IPainterManager.h"
@@ -51,8 +52,7 @@ void printValue(std::ostream& out, Parameter const& p) {
         out << '"' << p.value<QString>()->toStdString() << '"';
         break;
     case Type::Color: {
-        nyxColor_rgba const c = p.getColor().rgba();
-        out << c.r << ' ' << c.g << ' ' << c.b;
+        out << hexColor(p.getColor().rgba());
         break;
     }
     case Type::Enumerable: {

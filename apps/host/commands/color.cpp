@@ -44,7 +44,7 @@ void show(Host& host, Arguments& arguments) {
         throw CommandError("the colour has no record");
     }
     nyxColor_rgba const c = edit->color();
-    host.out() << "  " << colorLine(host, id) << "\n  value " << c.r << ' ' << c.g << ' ' << c.b
+    host.out() << "  " << colorLine(host, id) << "\n  linear " << c.r << ' ' << c.g << ' ' << c.b
                << ' ' << c.a << "\n  changes " << edit->revision()
                << (edit->isModified() ? ", not committed" : "") << "\n  references "
                << db(host).totalSceneReferenceCount(id) << '\n';
@@ -101,7 +101,7 @@ void find(Host& host, Arguments& arguments) {
 
 void set(Host& host, Arguments& arguments) {
     nyx::ColorId const id = takeColor(host, arguments);
-    nyxColor_rgba const rgba = takeRgba(arguments);
+    nyxColor_rgba const rgba = takeRgba(host, arguments);
     std::string const name = arguments.flag("name") ? arguments.word("a name") : std::string();
     auto const merge =
         arguments.flag("last") ? zsg::AllowForwardUndoMerge::No : zsg::AllowForwardUndoMerge::Yes;
@@ -111,7 +111,7 @@ void set(Host& host, Arguments& arguments) {
 
 void drag(Host& host, Arguments& arguments) {
     nyx::ColorId const id = takeColor(host, arguments);
-    nyxColor_rgba const to = takeRgba(arguments);
+    nyxColor_rgba const to = takeRgba(host, arguments);
     arguments.oneOf({"in"});
     int const steps = arguments.integer("a number of steps");
     arguments.done();
@@ -183,9 +183,9 @@ constexpr Command table[] = {
     {"color materials", "COLOR [direct|multi] [all]",
      "list the materials that use a colour, all: also those without objects", materials},
     {"color uses", "[COLOR]", "count the materials in use that use a colour", uses},
-    {"color set", "COLOR R G B [A] [name NAME] [last]",
+    {"color set", "COLOR RGBA [name NAME] [last]",
      "set a value; the next one merges unless this is the last", set},
-    {"color drag", "COLOR R G B [A] in STEPS", "set a value in steps that merge, as a picker does",
+    {"color drag", "COLOR RGBA in STEPS", "set a value in steps that merge, as a picker does",
      drag},
     {"color name", "COLOR NAME", "rename a colour", name},
     {"color flags", "COLOR BITS on|off", "set or clear flags of a plain colour", flags},

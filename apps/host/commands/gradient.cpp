@@ -2,6 +2,7 @@
 #include "host/Command.h"
 #include "host/NamedValues.h"
 #include "host/Picture.h"
+#include "host/sRGB.h"
 
 #include "zsg/values/ColorGradient.h"
 
@@ -30,11 +31,11 @@ struct Stop {
     float slopeRight = 0;
 };
 
-// LOCATION R G B [A] [slopes LEFT RIGHT]
-Stop takeStop(Arguments& arguments) {
+// LOCATION RGBA [slopes LEFT RIGHT]
+Stop takeStop(Host& host, Arguments& arguments) {
     Stop stop;
     stop.location = static_cast<float>(arguments.real("a location"));
-    stop.color = takeRgba(arguments);
+    stop.color = takeRgba(host, arguments);
     if (arguments.flag("slopes")) {
         stop.slopeLeft = static_cast<float>(arguments.real("a slope"));
         stop.slopeRight = static_cast<float>(arguments.real("a slope"));
@@ -50,7 +51,7 @@ void make(Host& host, Arguments& arguments) {
 
 void add(Host& host, Arguments& arguments) {
     ColorGradient& gradient = take(host, arguments);
-    Stop const s = takeStop(arguments);
+    Stop const s = takeStop(host, arguments);
     arguments.done();
     gradient.addColorStop(s.color, s.location, s.slopeLeft, s.slopeRight);
 }
@@ -58,7 +59,7 @@ void add(Host& host, Arguments& arguments) {
 void replace(Host& host, Arguments& arguments) {
     ColorGradient& gradient = take(host, arguments);
     unsigned const index = arguments.number("a position");
-    Stop const s = takeStop(arguments);
+    Stop const s = takeStop(host, arguments);
     bool const sort = arguments.flag("sort");
     arguments.done();
     if (!gradient.addColorStopAt(index, s.color, s.location, s.slopeLeft, s.slopeRight, sort)) {
@@ -87,7 +88,7 @@ void show(Host& host, Arguments& arguments) {
     ColorGradient const& gradient = take(host, arguments);
     arguments.done();
     for (ColorGradientStop const& stop : gradient.getStops()) {
-        host.out() << "  " << stop.getLocation() << ' ' << hexColor(stop.getColor());
+        host.out() << "  " << stop.getLocation() << ' ' << hexColorWithAlpha(stop.getColor());
         if (stop.getSlopeLeft() != 0 || stop.getSlopeRight() != 0) {
             host.out() << " slopes " << stop.getSlopeLeft() << ' ' << stop.getSlopeRight();
         }
@@ -153,9 +154,9 @@ void save(Host& host, Arguments& arguments) {
 
 constexpr Command table[] = {
     {"gradient make", "NAME", "make an empty gradient", make},
-    {"gradient add", "GRADIENT LOCATION R G B [A] [slopes L R]", "add a stop", add},
-    {"gradient replace", "GRADIENT INDEX LOCATION R G B [A] [slopes L R] [sort]",
-     "overwrite a stop", replace},
+    {"gradient add", "GRADIENT LOCATION RGBA [slopes L R]", "add a stop", add},
+    {"gradient replace", "GRADIENT INDEX LOCATION RGBA [slopes L R] [sort]", "overwrite a stop",
+     replace},
     {"gradient blend", "GRADIENT on|off", "blend between stops or not", blend},
     {"gradient size", "GRADIENT N", "cut or extend the list of stops", size},
     {"gradient show", "GRADIENT", "list the stops", show},

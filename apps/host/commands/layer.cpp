@@ -5,6 +5,7 @@
 #include "host/Host.h"
 #include "host/PaintState.h"
 #include "host/printable.h"
+#include "host/sRGB.h"
 
 #include "zsg/painting/IPainterSurface.h"
 
@@ -25,7 +26,7 @@ void list(Host& host, Arguments&) {
         }
         nyxColor_rgba const& c = layer.background;
         if (c.a != 0) {
-            host.out() << ", on " << c.r << ' ' << c.g << ' ' << c.b << ' ' << c.a;
+            host.out() << ", on " << hexColorWithAlpha(c);
         }
         host.out() << (layer.visible ? "" : ", hidden") << (layer.deleted ? ", deleted" : "")
                    << '\n';
@@ -78,7 +79,7 @@ void move(Host& host, Arguments& arguments) {
 
 void background(Host& host, Arguments& arguments) {
     unsigned const layer = takePaintLayer(host, arguments);
-    nyxColor_rgba const color = takeRgba(arguments);
+    nyxColor_rgba const color = takeRgba(host, arguments);
     bool const isPreview = arguments.flag("preview");
     arguments.done();
     if (!currentSurface(host).setLayerBackgroundColor(layer, color, !isPreview)) {
@@ -103,8 +104,8 @@ constexpr Command table[] = {
     {"layer blend", "LAYER MODE", "how it is laid over those below", blend},
     {"layer name", "LAYER NAME", "name it; \"\" takes the name away", name},
     {"layer move", "LAYER LAYER", "take the first to where the second is", move},
-    {"layer background", "LAYER R G B [A] [preview]",
-     "the colour beneath the paint; preview: no undo", background},
+    {"layer background", "LAYER RGBA [preview]", "the colour beneath the paint; preview: no undo",
+     background},
     {"layer edit", "LAYER", "the layer that paint goes to (no undo)", edit},
 };
 

@@ -33,8 +33,8 @@ private:
     Resolution resolution_;
 };
 
-// NAME R G B [A], or NAME = ELEMENT R G B, ELEMENT R G B ... for a multi-colour.
-ZColorExt takeForeign(Arguments& arguments) {
+// NAME RGBA, or NAME = ELEMENT RGBA ELEMENT RGBA ... for a multi-colour.
+ZColorExt takeForeign(Host& host, Arguments& arguments) {
     std::string const text = arguments.word("a name");
     ZColorExt value;
     value.setColorName(text);
@@ -43,10 +43,10 @@ ZColorExt takeForeign(Arguments& arguments) {
         value.setMultiColor(true);
         while (!arguments.empty()) {
             std::string const element = arguments.word("a name");
-            elements.emplace_back(ZColor(takeRgba(arguments), element), nyx::ColorId());
+            elements.emplace_back(ZColor(takeRgba(host, arguments), element), nyx::ColorId());
         }
     } else {
-        elements.emplace_back(ZColor(takeRgba(arguments), text), nyx::ColorId());
+        elements.emplace_back(ZColor(takeRgba(host, arguments), text), nyx::ColorId());
     }
     arguments.done();
     value.setColors(elements);
@@ -54,7 +54,7 @@ ZColorExt takeForeign(Arguments& arguments) {
 }
 
 void conflicts(Host& host, Arguments& arguments) {
-    auto const found = controller(host).checkForConflict(takeForeign(arguments));
+    auto const found = controller(host).checkForConflict(takeForeign(host, arguments));
     for (zsg::IColorController::ColorConflict const& conflict : found) {
         host.out() << "  \"" << printable(conflict.name) << "\" is "
                    << colorLine(host, conflict.existing) << '\n';
@@ -64,7 +64,7 @@ void conflicts(Host& host, Arguments& arguments) {
 
 void importColor(Host& host, Arguments& arguments) {
     bool const linkThem = arguments.oneOf({"link", "rename"}) == "link";
-    ZColorExt value = takeForeign(arguments);
+    ZColorExt value = takeForeign(host, arguments);
     Answer answer(host, linkThem ? zsg::IColorLinkHandler::Resolution::Link
                                  : zsg::IColorLinkHandler::Resolution::Rename);
     auto const linker = host.root().colorDB()->getColorLinker(&controller(host), &answer);
@@ -79,9 +79,9 @@ void merge(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"linker conflicts", "NAME R G B [A] | NAME = NAME R G B...",
+    {"linker conflicts", "NAME RGBA | NAME = NAME RGBA...",
      "list the colours in use that a foreign colour would overwrite", conflicts},
-    {"linker import", "link|rename NAME R G B [A] | NAME = NAME R G B...",
+    {"linker import", "link|rename NAME RGBA | NAME = NAME RGBA...",
      "bring a foreign colour or multi-colour in, settling conflicts", importColor},
     {"linker merge", "TO FROM", "add the sub-colours that TO lacks", merge},
 };

@@ -15,7 +15,7 @@ zsg::ColorController& controller(Host& host) { return *host.root().colorControll
 void addNew(Host& host, Arguments& arguments) {
     nyx::ColorId const multi = takeColor(host, arguments, "a multi-colour");
     std::string const text = arguments.word("a name");
-    nyxColor_rgba const rgba = takeRgba(arguments);
+    nyxColor_rgba const rgba = takeRgba(host, arguments);
     int const index = arguments.flag("at") ? arguments.integer("a position") : -1;
     arguments.done();
     printColor(host, controller(host).addSubColor(multi, ZColor(rgba, text), index),
@@ -101,7 +101,7 @@ void unlink(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"multi new", "MULTI NAME R G B [A] [at INDEX]", "add a new sub-colour", addNew},
+    {"multi new", "MULTI NAME RGBA [at INDEX]", "add a new sub-colour", addNew},
     {"multi copy", "MULTI COLOR...", "add new sub-colours of these values", copies},
     {"multi use", "MULTI COLOR link|copy", "add a colour, or a copy, and make it active", use},
     {"multi add", "MULTI INDEX [active COLOR] COLOR...", "add colours at a position", add},

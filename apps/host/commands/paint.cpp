@@ -27,7 +27,7 @@ using Points = std::vector<Stroke::Point>;
 void with(Host& host, Arguments& arguments) {
     auto const radius = static_cast<float>(arguments.real("a radius in texels"));
     auto const hardness = static_cast<float>(arguments.real("a hardness, 0 to 1"));
-    nyxColor_rgba const color = takeRgba(arguments);
+    nyxColor_rgba const color = takeRgba(host, arguments);
     arguments.done();
     if (!(radius > 0 && radius <= 16384)) {
         throw CommandError("expected a radius above 0, at most 16384");
@@ -132,7 +132,7 @@ void memory(Host& host, Arguments&) {
 }
 
 constexpr Command table[] = {
-    {"paint with", "RADIUS HARDNESS R G B [A]", "paint with a plain round tip", with},
+    {"paint with", "RADIUS HARDNESS RGBA", "paint with a plain round tip", with},
     {"paint brush", "", "paint with the current brush, as at first", brush},
     {"paint line", "X Y [X Y...]", "paint along a line; one point makes a dot",
      stroke<Line::Straight, false>},

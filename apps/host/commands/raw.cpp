@@ -19,7 +19,7 @@ zsg::ColorDB& db(Host& host) { return *host.root().colorDB(); }
 void createColor(Host& host, Arguments& arguments) {
     ZColorExt color;
     color.setColorName(arguments.word("a name"));
-    nyxColor_rgba const rgba = takeRgba(arguments);
+    nyxColor_rgba const rgba = takeRgba(host, arguments);
     arguments.done();
     ZColorExt::ZColorWithId const element(ZColor(rgba, color.getColorName()), nyx::ColorId());
     color.setColors({&element, 1});
@@ -45,7 +45,7 @@ void createMulti(Host& host, Arguments& arguments) {
 
 void pushColor(Host& host, Arguments& arguments) {
     nyx::ColorId const id = takeColor(host, arguments);
-    nyxColor_rgba const rgba = takeRgba(arguments);
+    nyxColor_rgba const rgba = takeRgba(host, arguments);
     arguments.done();
     ZColorExt color = db(host).colorFromId(id);
     color.setColor(ZColor(rgba), ZColorExt::NameOp::Keep);
@@ -53,7 +53,7 @@ void pushColor(Host& host, Arguments& arguments) {
 }
 
 void pushTemporary(Host& host, Arguments& arguments) {
-    nyxColor_rgba const rgba = takeRgba(arguments);
+    nyxColor_rgba const rgba = takeRgba(host, arguments);
     arguments.done();
     ZColorExt color(rgba.r, rgba.g, rgba.b, rgba.a);
     db(host).pushTempColor(color);
@@ -120,9 +120,9 @@ void pushColorway(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"raw color create", "NAME R G B [A]", "push a new colour", createColor},
-    {"raw color push", "COLOR R G B [A]", "push a value", pushColor},
-    {"raw color temp", "R G B [A]", "push the temporary colour", pushTemporary},
+    {"raw color create", "NAME RGBA", "push a new colour", createColor},
+    {"raw color push", "COLOR RGBA", "push a value", pushColor},
+    {"raw color temp", "RGBA", "push the temporary colour", pushTemporary},
     {"raw color clone", "COLOR [deep]", "make a copy, deep: of its sub-colours too", clone},
     {"raw color wrap", "COLOR", "make a multi-colour that holds it", wrap},
     {"raw multi create", "NAME SUB...", "push a new multi-colour", createMulti},

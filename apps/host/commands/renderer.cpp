@@ -10,7 +10,7 @@ namespace {
 
 void changeColor(Host& host, Arguments& arguments) {
     nyx::ColorId const id = takeColor(host, arguments);
-    nyxColor_rgba const rgba = takeRgba(arguments);
+    nyxColor_rgba const rgba = takeRgba(host, arguments);
     arguments.done();
     host.renderer().colors().change(id, rgba);
 }
@@ -30,7 +30,7 @@ void activateColorway(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"renderer color", "COLOR R G B [A]", "change a value on the renderer's side", changeColor},
+    {"renderer color", "COLOR RGBA", "change a value on the renderer's side", changeColor},
     {"renderer remove", "COLOR", "take a record away on the renderer's side", removeColor},
     {"renderer colorway", "COLORWAY", "switch to it on the renderer's side", activateColorway},
 };

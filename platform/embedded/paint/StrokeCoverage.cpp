@@ -1,7 +1,7 @@
 #include "paint/StrokeCoverage.h"
 
 #include "nyxembedded/LayerPixels.h"
-#include "paint/toByte.h"
+#include "nyxembedded/sRGB.h"
 
 #include <algorithm>
 #include <cmath>
@@ -84,8 +84,8 @@ void StrokeCoverage::add(DabMask const& mask, Dab const& dab) {
 void StrokeCoverage::paintOn(LayerPixels& pixels, BrushSettings const& brush) const {
     BrushImage const* const texture =
         brush.colorSource == BrushSettings::TextureColor ? brush.texture.get() : nullptr;
-    std::uint8_t const solid[] = {toByte(brush.color.r), toByte(brush.color.g),
-                                  toByte(brush.color.b), 255};
+    std::uint8_t const solid[] = {sRGBFromLinear(brush.color.r), sRGBFromLinear(brush.color.g),
+                                  sRGBFromLinear(brush.color.b), 255};
     for (int row = 0; row < tilesAcross_; ++row) {
         for (int column = 0; column < tilesAcross_; ++column) {
             Tile const* const covered = tiles_[slot(column, row)].get();

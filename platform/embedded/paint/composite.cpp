@@ -1,5 +1,6 @@
 #include "paint/composite.h"
 
+#include "nyxembedded/sRGB.h"
 #include "paint/blendTile.h"
 #include "paint/toByte.h"
 
@@ -40,7 +41,8 @@ std::unique_ptr<PixelTile> filled(nyxColor_rgba const& color) {
         return nullptr;
     }
     auto tile = std::make_unique<PixelTile>();
-    int const straight[] = {toByte(color.r), toByte(color.g), toByte(color.b), 255};
+    int const straight[] = {sRGBFromLinear(color.r), sRGBFromLinear(color.g),
+                            sRGBFromLinear(color.b), 255};
     for (int plane = 0; plane < 4; ++plane) {
         int const value = (straight[plane] * alpha * 2 + 255) / 510; // to the nearest
         std::memset(tile->planes[plane], value, PixelTile::texels);

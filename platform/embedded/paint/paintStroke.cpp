@@ -1,5 +1,6 @@
 #include "paint/paintStroke.h"
 
+#include "nyxembedded/sRGB.h"
 #include "paint/strokeLimits.h"
 #include "paint/toByte.h"
 
@@ -75,7 +76,8 @@ void StrokeMask::addDab(Stroke::Point center, float radius, float hardness) {
 
 void StrokeMask::apply(LayerPixels& pixels, nyxColor_rgba const& color, bool erase) const {
     int const alpha = toByte(color.a);
-    int const straight[] = {toByte(color.r), toByte(color.g), toByte(color.b), 255};
+    int const straight[] = {sRGBFromLinear(color.r), sRGBFromLinear(color.g),
+                            sRGBFromLinear(color.b), 255};
     for (int row = 0; row < tilesAcross_; ++row) {
         for (int column = 0; column < tilesAcross_; ++column) {
             int const number = row * tilesAcross_ + column;

@@ -46,7 +46,7 @@ struct NYXRENDER_EXPORT BrushSettings {
     float rotationJitter = 0; ///< 1 turns by up to half a turn either way
     bool directional = false; ///< the image turns with the line
 
-    nyxColor color;
+    nyxColor color;                            ///< linear, as all records
     int colorSource = SolidColor;              ///< a ColorSource
     std::shared_ptr<BrushImage const> stencil; ///< the shape of a dab in place of a disc
     bool stencilUseAlpha = false; ///< its alpha is the shape, else its brightness times alpha

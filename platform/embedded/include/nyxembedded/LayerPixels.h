@@ -15,7 +15,9 @@ namespace nyx::embedded {
 /// nothing was painted. One object may be
 /// used by one thread at a time; copies are independent.
 ///
-/// Texels are counted from the upper left corner, tiles likewise.
+/// Texels hold eight bits per component, the colours encoded by the curve of sRGB
+/// (nyxembedded/sRGB.h), not linear, for which eight bits are too few. They are counted from the
+/// upper left corner, tiles likewise.
 class NYXRENDER_EXPORT LayerPixels {
 public:
     /// Transparent; `resolution` is the edge length in texels, 0 or more.

@@ -9,8 +9,8 @@ namespace nyx::embedded {
 
 class LayerPixels;
 
-/// A stroke of a round brush along a line. Lengths are texels, points are counted from the upper
-/// left corner of the upper left texel.
+/// A stroke of a round brush along a line. The colour is linear, as all records. Lengths are
+/// texels, points are counted from the upper left corner of the upper left texel.
 struct Stroke {
     struct Point {
         float x = 0, y = 0;
