@@ -16,7 +16,7 @@ gate_layering() { cmake/layering.py; }
 gate_dev() { workflow dev; }
 
 # Both readings of clang in one: its own warnings come out of clang-tidy as well. Nothing is
-# compiled: the fuzz gate builds and links the library with clang. No precompiled headers here, so
+# compiled: the asan gate builds and links everything with clang. No precompiled headers here, so
 # that a source which leans on somebody else's includes is found.
 gate_clang() {
     cmake --preset clang >/dev/null || return 1
@@ -33,6 +33,7 @@ gate_headers() {
         cmake --build --preset dev -j "$jobs" --target all_verify_interface_header_sets
 }
 
+# With clang: this one build also has the libFuzzer targets, so that nothing is compiled twice.
 gate_asan() { workflow asan; }
 
 gate_tsan() {
@@ -44,9 +45,9 @@ gate_tsan() {
 }
 
 gate_fuzz() {
-    cmake --preset fuzz >/dev/null && cmake --build --preset fuzz -j "$jobs" --target fuzzers ||
+    cmake --preset asan >/dev/null && cmake --build --preset asan -j "$jobs" --target fuzzers ||
         return 1
-    local fuzzer name seconds=${ZSG_FUZZ_SECONDS:-20}
+    local seconds=${ZSG_FUZZ_SECONDS:-20}
     export seconds
     # Whole paths: some targets change into a folder of their own.
     run_fuzzer() {
@@ -62,7 +63,7 @@ gate_fuzz() {
         printf '%s: %s s without a finding\n' "$name" "$seconds"
     }
     export -f run_fuzzer
-    printf '%s\n' build/fuzz/bin/fuzz_* | xargs -P "$jobs" -I{} bash -c 'run_fuzzer {}'
+    printf '%s\n' build/asan/bin/fuzz_* | xargs -P "$jobs" -I{} bash -c 'run_fuzzer {}'
 }
 
 gate_docs() {
