@@ -19,14 +19,14 @@ bool startsWithNumber(std::string const& line) {
            (std::isdigit(static_cast<unsigned char>(line[at])) != 0 || line[at] == '.');
 }
 
-// What a header consists of; lines before it may start with a number, say a year.
+/// What a header consists of; lines before it may start with a number, say a year.
 bool looksLikeHeader(std::string const& line) {
     std::size_t const at = line.find_first_not_of(" \t");
     return at != std::string::npos && line[at] >= '1' && line[at] <= '4' &&
            line.find_first_not_of("0123456789.,; \t") == std::string::npos;
 }
 
-// A digit, then e, then a digit or a sign.
+/// A digit, then e, then a digit or a sign.
 bool scientific(std::string const& line) {
     for (std::size_t i = 1; i + 1 < line.size(); ++i) {
         auto const digit = [&](std::size_t at) {

@@ -13,7 +13,7 @@ struct Character {
     std::size_t bytes = 1;
 };
 
-// The first character of text that is UTF-8 at its start.
+/// The first character of text that is UTF-8 at its start.
 Character decode(std::string_view text) {
     auto const byte = [&](std::size_t at) {
         return static_cast<unsigned>(static_cast<unsigned char>(text[at]));

@@ -25,7 +25,7 @@ ZColorExtData const& defaultData() {
     return data;
 }
 
-// What a getter answers from when there is no such element.
+/// What a getter answers from when there is no such element.
 Element const& noElement() {
     static Element const element;
     return element;
