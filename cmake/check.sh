@@ -66,11 +66,19 @@ gate_fuzz() {
     printf '%s\n' build/asan/bin/fuzz_* | xargs -P "$jobs" -I{} bash -c 'run_fuzzer {}'
 }
 
+# All sources for Windows, against the headers of a Qt that is configured there and not built: that
+# and the tests are for ./dev windows.
+gate_windows-compile() {
+    cmake/windows/dependencies.sh headers && cmake --preset mingw-compile &&
+        cmake --build --preset mingw-compile --target zsg_precompiled_library &&
+        cmake/windows/compile.py build/mingw-compile
+}
+
 gate_docs() {
     mkdir -p build/docs && doxygen docs/Doxyfile
 }
 
-all=(format layering dev headers clang asan tsan fuzz docs)
+all=(format layering dev headers clang asan tsan fuzz windows-compile docs)
 wanted=("$@")
 ((${#wanted[@]})) || wanted=("${all[@]}")
 failed=()
