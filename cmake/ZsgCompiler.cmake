@@ -22,7 +22,12 @@ endif()
 
 add_library(zsg_warnings INTERFACE)
 if(MSVC)
-    target_compile_options(zsg_warnings INTERFACE /W4 /permissive- /utf-8)
+    # C4251 and C4275: members and bases of exported classes that come from the standard library,
+    # which is the same one on both sides.
+    target_compile_options(zsg_warnings INTERFACE /W4 /permissive- /utf-8 /wd4251 /wd4275
+        /Zc:__cplusplus /Zc:preprocessor /EHsc /bigobj)
+    target_compile_definitions(zsg_warnings INTERFACE
+        NOMINMAX WIN32_LEAN_AND_MEAN _CRT_SECURE_NO_WARNINGS _USE_MATH_DEFINES)
     if(ZSG_WARNINGS_AS_ERRORS)
         target_compile_options(zsg_warnings INTERFACE /WX)
     endif()

@@ -63,7 +63,7 @@ configure() {
     off=("${off[@]/#/-DFEATURE_}")
     cmake -G Ninja -S source -B build \
         -DCMAKE_TOOLCHAIN_FILE="$tools/mingw.cmake" -DCMAKE_BUILD_TYPE=Release \
-        -DCMAKE_INSTALL_PREFIX="$root/qt" -DQT_HOST_PATH=/usr \
+        -DQT_HOST_PATH=/usr \
         -DQT_HOST_PATH_CMAKE_DIR="$(dirname "$(compgen -G '/usr/lib/*/cmake/Qt6HostInfo')")" \
         -DQT_QMAKE_TARGET_MKSPEC=win32-g++ -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF \
         -DQT_BUILD_TOOLS_WHEN_CROSSCOMPILING=OFF "${off[@]/%/=OFF}"
@@ -78,11 +78,7 @@ libpng() {
     rm -rf png-build
 }
 
-build() {
-    cmake --build build -j "$jobs"
-    cmake --install build
-    rm -rf source build # what was installed is all that is needed from here on
-}
+build() { cmake --build build -j "$jobs"; }
 
 # Headers without a library come from the host's packages, but not with all of /usr/include.
 mkdir -p headers/include headers/share/cmake

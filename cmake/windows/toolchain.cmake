@@ -2,9 +2,9 @@
 include(${CMAKE_CURRENT_LIST_DIR}/mingw.cmake)
 set(dependencies ${CMAKE_CURRENT_LIST_DIR}/../../build/mingw-dependencies)
 cmake_path(NORMAL_PATH dependencies)
-# Qt is in "build" while it is only configured, and in "qt" from its installation on.
+# Qt is used where it is built: as soon as it is configured it can be compiled against.
 list(PREPEND CMAKE_FIND_ROOT_PATH
-    ${dependencies}/qt ${dependencies}/build ${dependencies}/png ${dependencies}/headers)
+    ${dependencies}/build ${dependencies}/png ${dependencies}/headers)
 set(QT_HOST_PATH /usr)
 set(ZLIB_USE_STATIC_LIBS ON)
 set(CMAKE_CROSSCOMPILING_EMULATOR /usr/lib/wine/wine64)

@@ -16,7 +16,7 @@ else()
     set(output_to OUTPUT_VARIABLE output)
 endif()
 execute_process(
-    COMMAND ${CONSOLE} ${ARGUMENTS}
+    COMMAND ${EMULATOR} ${CONSOLE} ${ARGUMENTS}
     WORKING_DIRECTORY ${WORK_DIR}
     INPUT_FILE ${INPUT}
     RESULT_VARIABLE code
