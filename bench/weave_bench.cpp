@@ -177,6 +177,21 @@ void setElement(benchmark::State& state) {
     }
 }
 
+// What a call that cannot be inlined leaves of it.
+[[gnu::noinline]] void setBehindCall(QList<int>& list, int index, int value) {
+    list[index] = value;
+}
+
+void setElementBehindCall(benchmark::State& state) {
+    QList<int> list = listOf(64);
+    int i = 0;
+    for (auto _ : state) {
+        setBehindCall(list, 5 * 64 + (i & 63), 1);
+        benchmark::DoNotOptimize(list);
+        ++i;
+    }
+}
+
 /// Changes copies that share, or the value itself.
 template <class Value, class Change>
 auto changing(Value value, bool shared, Change change) {
@@ -267,6 +282,7 @@ bool const registered = [] {
                [](benchmark::State& state) { copyHandle(state, listOf(64)); });
     contestant("8a", "weave set one cell", ours, setCell);
     contestant("8a", "weave set one cell", "QList", setElement);
+    contestant("8a", "weave set one cell", "QList behind a call", setElementBehindCall);
     target({"8a", "weave copy handle", "QList", 1.2});
     target({"8a", "weave set one cell", "QList", 3});
 
