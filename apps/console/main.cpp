@@ -1,3 +1,4 @@
+#include "console/Application.h"
 #include "console/StandardStreams.h"
 #include "console/Terminal.h"
 #include "host/Host.h"
@@ -96,7 +97,7 @@ int convert(app::Host& host, std::string const& path) {
 
 int main(int argc, char** argv) {
     prepareStandardStreams();
-    QCoreApplication const application(argc, argv);
+    auto const application = makeApplication(argc, argv);
     Options options;
     if (auto const code = readOptions(options)) {
         return *code;

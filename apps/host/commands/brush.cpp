@@ -1,12 +1,12 @@
 #include "host/BrushPreset.h"
-#include "host/BrushSheet.h"
 #include "host/Command.h"
 #include "host/CurrentBrush.h"
 #include "host/Host.h"
 #include "host/InputFile.h"
 #include "host/OutputFile.h"
 #include "host/ValueText.h"
-#include "host/png.h"
+#include "host/pictures/BrushSheet.h"
+#include "host/pictures/PictureFile.h"
 #include "host/sRGB.h"
 
 #include "zsg/core/ISceneGraph.h"
@@ -185,21 +185,22 @@ void load(Host& host, Arguments& arguments) {
 }
 
 void sheet(Host& host, Arguments& arguments) {
-    std::string const path = arguments.word("a path");
-    std::vector<nyx::embedded::BrushSettings> brushes;
-    auto const add = [&](zsg::IPainterBrush const& brush) {
+    PictureFile const file = PictureFile::take(arguments);
+    std::vector<NamedBrush> brushes;
+    auto const add = [&](std::string const& name, zsg::IPainterBrush const& brush) {
         if (auto settings =
                 nyx::embedded::brushSettings(*host.renderer().scene(), brush.brushNode())) {
-            brushes.push_back(std::move(*settings));
+            brushes.push_back({name, std::move(*settings)});
         }
     };
     if (arguments.empty()) {
-        add(currentBrush(host));
+        add("current brush", currentBrush(host));
     }
-    for (std::string const& preset : arguments.rest()) {
-        add(*loaded(host, QString::fromStdString(preset)));
+    for (std::string const& word : arguments.rest()) {
+        QString const preset = QString::fromStdString(word);
+        add(QFileInfo(preset).completeBaseName().toStdString(), *loaded(host, preset));
     }
-    writeOutputFile(path, pngBytes(brushSheet(brushes)));
+    file.write(brushSheet(brushes));
 }
 
 constexpr Command table[] = {
@@ -212,8 +213,8 @@ constexpr Command table[] = {
     {"brush update", "", "read the fields from the nodes", update},
     {"brush save", "PATH", "write the settings as JSON", save},
     {"brush load", "PATH", "a new brush with the settings of such a file, applied", load},
-    {"brush sheet", "PATH [PRESET...]", "a PNG with a stroke of the current brush, or of presets",
-     sheet},
+    {"brush sheet", "PATH [dark] [PRESET...]",
+     "draw a stroke of the current brush, or of presets (.svg, .png)", sheet},
 };
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "host/ColorArguments.h"
 #include "host/Command.h"
 #include "host/Host.h"
+#include "host/pictures/PictureFile.h"
+#include "host/pictures/colorCards.h"
 #include "host/printable.h"
 
 #include "zsg/colors/ColorController.h"
@@ -174,6 +176,12 @@ void uses(Host& host, Arguments& arguments) {
     host.out() << controller(host).activeReferenceCount(id) << '\n';
 }
 
+void card(Host& host, Arguments& arguments) {
+    PictureFile const file = PictureFile::take(arguments);
+    arguments.done();
+    file.write(paletteCard(host));
+}
+
 constexpr Command table[] = {
     {"color list", "[plain|multi|named]", "list colours", list},
     {"color show", "COLOR", "all about a colour", show},
@@ -191,6 +199,7 @@ constexpr Command table[] = {
     {"color flags", "COLOR BITS on|off", "set or clear flags of a plain colour", flags},
     {"color toggle", "COLOR", "make a multi-colour of it, or one of its sub-colours", toggle},
     {"color link", "FROM TO", "bind all materials that use FROM to TO", link},
+    {"color card", "PATH [dark]", "draw every colour with name, value and uses (.svg, .png)", card},
 };
 
 } // namespace

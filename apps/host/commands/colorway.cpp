@@ -1,6 +1,8 @@
 #include "host/ColorArguments.h"
 #include "host/Command.h"
 #include "host/Host.h"
+#include "host/pictures/PictureFile.h"
+#include "host/pictures/colorCards.h"
 #include "host/printable.h"
 
 #include "zsg/colors/ColorController.h"
@@ -106,6 +108,12 @@ void restore(Host& host, Arguments& arguments) {
     controller(host).setDeleted(id, false);
 }
 
+void board(Host& host, Arguments& arguments) {
+    PictureFile const file = PictureFile::take(arguments);
+    arguments.done();
+    file.write(colorwayBoard(host));
+}
+
 constexpr Command table[] = {
     {"colorway list", "", "list colorways, * marks the active one", list},
     {"colorway show", "COLORWAY", "show what it makes of each multi-colour", show},
@@ -118,6 +126,8 @@ constexpr Command table[] = {
     {"colorway remove", "COLORWAY MULTI...", "take multi-colours out of a colorway", remove},
     {"colorway delete", "COLORWAY", "mark a colorway as deleted", markDeleted},
     {"colorway restore", "COLORWAY", "bring a deleted colorway back", restore},
+    {"colorway board", "PATH [dark]",
+     "draw what each colorway makes of each multi-colour (.svg, .png)", board},
 };
 
 } // namespace

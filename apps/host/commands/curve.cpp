@@ -1,13 +1,11 @@
 #include "host/Command.h"
 #include "host/NamedValues.h"
-#include "host/Picture.h"
+#include "host/pictures/PictureFile.h"
+#include "host/pictures/curvePlot.h"
 
 #include "zsg/values/AnimationCurve.h"
 #include "zsg/values/keyLetters.h"
 
-#include <algorithm>
-#include <cmath>
-#include <limits>
 #include <ostream>
 
 namespace app {
@@ -111,91 +109,11 @@ void show(Host& host, Arguments& arguments) {
     }
 }
 
-/// Fits all points of a curve into a picture, y upwards.
-class Frame {
-public:
-    explicit Frame(AnimationCurve const& curve) {
-        for (int i = 0; i < curve.keyCount(); ++i) {
-            nyx::AnimationKey const& key = curve.keyAt(i);
-            for (nyxVector2f const& p : {key.pos, key.in, key.out}) {
-                low_ = {std::min(low_.x, p.x), std::min(low_.y, p.y)};
-                high_ = {std::max(high_.x, p.x), std::max(high_.y, p.y)};
-            }
-        }
-    }
-    [[nodiscard]] Picture::Point at(double x, double y) const {
-        auto const part = [](double v, float low, float high) {
-            double const range = static_cast<double>(high) - static_cast<double>(low);
-            return range > 0 ? (v - static_cast<double>(low)) / range : 0.5;
-        };
-        return {16 + 480 * part(x, low_.x, high_.x), 304 - 288 * part(y, low_.y, high_.y)};
-    }
-    [[nodiscard]] Picture::Point at(nyxVector2f const& p) const {
-        return at(static_cast<double>(p.x), static_cast<double>(p.y));
-    }
-
-private:
-    static constexpr float most = std::numeric_limits<float>::max();
-    nyxVector2f low_{most, most};
-    nyxVector2f high_{-most, -most};
-};
-
-std::vector<Picture::Point> segment(Frame const& frame, nyx::AnimationKey const& a,
-                                    nyx::AnimationKey const& b) {
-    auto const d = [](float v) { return static_cast<double>(v); };
-    switch (a.type) {
-    case nyx::KeyType::L:
-        return {frame.at(a.pos), frame.at(b.pos)};
-    case nyx::KeyType::s:
-        return {frame.at(a.pos), frame.at(d(b.pos.x), d(a.pos.y)), frame.at(b.pos)};
-    case nyx::KeyType::S:
-        return {frame.at(a.pos), frame.at(d(a.pos.x), d(b.pos.y)), frame.at(b.pos)};
-    default:
-        break;
-    }
-    std::vector<Picture::Point> points;
-    constexpr int steps = 48;
-    for (int i = 0; i <= steps; ++i) {
-        double const t = static_cast<double>(i) / steps;
-        double const u = 1 - t;
-        auto const mix = [&](float p, float q, float r, float s) {
-            return u * u * u * d(p) + 3 * u * u * t * d(q) + 3 * u * t * t * d(r) +
-                   t * t * t * d(s);
-        };
-        points.push_back(frame.at(mix(a.pos.x, a.out.x, b.in.x, b.pos.x),
-                                  mix(a.pos.y, a.out.y, b.in.y, b.pos.y)));
-    }
-    return points;
-}
-
 void save(Host& host, Arguments& arguments) {
     AnimationCurve const& curve = take(host, arguments);
-    std::string const path = arguments.word("a path");
+    PictureFile const file = PictureFile::take(arguments);
     arguments.done();
-    if (curve.keyCount() == 0) {
-        throw CommandError("the curve has no keys");
-    }
-    nyxArray<float> data;
-    std::string types;
-    curve.store(data, types);
-    if (!std::ranges::all_of(data, [](float f) { return std::isfinite(f); })) {
-        throw CommandError("a point of the curve cannot be drawn");
-    }
-    Frame const frame(curve);
-    Picture picture(512, 320);
-    for (int i = 0; i < curve.keyCount(); ++i) {
-        nyx::AnimationKey const& key = curve.keyAt(i);
-        picture.line({frame.at(key.in), frame.at(key.pos), frame.at(key.out)}, ink::grey);
-        picture.circle(frame.at(key.in), 3, ink::red);
-        picture.circle(frame.at(key.out), 3, ink::green);
-    }
-    for (int i = 0; i + 1 < curve.keyCount(); ++i) {
-        picture.line(segment(frame, curve.keyAt(i), curve.keyAt(i + 1)), ink::blue, 2);
-    }
-    for (int i = 0; i < curve.keyCount(); ++i) {
-        picture.circle(frame.at(curve.keyAt(i).pos), 4, ink::black);
-    }
-    picture.save(path);
+    file.write(curvePlot(curve));
 }
 
 constexpr Command table[] = {
@@ -212,7 +130,7 @@ constexpr Command table[] = {
     {"curve remove", "CURVE KEY", "take a key out", remove},
     {"curve load", "CURVE LETTERS NUMBER...", "read the exchange format", load},
     {"curve show", "CURVE", "list the keys", show},
-    {"curve save", "CURVE PATH", "draw it (.svg, .png)", save},
+    {"curve save", "CURVE PATH [dark]", "draw it (.svg, .png)", save},
 };
 
 } // namespace

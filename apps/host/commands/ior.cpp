@@ -2,7 +2,9 @@
 #include "host/IORLint.h"
 #include "host/InputFile.h"
 #include "host/NamedValues.h"
-#include "host/Picture.h"
+#include "host/metalSamples.h"
+#include "host/pictures/PictureFile.h"
+#include "host/pictures/metalPlot.h"
 
 #include "zsg/values/FloatArray.h"
 #include "zsg/values/loadIORFile.h"
@@ -12,7 +14,6 @@
 #include <cmath>
 #include <iomanip>
 #include <ostream>
-#include <sstream>
 
 namespace app {
 
@@ -20,29 +21,8 @@ namespace {
 
 using zsg::FloatArray;
 
-struct Sample {
-    double wavelength = 0;
-    double n = 0;
-    double k = 0;
-
-    /// The part of the light that a surface in air reflects when it falls on it straight.
-    [[nodiscard]] double reflectance() const {
-        return ((n - 1) * (n - 1) + k * k) / ((n + 1) * (n + 1) + k * k);
-    }
-};
-
 FloatArray& take(Host& host, Arguments& arguments) {
     return takeNamed<FloatArray>(host, arguments, "a loaded file");
-}
-
-std::vector<Sample> samples(FloatArray const& triples) {
-    std::vector<Sample> list;
-    for (qsizetype i = 0; i + 2 < triples.size(); i += 3) {
-        list.push_back({static_cast<double>(triples[i]), static_cast<double>(triples[i + 1]),
-                        static_cast<double>(triples[i + 2])});
-    }
-    std::ranges::stable_sort(list, {}, &Sample::wavelength);
-    return list;
 }
 
 void load(Host& host, Arguments& arguments) {
@@ -61,7 +41,7 @@ void load(Host& host, Arguments& arguments) {
 void show(Host& host, Arguments& arguments) {
     FloatArray const& triples = take(host, arguments);
     arguments.done();
-    for (Sample const& s : samples(triples)) {
+    for (MetalSample const& s : metalSamples(triples)) {
         host.out() << "  " << s.wavelength << " nm  n " << s.n << "  k " << s.k << "  R "
                    << std::fixed << std::setprecision(2) << s.reflectance() << std::defaultfloat
                    << std::setprecision(6) << '\n';
@@ -69,16 +49,16 @@ void show(Host& host, Arguments& arguments) {
 }
 
 void reflectance(Host& host, Arguments& arguments) {
-    std::vector<Sample> const list = samples(take(host, arguments));
+    std::vector<MetalSample> const list = metalSamples(take(host, arguments));
     double const wavelength = arguments.real("a wavelength in nanometres");
     arguments.done();
-    auto const next = std::ranges::lower_bound(list, wavelength, {}, &Sample::wavelength);
+    auto const next = std::ranges::lower_bound(list, wavelength, {}, &MetalSample::wavelength);
     if (next == list.end() || (next == list.begin() && next->wavelength != wavelength)) {
         throw CommandError("the file has no figures there");
     }
-    Sample s = *next;
+    MetalSample s = *next;
     if (next->wavelength != wavelength) {
-        Sample const& before = *std::prev(next);
+        MetalSample const& before = *std::prev(next);
         double const t = (wavelength - before.wavelength) / (next->wavelength - before.wavelength);
         s.n = before.n + (next->n - before.n) * t;
         s.k = before.k + (next->k - before.k) * t;
@@ -90,21 +70,21 @@ void reflectance(Host& host, Arguments& arguments) {
 // A picture for a terminal: columns of equal width in wavelength, n and k to one scale and R to its
 // own.
 void plot(Host& host, Arguments& arguments) {
-    std::vector<Sample> const list = samples(take(host, arguments));
+    std::vector<MetalSample> const list = metalSamples(take(host, arguments));
     arguments.done();
     constexpr int columns = 72;
     constexpr int rows = 18;
     double const from = list.front().wavelength;
     double const to = list.back().wavelength;
     double top = 1;
-    for (Sample const& s : list) {
+    for (MetalSample const& s : list) {
         top = std::max({top, s.n, s.k});
     }
     if (!(to > from) || !std::isfinite(to) || !std::isfinite(top)) {
         throw CommandError("there is nothing to draw");
     }
     std::vector<std::string> picture(rows, std::string(columns, ' '));
-    auto const mark = [&](Sample const& s, double part, char letter) {
+    auto const mark = [&](MetalSample const& s, double part, char letter) {
         if (part >= 0 && part <= 1) {
             auto const x =
                 static_cast<std::size_t>((s.wavelength - from) / (to - from) * (columns - 1));
@@ -112,7 +92,7 @@ void plot(Host& host, Arguments& arguments) {
             picture[y][x] = letter;
         }
     };
-    for (Sample const& s : list) {
+    for (MetalSample const& s : list) {
         mark(s, s.n / top, 'n');
         mark(s, s.k / top, 'k');
         mark(s, s.reflectance(), 'R');
@@ -125,53 +105,10 @@ void plot(Host& host, Arguments& arguments) {
 }
 
 void save(Host& host, Arguments& arguments) {
-    std::vector<Sample> const list = samples(take(host, arguments));
-    std::string const path = arguments.word("a path");
+    std::vector<MetalSample> const list = metalSamples(take(host, arguments));
+    PictureFile const file = PictureFile::take(arguments);
     arguments.done();
-    double const from = list.front().wavelength;
-    double const to = list.back().wavelength;
-    double top = 1;
-    for (Sample const& s : list) {
-        if (std::isfinite(s.n) && std::isfinite(s.k)) {
-            top = std::max({top, s.n, s.k});
-        }
-    }
-    if (!(to > from) || !std::isfinite(to)) {
-        throw CommandError("there is nothing to draw");
-    }
-    auto const at = [&](double wavelength, double value, double range) {
-        return Picture::Point{48 + 560 * (wavelength - from) / (to - from),
-                              320 - 300 * value / range};
-    };
-    Picture picture(640, 360);
-    for (int i = 0; i <= 8; ++i) {
-        double const wavelength = from + (to - from) * i / 8;
-        picture.line({at(wavelength, 0, 1), at(wavelength, 1, 1)}, ink::grey, 0.5);
-        Picture::Point const label = at(wavelength, 0, 1);
-        picture.text({label.x - 12, label.y + 18}, std::to_string(std::lround(wavelength)));
-        double const value = top * i / 8;
-        picture.line({at(from, value, top), at(to, value, top)}, ink::grey, 0.5);
-        std::ostringstream text;
-        text << std::setprecision(3) << value;
-        picture.text({8, at(from, value, top).y + 4}, text.str());
-    }
-    auto const plot = [&](double (*value)(Sample const&), double range, nyxColor_rgba const& color,
-                          char const* label, double y) {
-        std::vector<Picture::Point> points;
-        for (Sample const& s : list) {
-            if (std::isfinite(value(s))) {
-                points.push_back(at(s.wavelength, value(s), range));
-            }
-        }
-        picture.line(std::move(points), color, 2);
-        picture.line({{64, y - 4}, {88, y - 4}}, color, 2);
-        picture.text({94, y}, label);
-    };
-    plot([](Sample const& s) { return s.n; }, top, ink::blue, "n", 36);
-    plot([](Sample const& s) { return s.k; }, top, ink::red, "k", 54);
-    plot([](Sample const& s) { return s.reflectance(); }, 1, ink::green, "reflectance, 0 to 1", 72);
-    picture.text({270, 354}, "wavelength in nm");
-    picture.save(path);
+    file.write(metalPlot(list));
 }
 
 void lint(Host& host, Arguments& arguments) {
@@ -197,7 +134,7 @@ constexpr Command table[] = {
     {"ior show", "NAME", "list n, k and the reflectance", show},
     {"ior reflectance", "NAME NM", "the reflectance at a wavelength", reflectance},
     {"ior plot", "NAME", "draw n, k and the reflectance R as text", plot},
-    {"ior save", "NAME PATH", "plot n, k and the reflectance (.svg, .png)", save},
+    {"ior save", "NAME PATH [dark]", "plot n, k and the reflectance (.svg, .png)", save},
     {"ior lint", "PATH", "say what is suspicious about a file", lint},
 };
 

@@ -1,8 +1,9 @@
 #include "host/Command.h"
 #include "host/Host.h"
 #include "host/LightArguments.h"
-#include "host/LightMatrix.h"
-#include "host/Picture.h"
+#include "host/pictures/LightMatrix.h"
+#include "host/pictures/Picture.h"
+#include "host/pictures/PictureFile.h"
 #include "host/printedBy.h"
 
 #include "zsg/lightlayers/ILightLayerApi.h"
@@ -101,9 +102,9 @@ void dump(Host& host, Arguments&) {
 void matrix(Host& host, Arguments&) { host.out() << LightMatrix(host).text(); }
 
 void save(Host& host, Arguments& arguments) {
-    std::string const path = arguments.word("a file");
+    PictureFile const file = PictureFile::take(arguments);
     arguments.done();
-    LightMatrix(host).picture().save(path);
+    file.write(LightMatrix(host).picture());
 }
 
 constexpr Command table[] = {
@@ -111,7 +112,7 @@ constexpr Command table[] = {
     {"lightlayer show", "LAYER", "show a layer and its lights as they are read", show},
     {"lightlayer items", "LAYER", "list what the scene has in a layer now", items},
     {"lightlayer matrix", "", "show which light is in which layer", matrix},
-    {"lightlayer save", "PATH", "draw that (.svg, .png)", save},
+    {"lightlayer save", "PATH [dark]", "draw that (.svg, .png)", save},
     {"lightlayer dump", "", "print the library's own dump", dump},
     {"lightlayer create", "NAME", "make a layer", create},
     {"lightlayer delete", "LAYER", "delete a layer; its lights go to layer 1", remove},

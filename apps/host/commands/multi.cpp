@@ -1,6 +1,8 @@
 #include "host/ColorArguments.h"
 #include "host/Command.h"
 #include "host/Host.h"
+#include "host/pictures/PictureFile.h"
+#include "host/pictures/colorCards.h"
 
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
@@ -100,6 +102,12 @@ void unlink(Host& host, Arguments& arguments) {
     controller(host).unlinkSubColor(multi, index);
 }
 
+void card(Host& host, Arguments& arguments) {
+    PictureFile const file = PictureFile::take(arguments);
+    arguments.done();
+    file.write(multiColorCard(host));
+}
+
 constexpr Command table[] = {
     {"multi new", "MULTI NAME RGBA [at INDEX]", "add a new sub-colour", addNew},
     {"multi copy", "MULTI COLOR...", "add new sub-colours of these values", copies},
@@ -111,6 +119,8 @@ constexpr Command table[] = {
     {"multi switch", "MULTI SUB", "make a sub-colour the active one", switchTo},
     {"multi change", "MULTI OLD NEW", "put a colour in the place of a sub-colour", change},
     {"multi unlink", "MULTI INDEX", "replace a sub-colour by a copy of its own", unlink},
+    {"multi card", "PATH [dark]", "draw every multi-colour with its sub-colours (.svg, .png)",
+     card},
 };
 
 } // namespace

@@ -4,13 +4,14 @@
 #include "host/Host.h"
 #include "host/OutputFile.h"
 #include "host/PaintState.h"
-#include "host/png.h"
+#include "host/pictures/rasterPng.h"
 
 #include "nyxembedded/Painting.h"
 #include "zsg/painting/IPainterSurface.h"
 
 #include <QCryptographicHash>
 
+#include <algorithm>
 #include <ostream>
 
 namespace app {
@@ -22,13 +23,25 @@ nyx::embedded::Image composite(Host& host) {
     return host.renderer().painting().composite(currentSurface(host).id());
 }
 
+/// The pixels as image files have them: not multiplied by alpha.
+shape::Raster raster(nyx::embedded::Image image) {
+    for (std::size_t i = 0; i + 3 < image.rgba.size(); i += 4) {
+        int const alpha = image.rgba[i + 3];
+        for (std::size_t part = i; alpha > 0 && part < i + 3; ++part) {
+            int const whole = (image.rgba[part] * 255 + alpha / 2) / alpha;
+            image.rgba[part] = static_cast<std::uint8_t>(std::min(whole, 255));
+        }
+    }
+    return {{}, 0, 0, image.width, image.height, std::move(image.rgba)};
+}
+
 void save(Host& host, Arguments& arguments) {
     std::string const path = arguments.word("a path");
     arguments.done();
     if (!path.ends_with(".png")) {
         throw CommandError("expected a path that ends in .png");
     }
-    writeOutputFile(path, pngBytes(composite(host)));
+    writeOutputFile(path, rasterPng(raster(composite(host))));
 }
 
 void checksum(Host& host, Arguments&) {

@@ -2,13 +2,12 @@
 #include "host/InputFile.h"
 #include "host/NamedValues.h"
 #include "host/OutputFile.h"
-#include "host/Picture.h"
+#include "host/pictures/PictureFile.h"
+#include "host/pictures/weaveDraft.h"
 #include "host/printedBy.h"
 
 #include "nyxrender/WeavePattern.h"
 #include "zsg/values/WeavePattern.h"
-
-#include <algorithm>
 
 namespace app {
 
@@ -17,7 +16,6 @@ namespace {
 using zsg::WeavePattern;
 
 constexpr int largestSide = 4096;
-constexpr int largestDrawnSide = 512;
 
 WeavePattern& take(Host& host, Arguments& arguments) {
     return takeNamed<WeavePattern>(host, arguments, "a weave");
@@ -181,34 +179,12 @@ void equal(Host& host, Arguments& arguments) {
 
 void save(Host& host, Arguments& arguments) {
     WeavePattern const& weave = take(host, arguments);
-    std::string const path = arguments.word("a path");
+    PictureFile const file = PictureFile::take(arguments);
     arguments.done();
-    if (path.ends_with(".json")) {
-        return writeOutputFile(path, weave.toJson().toStdString());
+    if (file.path.ends_with(".json") && !file.dark) {
+        return writeOutputFile(file.path, weave.toJson().toStdString());
     }
-    if (std::max(weave.numWarp(), weave.numWeft()) > largestDrawnSide) {
-        throw CommandError("the weave is too large to draw");
-    }
-    // A weaver's draft: black where the warp lies on top; at least two repeats to see the joints.
-    constexpr double cell = 12;
-    int const columns = weave.numWarp() > 64 ? weave.numWarp() : 2 * weave.numWarp();
-    int const rows = weave.numWeft() > 64 ? weave.numWeft() : 2 * weave.numWeft();
-    Picture picture(cell * columns, cell * rows);
-    for (int y = 0; y < rows; ++y) {
-        for (int x = 0; x < columns; ++x) {
-            picture.rectangle({cell * x + 0.5, cell * y + 0.5}, cell - 1, cell - 1,
-                              weave.get(x, y) == WeavePattern::Warp ? ink::black : ink::white);
-        }
-    }
-    for (int x = 0; x <= columns; ++x) {
-        picture.line({{cell * x, 0}, {cell * x, cell * rows}}, ink::grey,
-                     x % weave.numWarp() == 0 ? 2 : 0.5);
-    }
-    for (int y = 0; y <= rows; ++y) {
-        picture.line({{0, cell * y}, {cell * columns, cell * y}}, ink::grey,
-                     y % weave.numWeft() == 0 ? 2 : 0.5);
-    }
-    picture.save(path);
+    file.write(weaveDraft(weave));
 }
 
 constexpr Command table[] = {
@@ -225,7 +201,7 @@ constexpr Command table[] = {
     {"weave preset", "WEAVE", "print it as source text", preset},
     {"weave hash", "WEAVE", "print its hash", hash},
     {"weave equal", "WEAVE WEAVE", "compare two", equal},
-    {"weave save", "WEAVE PATH", "write a draft (.svg, .png) or its text (.json)", save},
+    {"weave save", "WEAVE PATH [dark]", "write a draft (.svg, .png) or its text (.json)", save},
 };
 
 } // namespace

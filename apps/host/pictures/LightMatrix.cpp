@@ -1,8 +1,8 @@
-#include "host/LightMatrix.h"
+#include "host/pictures/LightMatrix.h"
 
 #include "host/Host.h"
 #include "host/LightArguments.h"
-#include "host/Picture.h"
+#include "host/pictures/Picture.h"
 
 #include "zsg/lightlayers/ILightLayerApi.h"
 
@@ -114,21 +114,35 @@ std::string LightMatrix::text() const {
 }
 
 Picture LightMatrix::picture() const {
-    constexpr double line = 22, names = 230, column = 110, margin = 8, mark = 12;
+    constexpr double line = 26, names = 250, column = 120, margin = 16, mark = 14;
     double const width = names + column * static_cast<double>(columns_.size()) + margin;
     double const height = line * static_cast<double>(rows_.size() + 1) + 2 * margin;
-    Picture picture(width, height);
-    picture.rectangle({0, 0}, width, height, ink::white);
+    Picture picture{width, height, "Which light is in which layer", {}};
+    auto const left = [&](std::size_t i) { return names + column * static_cast<double>(i); };
+    auto const text = [&](double x, double y, std::string const& name, double widest, bool bold) {
+        shape::Text shown{{x, y + line * 0.65}, name};
+        shown.bold = bold;
+        picture.add(shape::fitted(std::move(shown), widest));
+    };
     for (std::size_t i = 0; i < columns_.size(); ++i) {
-        picture.text({names + column * static_cast<double>(i), margin + line * 0.7}, columns_[i]);
+        text(left(i), margin, columns_[i], column - 12, true);
     }
     double y = margin + line;
     for (Row const& row : rows_) {
-        picture.line({{margin, y}, {width - margin, y}}, ink::grey);
-        picture.text({margin + 14 * row.depth, y + line * 0.7}, row.name);
+        shape::Path rule;
+        rule.stroke = {Ink::Grid, 1};
+        rule.moveTo({margin, y});
+        rule.lineTo({width - margin, y});
+        picture.add(std::move(rule));
+        double const indented = margin + 16 * row.depth;
+        text(indented, y, row.name, names - indented - 12, !row.isLight);
         for (std::size_t i = 0; row.isLight && i < columns_.size(); ++i) {
-            picture.rectangle({names + column * static_cast<double>(i), y + (line - mark) / 2},
-                              mark, mark, row.in[i] ? ink::blue : ink::grey);
+            shape::Rectangle box{{left(i), y + (line - mark) / 2}, mark, mark, {}, {}, 3};
+            if (row.in[i]) {
+                box.fill = Ink::First;
+            }
+            box.outline = {row.in[i] ? Ink::First : Ink::Frame, 1};
+            picture.add(std::move(box));
         }
         y += line;
     }

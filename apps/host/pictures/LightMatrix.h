@@ -8,7 +8,7 @@
 namespace app {
 
 class Host;
-class Picture;
+struct Picture;
 
 /// Which light is in which layer, as the working copy has it: a row for each light, below the
 /// groups that lead to it, and a column for each layer.

@@ -1,0 +1,10 @@
+#include "host/Arguments.h"
+#include "host/pictures/png.h"
+
+namespace app {
+
+std::string png(Picture const&, Theme) {
+    throw CommandError("this program was built without drawing into a .png; write a .svg");
+}
+
+} // namespace app
