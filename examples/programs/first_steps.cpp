@@ -1,12 +1,11 @@
-// The README's example, whole: load a scene, hear the renderer, rename a colour, take it back.
-
-#include "nyxembedded/Host.h"
-#include "zsg/colors/ColorController.h"
-#include "zsg/colors/ColorDB.h"
-#include "zsg/core/Events.h"
-#include "zsg/core/IEventListener.h"
-#include "zsg/core/ISceneGraph.h"
-#include "zsg/core/Subscription.h"
+#include <nyxembedded/Host.h>
+#include <zsg/colors/ColorController.h>
+#include <zsg/colors/ColorDB.h>
+#include <zsg/core/Events.h>
+#include <zsg/core/IEventListener.h>
+#include <zsg/core/ISceneGraph.h>
+#include <zsg/core/Subscription.h>
+#include <zsg/core/eventPayloadText.h>
 
 #include <iostream>
 
@@ -17,16 +16,10 @@ public:
     explicit Listener(zsg::IEventQueue& queue)
         : subscription_(queue, *this, {zsg::EventType::ColorUpdated, zsg::EventType::ColorSynced}) {
     }
-
-    void onEvent(zsg::Event const* event) override {
-        if (event->type() == zsg::EventType::ColorSynced) {
-            ++synced;
-        } else {
-            std::cout << zsg::eventTypeString(event->type()) << '\n';
-        }
+    void onEvent(zsg::Event const* event) override { // borrowed: the queue deletes it
+        std::cout << "heard " << zsg::eventTypeString(event->type()) << ' '
+                  << zsg::eventPayloadText(*event) << '\n';
     }
-
-    int synced = 0;
 
 private:
     zsg::Subscription subscription_; // last: it ends first
@@ -41,19 +34,16 @@ int main(int argc, char** argv) {
         std::cerr << error << '\n';
         return 1;
     }
+    host.renderer().processEvents();      // what a Qt event loop does by itself
     zsg::ISceneGraph& root = host.root(); // owns every subsystem
-    zsg::ColorDB& db = *root.colorDB();
-    Listener listener(*root.eventQueue());
+    Listener const listener(*root.eventQueue());
 
-    host.renderer().processEvents(); // what a Qt event loop does by itself
-    std::cout << listener.synced << " colours synchronised\n";
-
-    nyx::ColorId const id = db.colors()[0];
-    std::cout << db.colorFromId(id).getColorName() << '\n';
-    root.colorController()->setDisplayName(id, "Walnut"); // pushed, and announced as an event
-    std::cout << db.colorFromId(id).getColorName()
-              << " after: " << host.undoStack().text(0).toStdString() << '\n';
+    nyx::ColorId const id = root.colorDB()->colors()[0];
+    std::cout << root.colorDB()->colorFromId(id).getColorName() << '\n';
+    root.colorController()->setDisplayName(id, "Walnut"); // on the undo stack, and announced
+    std::cout << host.undoStack().text(0).toStdString() << '\n';
     host.undoStack().undo();
-    std::cout << db.colorFromId(id).getColorName() << '\n';
+    std::cout << root.colorDB()->colorFromId(id).getColorName() << '\n';
+    host.renderer().processEvents(); // what the renderer has to say of it
     return 0;
 }

@@ -1,0 +1,18 @@
+# code_block(<out> <rest> <text> <language>): the first block of code of that language in a Markdown
+# text, and the text behind it; both empty when there is none.
+function(code_block out rest text language)
+    set(${out} "" PARENT_SCOPE)
+    set(${rest} "" PARENT_SCOPE)
+    string(FIND "${text}" "\n```${language}\n" begin)
+    if(begin EQUAL -1)
+        return()
+    endif()
+    string(LENGTH "\n```${language}\n" length)
+    math(EXPR begin "${begin} + ${length}")
+    string(SUBSTRING "${text}" ${begin} -1 text)
+    string(FIND "${text}" "```" end)
+    string(SUBSTRING "${text}" 0 ${end} block)
+    string(SUBSTRING "${text}" ${end} -1 text)
+    set(${out} "${block}" PARENT_SCOPE)
+    set(${rest} "${text}" PARENT_SCOPE)
+endfunction()
