@@ -7,5 +7,6 @@ void prepareStandardStreams();
 /// Whether somebody sits at standard input and output.
 [[nodiscard]] bool isTerminal();
 
-/// Whether standard output is a terminal.
-[[nodiscard]] bool isOutputTerminal();
+/// Whether standard output is a terminal that shows every colour, and its user wants colours: one
+/// that says so in COLORTERM (any on Windows), unless NO_COLOR holds something.
+[[nodiscard]] bool showsColors();

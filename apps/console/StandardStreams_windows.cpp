@@ -1,9 +1,17 @@
 #include "console/StandardStreams.h"
 
+#include <QByteArray>
+
 #include <fcntl.h>
 #include <io.h>
 #include <stdio.h>
 #include <windows.h>
+
+namespace {
+
+bool isOutputTerminal() { return _isatty(_fileno(stdout)) != 0; }
+
+} // namespace
 
 void prepareStandardStreams() {
     // Text mode would change line ends, and end reading at a Ctrl+Z.
@@ -23,4 +31,4 @@ void prepareStandardStreams() {
 
 bool isTerminal() { return _isatty(_fileno(stdin)) != 0 && isOutputTerminal(); }
 
-bool isOutputTerminal() { return _isatty(_fileno(stdout)) != 0; }
+bool showsColors() { return isOutputTerminal() && qEnvironmentVariableIsEmpty("NO_COLOR"); }

@@ -115,7 +115,7 @@ int main(int argc, char** argv) {
     }
     app::Interpreter interpreter(host);
     interpreter.echo(options.echo);
-    interpreter.showSwatches(isOutputTerminal() && !options.jsonLines);
+    interpreter.showSwatches(showsColors() && !options.jsonLines);
     int failures = 0;
     if (options.jsonLines) {
         failures = app::runJsonSession(interpreter, host, std::cin, std::cout);
