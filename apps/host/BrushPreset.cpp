@@ -41,8 +41,7 @@ bool isKept(Parameter const& parameter) {
 
 /// With the fewest digits that make the same float.
 Json numberOf(float value) {
-    std::string const text = QString::number(value, 'g', 6).toStdString();
-    double const shortest = std::stod(text);
+    double const shortest = QString::number(value, 'g', 6).toDouble();
     return static_cast<float>(shortest) == value ? shortest : static_cast<double>(value);
 }
 

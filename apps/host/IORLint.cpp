@@ -1,7 +1,8 @@
 #include "host/IORLint.h"
 
+#include <algorithm>
 #include <cctype>
-#include <cstdlib>
+#include <charconv>
 #include <set>
 #include <sstream>
 
@@ -17,6 +18,14 @@ bool startsWithNumber(std::string const& line) {
     std::size_t const at = line.find_first_not_of(" \t");
     return at != std::string::npos &&
            (std::isdigit(static_cast<unsigned char>(line[at])) != 0 || line[at] == '.');
+}
+
+/// With a point whatever locale the application has set; 0 when there is none.
+double leadingNumber(std::string const& line) {
+    std::size_t const at = std::min(line.find_first_not_of(" \t"), line.size());
+    double number = 0;
+    std::from_chars(line.data() + at, line.data() + line.size(), number);
+    return number;
 }
 
 /// What a header consists of; lines before it may start with a number, say a year.
@@ -78,7 +87,7 @@ std::vector<std::string> lintIOR(std::string const& text, std::string const& ext
         pastHeader = pastHeader || looksLikeHeader(line);
         if (startsWithNumber(line)) {
             ++rows;
-            largest = std::max(largest, std::strtod(line.c_str(), nullptr));
+            largest = std::max(largest, leadingNumber(line));
         }
     }
     number = 1;

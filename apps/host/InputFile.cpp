@@ -15,6 +15,9 @@ namespace {
     throw CommandError((path.empty() ? "\"\"" : path) + ": " + why);
 }
 
+/// In words that are the same on every system, as scripts compare them.
+std::string reason(std::error_code error) { return error.default_error_condition().message(); }
+
 } // namespace
 
 void checkInputFile(std::string const& path, std::uintmax_t largest) {
@@ -25,7 +28,7 @@ void checkInputFile(std::string const& path, std::uintmax_t largest) {
         if (!error) { // not every system calls a missing file an error
             error = std::make_error_code(std::errc::no_such_file_or_directory);
         }
-        refuse(path, "cannot be opened: " + error.message());
+        refuse(path, "cannot be opened: " + reason(error));
     }
     if (std::filesystem::is_directory(status)) {
         refuse(path, "is a folder");
@@ -35,7 +38,7 @@ void checkInputFile(std::string const& path, std::uintmax_t largest) {
     }
     std::uintmax_t const size = std::filesystem::file_size(name, error);
     if (error) {
-        refuse(path, "cannot be opened: " + error.message());
+        refuse(path, "cannot be opened: " + reason(error));
     }
     // The system's own tables count as regular files without contents, and some never end.
     if (size == 0) {

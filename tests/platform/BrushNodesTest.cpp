@@ -55,7 +55,7 @@ protected:
     }
     /// What the stencil shows after a path was loaded and the renderer was told.
     std::shared_ptr<nyx::embedded::BrushImage const> load(std::filesystem::path const& path) {
-        sceneApi().load_brush_file(param(stencil, "filepath"), path.c_str());
+        sceneApi().load_brush_file(param(stencil, "filepath"), path.string().c_str());
         api()->update_brush_node(stencil);
         return settings().stencil;
     }
@@ -148,7 +148,7 @@ TEST_F(BrushNodes, WhatCannotBeReadIsWarnedAboutAndLeavesNoImage) {
         warnings.clear();
         EXPECT_EQ(load(path), nullptr);
         EXPECT_EQ(warnings.substr(0, 11 + path.string().size()), "nyxrender: " + path.string());
-        EXPECT_STREQ(param(stencil, "filepath").value.file, path.c_str());
+        EXPECT_STREQ(param(stencil, "filepath").value.file, path.string().c_str());
     }
     // A size that would take 16 GB, in an otherwise good header.
     warnings.clear();

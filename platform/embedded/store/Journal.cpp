@@ -2,7 +2,9 @@
 
 #include "store/jsonText.h"
 
-#include <cstdio>
+#include <charconv>
+#include <iterator>
+#include <utility>
 
 namespace nyx::embedded {
 
@@ -22,9 +24,10 @@ void Journal::append(std::string& line, char const* text) {
 void Journal::append(std::string& line, std::string const& text) { appendText(line += ' ', text); }
 
 void Journal::append(std::string& line, float value) {
-    char digits[32];
-    std::snprintf(digits, sizeof digits, " %.6g", static_cast<double>(value));
-    line += digits;
+    char digits[32]; // with a point whatever locale the application has set
+    auto const end =
+        std::to_chars(std::begin(digits), std::end(digits), value, std::chars_format::general, 6);
+    (line += ' ').append(digits, end.ptr);
 }
 
 void Journal::push(std::string line) {
