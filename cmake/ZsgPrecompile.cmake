@@ -2,7 +2,7 @@
 # library and GoogleTest again. Sources name every header that they use all the same: the clang
 # build does without, and so finds what is missing.
 
-# zsg_precompile(<target> library|tests): the target's sources start from the headers of that kind.
+# zsg_precompile(<target> library|tests|window|window_tests): the target's sources start from the headers of that kind.
 function(zsg_precompile target kind)
     if(NOT ZSG_PRECOMPILE)
         return()
@@ -14,7 +14,15 @@ function(zsg_precompile target kind)
             <QCoreApplication> <QList> <QObject> <QString>)
         # GCC takes a precompiled header only where the options are the same.
         set(libraries Qt6::Core zsg_warnings)
-        if(kind STREQUAL "tests")
+        if(kind MATCHES "window")
+            list(APPEND headers <QtWidgets>)
+            list(APPEND libraries Qt6::Widgets)
+        endif()
+        if(kind STREQUAL "window_tests")
+            list(APPEND headers <QtTest>)
+            list(APPEND libraries Qt6::Test)
+        endif()
+        if(kind MATCHES "tests")
             list(APPEND headers <gmock/gmock.h> <gtest/gtest.h>)
             list(APPEND libraries GTest::gmock GTest::gtest)
         endif()

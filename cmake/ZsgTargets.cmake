@@ -25,14 +25,17 @@ function(zsg_add_area area)
     set_property(GLOBAL APPEND PROPERTY ZSG_AREA_OBJECTS $<TARGET_OBJECTS:${target}>)
 endfunction()
 
-# zsg_add_test(<name> SOURCES ... LIBRARIES ...)
+# zsg_add_test(<name> [PRECOMPILE <kind>] SOURCES ... LIBRARIES ...)
 # A GoogleTest program whose cases become ctest cases.
 function(zsg_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES;LABELS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "PRECOMPILE" "SOURCES;LIBRARIES;LABELS")
+    if(NOT arg_PRECOMPILE)
+        set(arg_PRECOMPILE tests)
+    endif()
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE
         ${arg_LIBRARIES} zsg_test_support zsg_warnings GTest::gmock GTest::gtest)
-    zsg_precompile(${name} tests)
+    zsg_precompile(${name} ${arg_PRECOMPILE})
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
         PROPERTIES TIMEOUT 300 LABELS "${arg_LABELS}")
 endfunction()

@@ -49,6 +49,11 @@ ROWS = [
     ("host", "apps/host/*",
      "declarations export core values colors materials lightlayers painting|material manager"
      "|facade headers|nyxembedded headers|example of painting"),
+    ("panels", "apps/workbench/scene/* apps/workbench/colors/* apps/workbench/history/*",
+     "declarations export core values colors materials lightlayers painting host"
+     "|material manager"),
+    ("window", "apps/workbench/*",
+     "declarations export core colors host panels|facade headers|nyxembedded headers"),
     ("console", "apps/console/*", "core colors host|facade headers|nyxembedded headers"),
 ]
 ROOTS = ["include", "src", "platform/include", "platform/embedded/include", "platform/embedded",

@@ -13,6 +13,9 @@ Host::Host(std::ostream& out) : out_(&out) {
     embedded_.watchRoot([this](zsg::ISceneGraph* root) {
         sceneStates_.clear();
         events_.reset();
+        if (watcher_ && !root) {
+            watcher_(nullptr);
+        }
         if (!root) {
             return;
         }
@@ -22,6 +25,9 @@ Host::Host(std::ostream& out) : out_(&out) {
                       << e.payload << '\n';
             }
         });
+        if (watcher_) {
+            watcher_(root);
+        }
     });
 }
 
@@ -31,7 +37,18 @@ std::string Host::load(std::string const& path) {
     } catch (CommandError const& error) {
         return error.what();
     }
-    return embedded_.loadScene(path);
+    std::string message = embedded_.loadScene(path);
+    if (message.empty()) {
+        path_ = path;
+    }
+    return message;
+}
+
+void Host::watchRoot(std::function<void(zsg::ISceneGraph*)> watcher) {
+    watcher_ = std::move(watcher);
+    if (watcher_) {
+        watcher_(&root());
+    }
 }
 
 void Host::pump() { embedded_.renderer().processEvents(); }

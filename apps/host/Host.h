@@ -5,6 +5,7 @@
 #include "nyxembedded/Host.h"
 
 #include <any>
+#include <functional>
 #include <iosfwd>
 #include <map>
 #include <memory>
@@ -24,6 +25,13 @@ public:
     /// Replaces the scene; on failure everything stays as it was and the message is returned, which
     /// is empty on success. The renderer announces the colours of the new scene at the next pump().
     [[nodiscard]] std::string load(std::string const& path);
+
+    /// What was loaded last, as load() was given it; empty before.
+    [[nodiscard]] std::string const& path() const { return path_; }
+
+    /// `watcher` is called with the root at once and with each one that follows, and with null
+    /// before one ends, when the undo stack is empty already. It must not throw; there is one.
+    void watchRoot(std::function<void(zsg::ISceneGraph*)> watcher);
 
     /// Delivers what the renderer has to say.
     void pump();
@@ -70,6 +78,8 @@ private:
     }
 
     std::ostream* out_;
+    std::string path_;
+    std::function<void(zsg::ISceneGraph*)> watcher_;
     bool eventsShown_ = true;
     bool endRequested_ = false;
     States states_;

@@ -65,7 +65,9 @@ void Interpreter::run(std::vector<std::string> const& words) {
     host_.setOut(captured);
     std::string failure;
     try {
-        carryOut(host_, words);
+        if (!own_ || !own_(words)) {
+            carryOut(host_, words);
+        }
     } catch (std::exception const& error) {
         failure = printable(error.what(), longestMessage);
     }

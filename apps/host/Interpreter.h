@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <string_view>
@@ -25,6 +26,12 @@ public:
     void run(std::string_view line);
     void run(std::vector<std::string> const& words);
 
+    /// Commands that the program has besides the table: `own` is asked first, and says whether it
+    /// knew the words. It may throw CommandError.
+    void setOwnCommands(std::function<bool(std::vector<std::string> const&)> own) {
+        own_ = std::move(own);
+    }
+
     /// Puts a block of the colour before every "#rrggbb", for a terminal that can show it.
     void showSwatches(bool on) { swatches_ = on; }
 
@@ -41,6 +48,7 @@ public:
 
 private:
     Host& host_;
+    std::function<bool(std::vector<std::string> const&)> own_;
     bool swatches_ = false;
     bool echo_ = false;
 };

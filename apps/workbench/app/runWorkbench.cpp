@@ -1,0 +1,95 @@
+#include "workbench/app/runWorkbench.h"
+
+#include "workbench/app/Document.h"
+#include "workbench/app/FileActions.h"
+#include "workbench/app/MainWindow.h"
+#include "workbench/app/TerminationSignals.h"
+#include "workbench/app/WindowCommands.h"
+
+#include "host/printable.h"
+
+#include <QApplication>
+#include <QPixmap>
+#include <QSettings>
+#include <QStandardPaths>
+
+#include <iostream>
+
+namespace workbench {
+
+namespace {
+
+int fail(std::string const& message) {
+    std::cerr << app::printable(message, app::longestMessage) << std::endl;
+    return 1;
+}
+
+/// What a batch run does between loading and the end; 0 when all of it succeeded.
+int runBatch(CommandLine const& line, MainWindow& window) {
+    // Two turns of the event loop: what the first one lays out, the second one draws.
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    if (line.screenshot.isEmpty()) {
+        return 0;
+    }
+    if (!line.panel.isEmpty() && !window.panel(line.panel)) {
+        return fail("--panel: there is no \"" + line.panel.toStdString() + "\"; there are " +
+                    window.panelNames().join(", ").toStdString());
+    }
+    if (!window.picture(line.panel).save(line.screenshot, "PNG")) {
+        return fail(line.screenshot.toStdString() + ": cannot be written");
+    }
+    return 0;
+}
+
+} // namespace
+
+int runWorkbench(CommandLine const& line) {
+    QString const folder =
+        QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/autosave";
+    Document document(folder);
+    MainWindow window(document);
+    document.interpreter().setOwnCommands(
+        [&](std::vector<std::string> const& words) { return runWindowCommand(window, words); });
+    if (!line.palette.isEmpty()) {
+        MainWindow::setPaletteKind(line.palette == "dark" ? MainWindow::PaletteKind::Dark
+                                                          : MainWindow::PaletteKind::Light);
+    }
+    if (!line.scene.isEmpty()) {
+        if (std::string const message = document.open(line.scene); !message.empty()) {
+            return fail(message);
+        }
+    }
+    window.resize(line.size);
+    if (!line.isBatch()) {
+        QSettings const settings;
+        window.restoreGeometry(settings.value("geometry").toByteArray());
+        window.restoreState(settings.value("layout").toByteArray());
+    }
+    window.show();
+    if (!line.script.isEmpty() &&
+        document.runScript(line.script.toStdString(), std::cout, std::cerr) != 0) {
+        return 1;
+    }
+    if (!std::cout.flush()) {
+        return fail("the output could not be written");
+    }
+    if (line.isBatch()) {
+        return runBatch(line, window);
+    }
+    TerminationSignals const termination([&] {
+        document.scene().endDrags();
+        document.autosave();
+        QCoreApplication::exit(0);
+    });
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &document,
+                     [&] { document.autosave(); });
+    window.files().offerOrphans(folder);
+    int const code = QCoreApplication::exec();
+    QSettings settings;
+    settings.setValue("geometry", window.saveGeometry());
+    settings.setValue("layout", window.saveState());
+    return code;
+}
+
+} // namespace workbench

@@ -1,0 +1,26 @@
+#include "workbench/app/CommandLine.h"
+#include "workbench/app/runWorkbench.h"
+
+#include <QApplication>
+
+#include <iostream>
+
+int main(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        arguments += QString::fromLocal8Bit(argv[i]);
+    }
+    workbench::CommandLineResult const result = workbench::readCommandLine(arguments);
+    if (!result.line) {
+        (result.code == 0 ? std::cout : std::cerr) << result.text.toStdString();
+        return result.code;
+    }
+    if (result.line->scale != 0) {
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(result.line->scale));
+    }
+    QApplication::setStyle("Fusion");
+    QCoreApplication::setOrganizationName("zscenegraph");
+    QCoreApplication::setApplicationName("zsg-workbench");
+    QApplication const application(argc, argv);
+    return workbench::runWorkbench(*result.line);
+}

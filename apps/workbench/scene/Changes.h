@@ -1,0 +1,21 @@
+#pragma once
+
+#include "nyxrender/Ids.h"
+
+#include <vector>
+
+namespace workbench {
+
+/// What has happened to a scene since it was last told. Lists of ids hold each once, ascending.
+struct Changes {
+    bool everything = false; ///< another scene: forget all ids
+    bool materials = false;  ///< a material, its description or the schema
+    std::vector<nyx::ColorId> colors;
+    std::vector<nyx::ColorwayId> colorways;
+
+    [[nodiscard]] bool isEmpty() const {
+        return !everything && !materials && colors.empty() && colorways.empty();
+    }
+};
+
+} // namespace workbench

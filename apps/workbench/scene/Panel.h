@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+namespace workbench {
+
+/// What a dock of the window shows of the scene. It writes through the scene's controllers only.
+class Panel : public QWidget {
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+    /// How many rows its list has at this moment.
+    [[nodiscard]] virtual int rowCount() const { return 0; }
+    /// Selects a row by its text; false when there is none.
+    virtual bool select(QString const& /*text*/) { return false; }
+    /// Where the text to look for is typed; null when nothing can be looked for.
+    [[nodiscard]] virtual QWidget* filterField() { return nullptr; }
+};
+
+} // namespace workbench

@@ -1,0 +1,71 @@
+#include "workbench/scene/Scene.h"
+
+#include "zcore/ZUndoStack.h"
+#include "zsg/core/ISceneGraph.h"
+
+namespace workbench {
+
+Scene::Scene(ZUndoStack& undoStack) : undoStack_(&undoStack) {
+    undoStack_->setChangeCallback([this] { emit historyChanged(); });
+}
+
+Scene::~Scene() { undoStack_->setChangeCallback({}); }
+
+void Scene::setRoot(zsg::ISceneGraph* root) {
+    if (root_) {
+        emit rootEnding();
+    }
+    bridge_.reset();
+    root_ = root;
+    if (!root) {
+        return;
+    }
+    sceneId_ = QUuid::createUuid();
+    bridge_.emplace(*root->eventQueue(), [this] {
+        QMetaObject::invokeMethod(this, &Scene::flush, Qt::QueuedConnection);
+    });
+    Changes all;
+    all.everything = true;
+    emit changed(all);
+    emit historyChanged();
+}
+
+zsg::ColorDB* Scene::colorDB() const { return root_ ? root_->colorDB() : nullptr; }
+
+zsg::ColorController* Scene::colorController() const {
+    return root_ ? root_->colorController() : nullptr;
+}
+
+void Scene::flush() {
+    // A nested event loop of whatever a command does would come by here.
+    if (!bridge_ || undoStack_->isExecuting()) {
+        return;
+    }
+    Changes const changes = bridge_->take();
+    if (!changes.isEmpty()) {
+        emit changed(changes);
+    }
+}
+
+void Scene::undo() {
+    endDrags();
+    report(!undoStack_->canUndo() || undoStack_->undo());
+}
+
+void Scene::redo() {
+    endDrags();
+    report(!undoStack_->canRedo() || undoStack_->redo());
+}
+
+void Scene::goTo(int index) {
+    endDrags();
+    report(undoStack_->goTo(index));
+}
+
+void Scene::report(bool done) {
+    if (!done) {
+        say(tr("A step of the history could not be carried out."));
+    }
+}
+
+} // namespace workbench

@@ -1,0 +1,111 @@
+#include "workbench/WindowScene.h"
+
+#include "workbench/history/HistoryModel.h"
+
+#include "zcore/ZUndoCommand.h"
+
+#include <QAbstractItemModelTester>
+#include <QTreeView>
+
+#include <random>
+
+using namespace workbench;
+
+namespace {
+
+using HistoryTest = WindowScene;
+
+/// The rows: in brackets the current one, a star behind the saved one, undone ones in slants.
+std::string rows(QAbstractItemModel const& model) {
+    std::string text;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        QModelIndex const index = model.index(row, 0);
+        bool const current = index.data(Qt::FontRole).value<QFont>().bold();
+        bool const undone = index.data(HistoryModel::UndoneRole).toBool();
+        EXPECT_EQ(undone, index.data(Qt::FontRole).value<QFont>().italic());
+        text += current ? "[" : undone ? "/" : " ";
+        text += index.data(Qt::ToolTipRole).toString().toStdString();
+        text += index.data(HistoryModel::SavedRole).toBool() ? "*" : "";
+        text += current ? "]" : undone ? "/" : " ";
+    }
+    return text;
+}
+
+} // namespace
+
+TEST_F(HistoryTest, ShowsWhatIsDoneUndoneAndSaved) {
+    auto& view = find<QTreeView>("historyView");
+    QAbstractItemModel& model = *view.model();
+    EXPECT_EQ(rows(model), "[Start*]");
+    run("color name Teal Petrol");
+    run("color name Linen Flax");
+    EXPECT_EQ(rows(model), " Start*  Set Color name (Petrol) [Set Color name (Flax)]");
+    EXPECT_EQ(find<QAction>("undo").text(), "&Undo Set Color name (Flax)");
+    find<QAction>("undo").trigger();
+    stack().setClean();
+    EXPECT_EQ(rows(model), " Start [Set Color name (Petrol)*]/Set Color name (Flax)/");
+    EXPECT_EQ(find<QAction>("redo").text(), "&Redo Set Color name (Flax)");
+    EXPECT_EQ(model.index(2, 0).data(Qt::AccessibleTextRole).toString(),
+              "Set Color name (Flax), undone");
+    EXPECT_EQ(model.index(1, 0).data(Qt::AccessibleTextRole).toString(),
+              "Set Color name (Petrol), saved");
+
+    // Choosing a row goes there; the view follows whoever else moves.
+    view.setCurrentIndex(model.index(0, 0));
+    EXPECT_EQ(history(), "|Set Color name (Petrol);Set Color name (Flax);");
+    stack().redo();
+    EXPECT_EQ(view.currentIndex().row(), 1);
+    EXPECT_TRUE(window.panel("history")->select("Set Color name (Flax)"));
+    EXPECT_EQ(stack().index(), 2);
+    run("color name Ivory Bone");
+    stack().goTo(1);
+    run("color name Ivory Chalk");
+    EXPECT_EQ(rows(model), " Start  Set Color name (Petrol)* [Set Color name (Chalk)]");
+}
+
+TEST_F(HistoryTest, FollowsEveryTurnOfTheStack) {
+    scratch = true;
+    HistoryModel model(scene());
+    QAbstractItemModelTester const tester(&model,
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
+    std::mt19937 random(4711);
+    for (int i = 0; i < 500; ++i) {
+        switch (random() % 8) {
+        case 0:
+            stack().undo();
+            break;
+        case 1:
+            stack().redo();
+            break;
+        case 2:
+            stack().goTo(static_cast<int>(random() % 12));
+            break;
+        case 3:
+            stack().setClean();
+            break;
+        case 4:
+            stack().setLimit(static_cast<int>(5 + random() % 10));
+            break;
+        case 5:
+            run("color drag Linen 0.1 0.2 0.3 in 3");
+            break;
+        default:
+            run("color name 1 " + std::to_string(i));
+        }
+        ASSERT_EQ(rows(model), rows(HistoryModel(scene()))) << i;
+    }
+}
+
+TEST_F(HistoryTest, AStepThatFailsIsSaid) {
+    class Failing final : public ZUndoCommand {
+    public:
+        Failing() : ZUndoCommand(ZCommandId(1000), "Fails") {}
+        bool undo() override { return false; }
+        bool redo() override { return true; }
+    };
+    stack().push(new Failing);
+    QString said;
+    QObject::connect(&scene(), &Scene::said, [&](QString const& text) { said = text; });
+    find<QAction>("undo").trigger();
+    EXPECT_EQ(said, "A step of the history could not be carried out.");
+}
