@@ -114,9 +114,13 @@ void withValue(Host& host, Type type, Arguments& arguments,
         return hand(takeNamed<zsg::ColorGradient>(host, arguments, "the name of a gradient"));
     case Type::AnimationCurve:
         return hand(takeNamed<zsg::AnimationCurve>(host, arguments, "the name of a curve"));
-    default:
-        throw CommandError(std::string("a ") + zsg::typeName(type) + " has no value");
+        // No default: the compiler asks for the words of a new type.
+#define APP_BARE(member, number, T) case Type::member:
+        ZSG_BARE_TYPES(APP_BARE)
+#undef APP_BARE
+        break;
     }
+    throw CommandError(std::string("a ") + zsg::typeName(type) + " has no value");
 }
 
 bool setValue(Host& host, zsg::Parameter& parameter, Arguments& arguments) {
@@ -136,14 +140,20 @@ bool setValue(Host& host, zsg::Parameter& parameter, Arguments& arguments) {
     return changed;
 }
 
+std::span<Type const> valueTypes() {
+#define APP_TYPE(member, number, T) Type::member,
+    static constexpr Type types[] = {ZSG_VALUE_TYPES(APP_TYPE)};
+#undef APP_TYPE
+    return types;
+}
+
 Type takeType(Arguments& arguments) {
     std::string const name = arguments.word("a type");
-#define APP_TYPE(member, number, T)                                                                \
-    if (name == #member) {                                                                         \
-        return Type::member;                                                                       \
+    for (Type const type : valueTypes()) {
+        if (name == zsg::typeName(type)) {
+            return type;
+        }
     }
-    ZSG_VALUE_TYPES(APP_TYPE)
-#undef APP_TYPE
     throw CommandError("\"" + name + "\" is no type of a value");
 }
 

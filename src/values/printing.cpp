@@ -3,18 +3,28 @@
 #include "zsg/values/ParameterData.h"
 #include "zsg/values/ValueVariant.h"
 
+#include <concepts>
 #include <ostream>
 #include <string_view>
 
 namespace zsg {
 namespace {
 
+template <class T, class... Ts>
+concept IsOneOf = (std::same_as<T, Ts> || ...);
+
 void printUtf8(std::ostream& os, QString const& text) {
     QByteArray const bytes = text.toUtf8();
     os << std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size()));
 }
 
+/// The types that print their name only. It is a list, so that a new type must be put there or get
+/// a text of its own.
 template <class T>
+concept PrintedByName = IsOneOf<T, nyxMatrix, FloatArray, ColorGradient, AnimationCurve,
+                                AxaltaColor, WeavePattern, Enumerable>;
+
+template <PrintedByName T>
 void print(std::ostream& os, T const&) {
     os << typeName(typeOf<T>) << "()";
 }

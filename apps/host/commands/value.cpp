@@ -69,8 +69,8 @@ void copy(Host& host, Arguments& arguments) {
 }
 
 void types(Host& host, Arguments&) {
-    for (int type = 0; type <= static_cast<int>(zsg::Type::Enumerable); ++type) {
-        host.out() << "  " << type << ' ' << zsg::typeName(static_cast<zsg::Type>(type)) << '\n';
+    for (zsg::Type const type : valueTypes()) {
+        host.out() << "  " << static_cast<int>(type) << ' ' << zsg::typeName(type) << '\n';
     }
 }
 
