@@ -42,7 +42,8 @@ else()
     # GCC's flow analysis guesses wrong at higher optimisation inside Qt and the standard library.
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         target_compile_options(zsg_warnings INTERFACE
-            -Wno-null-dereference -Wno-restrict)
+            -Wno-null-dereference -Wno-restrict
+            "$<$<CONFIG:Release>:-Wno-stringop-overflow;-Wno-use-after-free>")
     endif()
 endif()
 

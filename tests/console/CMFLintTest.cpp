@@ -56,7 +56,7 @@ TEST(CMFLint, FindsAFaultExactlyWhenLoadingFails) {
     for (auto const& entry : std::filesystem::recursive_directory_iterator(examples)) {
         if (entry.path().extension() == ".json") {
             files.push_back(
-                QByteArray::fromStdString(readInputFile(entry.path(), largestCMFSchema)));
+                QByteArray::fromStdString(readInputFile(entry.path().string(), largestCMFSchema)));
             EXPECT_EQ(isFaulty(files.back()), entry.path().parent_path().filename() == "bad");
             EXPECT_EQ(lintCMF(files.back()).empty(),
                       entry.path().parent_path().filename() == "good");
