@@ -36,6 +36,6 @@ function(zsg_add_test name)
     target_link_libraries(${name} PRIVATE
         ${arg_LIBRARIES} zsg_test_support zsg_warnings GTest::gmock GTest::gtest)
     zsg_precompile(${name} ${arg_PRECOMPILE})
-    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
         PROPERTIES TIMEOUT 300 LABELS "${arg_LABELS}")
 endfunction()

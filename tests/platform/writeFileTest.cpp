@@ -69,6 +69,31 @@ TEST(writeFile, ReplacesTheWholeFileOrLeavesIt) {
 #endif
 }
 
+TEST(writeFile, ReplacesNoFileThatIsWriteProtectedOrThatTheSystemHolds) {
+    Folder folder;
+    ASSERT_EQ(writeFile(folder.file, "old"), "");
+    QFile file(QString::fromStdString(folder.file));
+    ASSERT_TRUE(file.setPermissions(QFile::ReadOwner));
+    if (!QFileInfo(file).isWritable()) { // nothing is protected from the superuser
+        EXPECT_THAT(writeFile(folder.file, "new"), StartsWith(folder.file + ": "));
+        EXPECT_EQ(contentOf(folder.file), "old");
+    }
+    ASSERT_TRUE(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+
+    ASSERT_EQ(writeFile(folder.file, "old"), "");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    std::string const problem = writeFile(folder.file, "new");
+    EXPECT_EQ(file.readAll(), "old"); // who has it open reads on
+    file.close();
+    if (problem.empty()) {
+        EXPECT_EQ(contentOf(folder.file), "new");
+    } else { // Windows replaces no file that somebody has open
+        EXPECT_THAT(problem, StartsWith(folder.file + ": "));
+        EXPECT_EQ(contentOf(folder.file), "old");
+    }
+    EXPECT_EQ(folder.entries().size(), 1);
+}
+
 TEST(writeFile, LeavesTheOldFileWhicheverStepFails) {
     Folder folder;
     ASSERT_EQ(writeFile(folder.file, "old"), "");

@@ -58,7 +58,10 @@ void expectRows() {
 /// Sets a locale with a decimal comma; compiles one into `folder` when the machine has none.
 bool setCommaLocale(QTemporaryDir const& folder) {
     constexpr char name[] = "de_DE.UTF-8";
-    if (!std::setlocale(LC_ALL, name)) {
+    // Windows has them without further ado, under names of its own.
+    bool const set = std::setlocale(LC_ALL, name) || std::setlocale(LC_ALL, "German_Germany") ||
+                     std::setlocale(LC_ALL, "de-DE");
+    if (!set) {
         qputenv("LOCPATH", QFile::encodeName(folder.path()));
         QProcess::execute("localedef", {"-f", "UTF-8", "-i", "de_DE", folder.filePath(name)});
         std::setlocale(LC_ALL, name);

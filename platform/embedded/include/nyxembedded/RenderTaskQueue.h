@@ -10,7 +10,8 @@ namespace nyx::embedded {
 
 /// The embedded renderer's task queue: one FIFO of tasks, worked off one at a time. Any thread may
 /// call, and a task may add tasks; a task that waits or steps returns at once, because it would
-/// wait for itself. Destruction runs what is left, paused or not.
+/// wait for itself. Destruction runs what is left, paused or not, and ends the thread: no queue may
+/// be a static object of a Windows library, where a thread cannot end while libraries are unloaded.
 class NYXEMBEDDED_EXPORT RenderTaskQueue final : public ZTaskQueue {
 public:
     enum class Mode {
