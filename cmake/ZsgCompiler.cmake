@@ -43,7 +43,9 @@ else()
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         target_compile_options(zsg_warnings INTERFACE
             -Wno-null-dereference -Wno-restrict
-            "$<$<CONFIG:Release>:-Wno-stringop-overflow;-Wno-use-after-free>")
+            "$<$<NOT:$<CONFIG:Debug>>:-Wno-array-bounds;-Wno-maybe-uninitialized>"
+            "$<$<NOT:$<CONFIG:Debug>>:-Wno-stringop-overflow;-Wno-stringop-overread>"
+            "$<$<NOT:$<CONFIG:Debug>>:-Wno-use-after-free>")
     endif()
 endif()
 

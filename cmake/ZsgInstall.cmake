@@ -1,35 +1,42 @@
-# Install rules, the CMake package and the pkg-config file.
+# Install rules, the CMake package and the pkg-config files. What is installed is listed, never
+# searched for: a header is promised when it is in a list.
+option(ZSG_DEBIAN_LAYOUT "Install as Debian's packages do: folders by architecture, no run paths" OFF)
+if(ZSG_DEBIAN_LAYOUT)
+    set(CMAKE_INSTALL_LIBDIR lib/${CMAKE_LIBRARY_ARCHITECTURE})
+    set(CMAKE_SKIP_INSTALL_RPATH ON)
+endif()
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
+# The components are those of the packages: what runs, what is built against, what is read, and the
+# programs.
+function(zsg_install_library name)
+    install(TARGETS ${name} EXPORT ${name}Targets
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime
+            NAMELINK_COMPONENT development
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+    install(EXPORT ${name}Targets NAMESPACE ${ARGV1}:: DESTINATION ${package_dir}
+        COMPONENT development)
+endfunction()
+
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/zscenegraph)
 
-install(TARGETS zscenegraph EXPORT zscenegraphTargets
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-# The three platform libraries need the declarations, the library needs the three.
-install(TARGETS zsg_platform_headers EXPORT platformHeadersTargets)
-install(EXPORT platformHeadersTargets NAMESPACE zsg:: DESTINATION ${package_dir})
+zsg_install_library(zscenegraph zsg)
 install(TARGETS zsg_platform EXPORT zscenegraphTargets)
-install(DIRECTORY platform/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
-    FILES_MATCHING PATTERN "*.h")
-
+# The three platform libraries need the declarations, the library needs the three.
+install(TARGETS zsg_platform_headers EXPORT platformHeadersTargets
+    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+install(EXPORT platformHeadersTargets NAMESPACE zsg:: DESTINATION ${package_dir}
+    COMPONENT development)
 if(ZSG_PLATFORM STREQUAL "embedded")
     # The first three keep the names that adapters of the real libraries have.
     foreach(name IN ITEMS nyxrender zcore ztask nyxembedded)
-        install(TARGETS ${name} EXPORT ${name}Targets
-            LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-            ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-            RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-        install(EXPORT ${name}Targets NAMESPACE ${name}:: DESTINATION ${package_dir})
+        zsg_install_library(${name} ${name})
     endforeach()
-    install(DIRECTORY platform/embedded/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
-        FILES_MATCHING PATTERN "*.h")
 endif()
 
-install(EXPORT zscenegraphTargets NAMESPACE zsg:: DESTINATION ${package_dir})
 configure_package_config_file(cmake/zscenegraphConfig.cmake.in zscenegraphConfig.cmake
     INSTALL_DESTINATION ${package_dir})
 write_basic_package_version_file(zscenegraphConfigVersion.cmake
@@ -37,16 +44,52 @@ write_basic_package_version_file(zscenegraphConfigVersion.cmake
 install(FILES
     ${CMAKE_CURRENT_BINARY_DIR}/zscenegraphConfig.cmake
     ${CMAKE_CURRENT_BINARY_DIR}/zscenegraphConfigVersion.cmake
-    DESTINATION ${package_dir})
+    DESTINATION ${package_dir} COMPONENT development)
 
 set(pc_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH pc_to_prefix /prefix/${pc_dir} /prefix)
 set(pc_files zscenegraph)
 if(ZSG_PLATFORM STREQUAL "embedded")
-    set(pc_platform " -lnyxrender -lzcore -lztask")
+    set(pc_platform " -lzcore -lztask -lnyxrender") # who needs another stands before it
     list(APPEND pc_files nyxembedded)
+    if(NOT BUILD_SHARED_LIBS)
+        set(pc_requires " libpng")
+        set(pc_static " -DZSG_STATIC -DNYXRENDER_STATIC -DZCORE_STATIC -DZTASK_STATIC")
+    endif()
 endif()
 foreach(name IN LISTS pc_files)
     configure_file(cmake/${name}.pc.in ${name}.pc @ONLY)
-    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${pc_dir})
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${pc_dir}
+        COMPONENT development)
 endforeach()
+
+if(TARGET zsg-console)
+    install(TARGETS zsg-console RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+    set(manual ${CMAKE_CURRENT_SOURCE_DIR}/apps/console/zsg-console.1)
+    if(ZSG_DEBIAN_LAYOUT)
+        execute_process(COMMAND gzip -9nc ${manual} OUTPUT_FILE zsg-console.1.gz
+            WORKING_DIRECTORY ${PROJECT_BINARY_DIR} COMMAND_ERROR_IS_FATAL ANY)
+        set(manual ${PROJECT_BINARY_DIR}/zsg-console.1.gz)
+    endif()
+    install(FILES ${manual} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
+        COMPONENT tools)
+    # Under the names that the scripts use: a copy of the folder is where they run.
+    install(DIRECTORY
+        examples/brushes examples/cmf examples/data examples/scenes examples/scripts
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/zscenegraph/examples COMPONENT tools)
+endif()
+if(TARGET zsg-workbench)
+    install(TARGETS zsg-workbench RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT workbench)
+endif()
+
+set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc/libzscenegraph-doc)
+install(FILES README.md CHANGELOG.md DESTINATION ${doc_dir} COMPONENT documentation)
+install(DIRECTORY docs DESTINATION ${doc_dir} COMPONENT documentation
+    PATTERN Doxyfile EXCLUDE
+    PATTERN CMakeLists.txt EXCLUDE)
+if(ZSG_BUILD_DOCS)
+    install(DIRECTORY ${PROJECT_BINARY_DIR}/docs/html DESTINATION ${doc_dir}
+        COMPONENT documentation)
+endif()
+install(DIRECTORY examples/programs examples/painting DESTINATION ${doc_dir}/examples
+    COMPONENT documentation)

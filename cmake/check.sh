@@ -36,11 +36,12 @@ gate_headers() {
 # With clang: this one build also has the libFuzzer targets, so that nothing is compiled twice.
 gate_asan() { workflow asan; }
 
+# Where threads meet, and the application that links static libraries.
 gate_tsan() {
     cmake --preset tsan >/dev/null &&
         cmake --build --preset tsan -j "$jobs" \
             --target zsg_nyxembedded_test zsg_zcore_test zsg_nyxrender_test zsg_values_test \
-            zsg_painting_test &&
+            zsg_painting_test nyxembedded &&
         ctest --preset tsan
 }
 

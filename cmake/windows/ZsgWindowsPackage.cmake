@@ -1,8 +1,5 @@
 # The zip for Windows: what is installed, with the libraries that it needs and their licences.
 install(PROGRAMS ${zsg_runtime_libraries} DESTINATION bin)
-if(ZSG_BUILD_APPS)
-    install(TARGETS zsg-console RUNTIME DESTINATION bin)
-endif()
 
 # The licences of what is in the zip, as Debian ships them: of the libraries beside the programs, and
 # of those that are compiled into them.
