@@ -4,6 +4,8 @@
 #include "workbench/app/Document.h"
 #include "workbench/app/FileActions.h"
 #include "workbench/app/palettes.h"
+#include "workbench/colors/ColorEditor.h"
+#include "workbench/colors/ColorsPanel.h"
 #include "workbench/history/HistoryPanel.h"
 
 #include "zcore/ZUndoStack.h"
@@ -98,6 +100,11 @@ void MainWindow::addPanel(QString const& name, QString const& title, Qt::DockWid
 
 void MainWindow::makePanels() {
     Scene& scene = document_.scene();
+    auto* const colours = new ColorsPanel(scene);
+    auto* const editor = new ColorEditor(scene);
+    connect(colours, &ColorsPanel::currentChanged, editor, &ColorEditor::setColor);
+    addPanel("colours", tr("Colours"), Qt::LeftDockWidgetArea, colours);
+    addPanel("coloreditor", tr("Colour Editor"), Qt::RightDockWidgetArea, editor);
     addPanel("history", tr("History"), Qt::RightDockWidgetArea, new HistoryPanel(scene));
     addPanel("console", tr("Console"), Qt::BottomDockWidgetArea, new ConsolePanel(document_));
 }
@@ -120,6 +127,8 @@ void MainWindow::makeEditMenu() {
     };
     connect(&scene, &Scene::historyChanged, this, update);
     update();
+    static_cast<ColorsPanel*>(panels_.value("colours"))
+        ->fillMenu(*menuBar()->addMenu(tr("&Colour")));
 }
 
 void MainWindow::makeViewMenu() {

@@ -1,0 +1,94 @@
+#include "workbench/colors/ChannelSlider.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace workbench {
+
+ChannelSlider::ChannelSlider(QWidget* parent) : QAbstractSlider(parent) {
+    setRange(0, steps);
+    setSingleStep(steps / 100);
+    setPageStep(steps / 10);
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    ramp_.fill(Qt::gray);
+    connect(this, &QAbstractSlider::actionTriggered, this, [this] {
+        if (!isSliderDown()) {
+            emit stepped(sliderPosition());
+        }
+    });
+}
+
+void ChannelSlider::setRamp(Ramp const& ramp) {
+    ramp_ = ramp;
+    update();
+}
+
+QSize ChannelSlider::sizeHint() const {
+    return {8 * fontMetrics().height(), fontMetrics().height() * 5 / 4};
+}
+
+void ChannelSlider::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    QRect const bar = rect().adjusted(2, 2, -2, -2);
+    QLinearGradient gradient(bar.topLeft(), bar.topRight());
+    for (std::size_t i = 0; i < ramp_.size(); ++i) {
+        gradient.setColorAt(double(i) / double(ramp_.size() - 1), ramp_[i]);
+    }
+    painter.fillRect(bar, Qt::white);
+    painter.fillRect(bar, QBrush(QColor(0xb0, 0xb0, 0xb0), Qt::Dense4Pattern));
+    painter.fillRect(bar, gradient);
+    painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2)
+                              : QPen(QColor(0x80, 0x80, 0x80)));
+    painter.drawRect(bar);
+    double const x = bar.left() + double(value()) / steps * bar.width();
+    painter.setPen(QPen(Qt::black, 3));
+    painter.drawLine(QPointF(x, bar.top()), QPointF(x, bar.bottom()));
+    painter.setPen(QPen(Qt::white, 1));
+    painter.drawLine(QPointF(x, bar.top()), QPointF(x, bar.bottom()));
+}
+
+void ChannelSlider::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        pressedAt_ = event->position().toPoint().x();
+        setSliderDown(true);
+    }
+}
+
+void ChannelSlider::mouseMoveEvent(QMouseEvent* event) {
+    int const x = event->position().toPoint().x();
+    if (isSliderDown() && x != pressedAt_) {
+        pressedAt_ = -1; // from here on every place counts, the first one included
+        double const share = double(x - 2) / std::max(1, width() - 4);
+        setSliderPosition(qRound(std::clamp(share, 0.0, 1.0) * steps));
+    }
+}
+
+void ChannelSlider::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        setSliderDown(false);
+    }
+}
+
+void ChannelSlider::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && isSliderDown()) {
+        emit cancelled();
+        setSliderDown(false);
+    } else {
+        QAbstractSlider::keyPressEvent(event);
+    }
+}
+
+void ChannelSlider::wheelEvent(QWheelEvent* event) {
+    if (hasFocus()) {
+        QAbstractSlider::wheelEvent(event);
+    } else {
+        event->ignore();
+    }
+}
+
+} // namespace workbench

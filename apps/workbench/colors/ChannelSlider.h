@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QAbstractSlider>
+#include <QColor>
+
+#include <array>
+
+namespace workbench {
+
+/// A bar for one channel of a colour, painted with the colours that its values would give. A press
+/// alone changes nothing; a move sets the value under the pointer. The wheel works only with the
+/// focus, so that scrolling past changes nothing.
+class ChannelSlider final : public QAbstractSlider {
+    Q_OBJECT
+
+public:
+    static constexpr int steps = 1000; ///< the value is 0 to steps
+
+    explicit ChannelSlider(QWidget* parent = nullptr);
+
+    using Ramp = std::array<QColor, 13>;
+    /// The colours at equal distances from the smallest value to the largest.
+    void setRamp(Ramp const& ramp);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+signals:
+    void cancelled();
+    /// The value changed by a key or the wheel.
+    void stepped(int value);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    Ramp ramp_;
+    int pressedAt_ = 0;
+};
+
+} // namespace workbench

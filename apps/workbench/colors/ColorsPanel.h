@@ -1,0 +1,68 @@
+#pragma once
+
+#include "workbench/scene/Panel.h"
+
+#include "nyxrender/Ids.h"
+
+#include <vector>
+
+class QAbstractItemView;
+class QComboBox;
+class QItemSelectionModel;
+class QLineEdit;
+class QListView;
+class QMenu;
+class QStackedWidget;
+class QTreeView;
+
+namespace workbench {
+
+class ColorModel;
+class Scene;
+
+/// All colours of the scene, as tiles or as a list; the one that is selected here is the one that
+/// the other panels show.
+class ColorsPanel final : public Panel {
+    Q_OBJECT
+
+public:
+    explicit ColorsPanel(Scene& scene, QWidget* parent = nullptr);
+
+    [[nodiscard]] nyx::ColorId current() const;
+    void setCurrent(nyx::ColorId id);
+
+    /// The actions on colours, for a menu of the window as well.
+    void fillMenu(QMenu& menu);
+
+    [[nodiscard]] int rowCount() const override;
+    bool select(QString const& text) override;
+    [[nodiscard]] QWidget* filterField() override;
+
+signals:
+    void currentChanged(nyx::ColorId id);
+
+private:
+    void makeViews();
+    void makeActions();
+    [[nodiscard]] QAbstractItemView* view() const;
+    [[nodiscard]] std::vector<nyx::ColorId> selected() const;
+    void keepCurrent();
+    void addColor();
+    void duplicate();
+    void toggleMulti();
+    void copy();
+    void paste();
+
+    Scene& scene_;
+    ColorModel* model_;
+    QLineEdit* filter_;
+    QComboBox* kind_;
+    QStackedWidget* views_;
+    QListView* grid_;
+    QTreeView* list_;
+    QItemSelectionModel* selection_;
+    QList<QAction*> actions_;
+    nyx::ColorId current_;
+};
+
+} // namespace workbench
