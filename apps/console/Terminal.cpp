@@ -7,12 +7,8 @@
 #include <iostream>
 
 void runTerminalSession(app::Interpreter& interpreter, app::Host& host) {
-    // Loading announces every colour; that many lines would push the greeting off the screen.
-    host.showEvents(false);
     host.pump();
-    host.showEvents(true);
-    host.out() << "The scene is loaded; \"events\" lists what the renderer has announced.\n"
-                  "\"help\" lists the commands, \"quit\" ends.\n";
+    host.out() << "\"help\" lists the commands, \"quit\" ends.\n";
     while (!host.endRequested()) {
         host.out().flush();
         auto const line = editLine("zsg> ");

@@ -11,7 +11,7 @@ namespace app {
 zsg::IPainterBrush& currentBrush(Host& host) {
     auto const& brush = host.sceneState<CurrentBrush>().brush;
     if (!brush) {
-        throw CommandError("there is no brush; \"brush create\" makes one");
+        throw CommandError("there is no brush; \"brush new\" makes one");
     }
     return *brush;
 }

@@ -19,12 +19,8 @@ Host::Host(std::ostream& out) : out_(&out) {
         if (!root) {
             return;
         }
-        events_.emplace(*root->eventQueue(), [this](EventLog::Entry const& e) {
-            if (eventsShown_) {
-                *out_ << "event " << e.id << ' ' << e.typeText << (e.payload.empty() ? "" : " ")
-                      << e.payload << '\n';
-            }
-        });
+        events_.emplace(*root->eventQueue(),
+                        [this](EventLog::Entry const& e) { eventPrinter_.add(e, *out_); });
         if (watcher_) {
             watcher_(root);
         }
@@ -49,6 +45,11 @@ void Host::watchRoot(std::function<void(zsg::ISceneGraph*)> watcher) {
     if (watcher_) {
         watcher_(&root());
     }
+}
+
+void Host::showEvents(EventPrinter::Show what) {
+    eventPrinter_.flush(*out_);
+    eventPrinter_.show(what);
 }
 
 void Host::pump() { embedded_.renderer().processEvents(); }

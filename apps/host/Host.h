@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/EventLog.h"
+#include "host/EventPrinter.h"
 
 #include "nyxembedded/Host.h"
 
@@ -36,9 +37,17 @@ public:
     /// Delivers what the renderer has to say.
     void pump();
 
-    [[nodiscard]] std::ostream& out() { return *out_; }
-    void setOut(std::ostream& out) { out_ = &out; }
-    void showEvents(bool on) { eventsShown_ = on; }
+    /// Where commands print. A reference that is kept would miss the run of events that is printed
+    /// first, so commands ask for it each time.
+    [[nodiscard]] std::ostream& out() {
+        eventPrinter_.flush(*out_);
+        return *out_;
+    }
+    void setOut(std::ostream& out) {
+        eventPrinter_.flush(*out_);
+        out_ = &out;
+    }
+    void showEvents(EventPrinter::Show what);
 
     [[nodiscard]] nyx::embedded::Renderer& renderer() { return embedded_.renderer(); }
     [[nodiscard]] ZUndoStack& undoStack() { return embedded_.undoStack(); }
@@ -80,7 +89,7 @@ private:
     std::ostream* out_;
     std::string path_;
     std::function<void(zsg::ISceneGraph*)> watcher_;
-    bool eventsShown_ = true;
+    EventPrinter eventPrinter_;
     bool endRequested_ = false;
     States states_;
     // These two refer to the root of the embedded host, which tells before it ends one.

@@ -61,7 +61,7 @@ Json lines(std::string const& text) {
 
 int runJsonSession(Interpreter& interpreter, Host& host, std::istream& in, std::ostream& out) {
     bool failed = false;
-    host.showEvents(false);
+    host.showEvents(EventPrinter::Show::Nothing);
     std::string line;
     while (!host.endRequested()) {
         ReadResult const result = readLine(in, line);

@@ -2,8 +2,10 @@
 
 #include "host/Arguments.h"
 #include "host/Host.h"
+#include "host/printable.h"
 
 #include <map>
+#include <ostream>
 #include <string>
 
 namespace app {
@@ -30,6 +32,23 @@ T& takeNamed(Host& host, Arguments& arguments, char const* what) {
 template <class T>
 void keepNamed(Host& host, std::string const& name, T value) {
     host.state<NamedValues<T>>().byName.insert_or_assign(name, std::move(value));
+}
+
+/// The command that lists the names.
+template <class T>
+void listNamed(Host& host, Arguments&) {
+    for (auto const& [name, value] : host.state<NamedValues<T>>().byName) {
+        host.out() << "  " << printable(name) << '\n';
+    }
+}
+
+/// The command that forgets a value.
+template <class T>
+void deleteNamed(Host& host, Arguments& arguments) {
+    std::string const name = arguments.empty() ? std::string() : arguments.peek();
+    takeNamed<T>(host, arguments, "a name"); // or a complaint
+    arguments.done();
+    host.state<NamedValues<T>>().byName.erase(name);
 }
 
 } // namespace app

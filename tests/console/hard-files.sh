@@ -22,7 +22,7 @@ ior load metal "$spelled/gold.csv"
 ior show metal
 cmf load "$spelled/furniture.json"
 cmf show
-weave read cloth "$spelled/cloth.json"
+weave load cloth "$spelled/cloth.json"
 weave show cloth
 brush load "$spelled/leaves.json"
 brush show color_texture_filepath
@@ -44,7 +44,7 @@ EOT
 
 cp "$examples/scenes/showroom.json" plain/scene.json
 cp "$examples"/{data/gold.csv,cmf/good/furniture.json,brushes/leaves.json,brushes/leaf.png} plain
-printf 'weave make cloth twill 2 1\nweave save cloth plain/cloth.json\n' |
+printf 'weave new cloth twill 2 1\nweave save cloth plain/cloth.json\n' |
     "${console[@]}" plain/scene.json >make.out
 cp -r plain original
 session plain plain

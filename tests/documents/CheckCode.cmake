@@ -69,7 +69,7 @@ foreach(name IN ITEMS scene schema weave brush)
 endforeach()
 file(READ ${WORK_DIR}/weave.json weave)
 file(WRITE ${WORK_DIR}/script "cmf lint schema.json\nbrush load brush.json\n"
-    "weave read shown weave.json\nweave json shown\n")
+    "weave load shown weave.json\nweave json shown\n")
 run(printed ${CONSOLE} scene.json --script script)
 must_hold("the weave of docs/formats.md" "${printed}" "${weave}")
 

@@ -118,18 +118,17 @@ void reload(Host& host, Arguments&) {
         host.root().painterManager()->loadBrush(old.brushNode(), old.materialId());
 }
 
-void list(Host& host, Arguments&) {
+void show(Host& host, Arguments& arguments) {
+    if (!arguments.empty()) {
+        Parameter const parameter = take(host, arguments);
+        arguments.done();
+        return print(host.out(), parameter);
+    }
     QList<Parameter> parameters = currentBrush(host).parameters();
     std::ranges::sort(parameters, {}, &Parameter::name);
     for (Parameter const& parameter : parameters) {
         print(host.out(), parameter);
     }
-}
-
-void show(Host& host, Arguments& arguments) {
-    Parameter const parameter = take(host, arguments);
-    arguments.done();
-    print(host.out(), parameter);
 }
 
 void set(Host& host, Arguments& arguments) {
@@ -204,17 +203,22 @@ void sheet(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"brush create", "[SIZE [MATERIAL]]", "a brush over new nodes becomes the current one", create},
-    {"brush reload", "", "a new brush over the nodes of the current one", reload},
-    {"brush list", "", "every parameter: type, value, limits, label, tool tip", list},
-    {"brush show", "PARAM", "the same of one parameter", show},
-    {"brush set", "PARAM WORDS...", "set its value and say whether it changed", set},
-    {"brush apply", "", "write the brush's fields into its nodes and tell the renderer", apply},
-    {"brush update", "", "read the fields from the nodes", update},
-    {"brush save", "PATH", "write the settings as JSON", save},
-    {"brush load", "PATH", "a new brush with the settings of such a file, applied", load},
+    {"brush new", "[SIZE [MATERIAL]]", "a brush over new nodes becomes the current one",
+     "brush new 24", create},
+    {"brush reload", "", "a new brush over the nodes of the current one", "brush reload", reload},
+    {"brush show", "[PARAM]", "one parameter or all: type, value, limits, label, tool tip",
+     "brush show color_color", show},
+    {"brush set", "PARAM WORDS...", "set its value and say whether it changed",
+     "brush set color_color #c03020", set},
+    {"brush apply", "", "write the brush's fields into its nodes and tell the renderer",
+     "brush apply", apply},
+    {"brush update", "", "read the fields from the nodes", "brush update", update},
+    {"brush save", "PATH", "write the settings as JSON", "brush save red.json", save},
+    {"brush load", "PATH", "a new brush with the settings of such a file, applied",
+     "brush load examples/brushes/marker.json", load},
     {"brush sheet", "PATH [dark] [PRESET...]",
-     "draw a stroke of the current brush, or of presets (.svg, .png)", sheet},
+     "draw a stroke of the current brush, or of presets (.svg, .png)",
+     "brush sheet brushes.svg examples/brushes/spray.json examples/brushes/ink-pen.json", sheet},
 };
 
 } // namespace

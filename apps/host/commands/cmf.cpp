@@ -197,17 +197,24 @@ void move(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"cmf show", "", "show the schema in force", show},
-    {"cmf load", "PATH", "put a schema file in force", load},
-    {"cmf save", "PATH", "write the schema in force", save},
-    {"cmf lint", "PATH", "say everything that is wrong or odd about a schema file", lint},
-    {"cmf name", "NAME", "give the schema another name", rename},
-    {"cmf add", "NAME [hidden] [KIND]", "add an attribute at the end", add},
-    {"cmf remove", "ATTRIBUTE", "take an attribute out", remove},
-    {"cmf rename", "ATTRIBUTE NAME", "give an attribute another name", renameAttribute},
-    {"cmf kind", "ATTRIBUTE KIND", "text, image, color3 to color6, other2, other7", setKind},
-    {"cmf visible", "ATTRIBUTE on|off", "show or hide an attribute", setVisible},
-    {"cmf move", "ATTRIBUTE POSITION", "move an attribute, positions count from 0", move},
+    {"cmf show", "", "show the schema in force", "cmf show", show},
+    {"cmf load", "PATH", "put a schema file in force", "cmf load examples/cmf/good/furniture.json",
+     load},
+    {"cmf save", "PATH", "write the schema in force", "cmf save schema.json", save},
+    {"cmf lint", "PATH", "say everything that is wrong or odd about a schema file",
+     "cmf lint examples/cmf/odd/unknown-kind.json", lint},
+    {"cmf title", "NAME", "give the schema another name", "cmf title \"House schema\"", rename},
+    {"cmf add", "NAME [hidden] [KIND]", "add an attribute at the end",
+     "cmf add Swatch hidden image", add},
+    {"cmf remove", "ATTRIBUTE", "take an attribute out", "cmf remove Swatch", remove},
+    {"cmf name", "ATTRIBUTE NAME", "give an attribute another name", "cmf name Vendor Maker",
+     renameAttribute},
+    {"cmf kind", "ATTRIBUTE KIND", "text, image, color3 to color6, other2, other7",
+     "cmf kind Maker image", setKind},
+    {"cmf visible", "ATTRIBUTE on|off", "show or hide an attribute", "cmf visible Maker off",
+     setVisible},
+    {"cmf move", "ATTRIBUTE POSITION", "move an attribute, positions count from 0",
+     "cmf move Maker 0", move},
 };
 
 } // namespace

@@ -11,15 +11,16 @@ namespace {
 
 void list(Host& host, Arguments&) {
     for (EventLog::Entry const& event : host.events().entries()) {
-        host.out() << "event " << event.id << ' ' << event.typeText
-                   << (event.payload.empty() ? "" : " ") << event.payload << '\n';
+        host.out() << eventLine(event) << '\n';
     }
 }
 
 void show(Host& host, Arguments& arguments) {
-    bool const on = arguments.onOff();
+    std::string const what = arguments.oneOf({"on", "off", "all"});
     arguments.done();
-    host.showEvents(on);
+    host.showEvents(what == "all"  ? EventPrinter::Show::Each
+                    : what == "on" ? EventPrinter::Show::Runs
+                                   : EventPrinter::Show::Nothing);
 }
 
 void clear(Host& host, Arguments&) { host.events().clear(); }
@@ -31,10 +32,11 @@ void types(Host& host, Arguments&) {
 }
 
 constexpr Command table[] = {
-    {"events", "", "list the events since the last count", list},
-    {"events show", "on|off", "print events as they arrive", show},
-    {"events clear", "", "begin to count anew", clear},
-    {"events types", "", "list the event types", types},
+    {"events", "", "list the events since the last count", "events", list},
+    {"events show", "on|off|all",
+     "print events as they arrive, in runs of a type, or each on a line", "events show all", show},
+    {"events clear", "", "begin to count anew", "events clear", clear},
+    {"events types", "", "list the event types", "events types", types},
 };
 
 } // namespace

@@ -35,7 +35,7 @@ constexpr Command table[] = {
     {"fault", "NAME N|on|off",
      "let the renderer fail: creations (so many), saving (at a step), unique-names, scene, "
      "settings, notifications, painter",
-     fault},
+     "fault creations 1", fault},
 };
 
 } // namespace

@@ -103,15 +103,21 @@ void save(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"gradient make", "NAME", "make an empty gradient", make},
-    {"gradient add", "GRADIENT LOCATION RGBA [slopes L R]", "add a stop", add},
-    {"gradient replace", "GRADIENT INDEX LOCATION RGBA [slopes L R] [sort]", "overwrite a stop",
-     replace},
-    {"gradient blend", "GRADIENT on|off", "blend between stops or not", blend},
-    {"gradient size", "GRADIENT N", "cut or extend the list of stops", size},
-    {"gradient show", "GRADIENT", "list the stops", show},
+    {"gradient list", "", "list the names", "gradient list", listNamed<ColorGradient>},
+    {"gradient new", "NAME", "make an empty gradient", "gradient new dusk", make},
+    {"gradient add", "GRADIENT LOCATION RGBA [slopes L R]", "add a stop",
+     "gradient add dusk 0 #ff9933 slopes 0 1", add},
+    {"gradient set", "GRADIENT INDEX LOCATION RGBA [slopes L R] [sort]", "overwrite a stop",
+     "gradient set dusk 0 0.1 Gold sort", replace},
+    {"gradient blend", "GRADIENT on|off", "blend between stops or not", "gradient blend dusk on",
+     blend},
+    {"gradient size", "GRADIENT N", "cut or extend the list of stops", "gradient size dusk 2",
+     size},
+    {"gradient show", "GRADIENT", "list the stops", "gradient show dusk", show},
     {"gradient save", "GRADIENT PATH [dark]", "draw it (.svg, .png); slopes are the renderer's",
-     save},
+     "gradient save dusk dusk.svg", save},
+    {"gradient delete", "GRADIENT", "forget it", "gradient delete dusk",
+     deleteNamed<ColorGradient>},
 };
 
 } // namespace

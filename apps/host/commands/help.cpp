@@ -73,13 +73,19 @@ void help(Host& host, Arguments& arguments) {
         }
     }
     printRows(host.out(), rows);
+    auto const exact = std::ranges::find(allCommands(), wanted, &Command::name);
+    if (exact != allCommands().end()) {
+        host.out() << "  for example: " << (*exact)->example << '\n';
+    }
     if (rows.empty()) {
         throw CommandError("no command begins with \"" + printable(wanted, longestWord) + "\"");
     }
 }
 
 constexpr Command table[] = {
-    {"help", "[WORDS|all]", "list the commands that begin with the words", help},
+    {"help", "[WORDS|all]",
+     "list the commands that begin with the words; of a command also an example", "help color set",
+     help},
 };
 
 } // namespace

@@ -39,11 +39,11 @@ void limit(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"history", "", "list the edits, * marks the saved state", list},
-    {"history goto", "N", "undo or redo until N edits are done", goTo},
-    {"history clean", "", "mark the present state as saved", clean},
-    {"history forget", "", "drop the edits that could be made again", forget},
-    {"history limit", "N", "keep at most N edits, 0 keeps all", limit},
+    {"history", "", "list the edits, * marks the saved state", "history", list},
+    {"history goto", "N", "undo or redo until N edits are done", "history goto 0", goTo},
+    {"history clean", "", "mark the present state as saved", "history clean", clean},
+    {"history forget", "", "drop the edits that could be made again", "history forget", forget},
+    {"history limit", "N", "keep at most N edits, 0 keeps all", "history limit 100", limit},
 };
 
 } // namespace

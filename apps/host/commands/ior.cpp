@@ -130,12 +130,18 @@ void lint(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"ior load", "NAME PATH", "load a measured index of refraction (.nk, .ior, .csv)", load},
-    {"ior show", "NAME", "list n, k and the reflectance", show},
-    {"ior reflectance", "NAME NM", "the reflectance at a wavelength", reflectance},
-    {"ior plot", "NAME", "draw n, k and the reflectance R as text", plot},
-    {"ior save", "NAME PATH [dark]", "plot n, k and the reflectance (.svg, .png)", save},
-    {"ior lint", "PATH", "say what is suspicious about a file", lint},
+    {"ior list", "", "list the names", "ior list", listNamed<FloatArray>},
+    {"ior load", "NAME PATH", "load a measured index of refraction (.nk, .ior, .csv)",
+     "ior load gold examples/data/gold.csv", load},
+    {"ior show", "NAME", "list n, k and the reflectance", "ior show gold", show},
+    {"ior reflectance", "NAME NM", "the reflectance at a wavelength", "ior reflectance gold 589",
+     reflectance},
+    {"ior plot", "NAME", "draw n, k and the reflectance R as text", "ior plot gold", plot},
+    {"ior save", "NAME PATH [dark]", "plot n, k and the reflectance (.svg, .png)",
+     "ior save gold gold.svg", save},
+    {"ior lint", "PATH", "say what is suspicious about a file", "ior lint examples/data/silver.nk",
+     lint},
+    {"ior delete", "NAME", "forget it", "ior delete gold", deleteNamed<FloatArray>},
 };
 
 } // namespace

@@ -20,8 +20,8 @@ void show(Host& host, Arguments&) {
 }
 
 constexpr Command table[] = {
-    {"journal", "", "show and forget the recorded calls", show},
-    {"journal record", "on|off", "record the calls to the renderer", record},
+    {"journal", "", "show and forget the recorded calls", "journal", show},
+    {"journal record", "on|off", "record the calls to the renderer", "journal record on", record},
 };
 
 } // namespace

@@ -15,23 +15,32 @@ namespace app {
 
 namespace {
 
-void list(Host& host, Arguments&) {
-    zsg::IPainterSurface& surface = currentSurface(host);
-    unsigned index = 0;
-    for (nyxLayerInfo const& layer : surface.layers()) {
-        host.out() << (index == surface.editLayer() ? "  * " : "    ") << index << ' '
-                   << (layer.name ? printable(layer.name) : std::string("(no name)"));
-        if (layer.blend_mode != nyx::ColorBlendMode::Normal) {
-            host.out() << ", " << blendModeName(layer.blend_mode);
-        }
-        nyxColor_rgba const& c = layer.background;
-        if (c.a != 0) {
-            host.out() << ", on " << hexColorWithAlpha(c);
-        }
-        host.out() << (layer.visible ? "" : ", hidden") << (layer.deleted ? ", deleted" : "")
-                   << '\n';
-        ++index;
+void print(Host& host, nyxLayerInfo const& layer, unsigned index) {
+    zsg::IPainterSurface const& surface = currentSurface(host);
+    host.out() << (index == surface.editLayer() ? "  * " : "    ") << index << ' '
+               << (layer.name ? printable(layer.name) : std::string("(no name)"));
+    if (layer.blend_mode != nyx::ColorBlendMode::Normal) {
+        host.out() << ", " << blendModeName(layer.blend_mode);
     }
+    nyxColor_rgba const& c = layer.background;
+    if (c.a != 0) {
+        host.out() << ", on " << hexColorWithAlpha(c);
+    }
+    host.out() << (layer.visible ? "" : ", hidden") << (layer.deleted ? ", deleted" : "") << '\n';
+}
+
+void list(Host& host, Arguments&) {
+    unsigned index = 0;
+    for (nyxLayerInfo const& layer : currentSurface(host).layers()) {
+        print(host, layer, index++);
+    }
+}
+
+void show(Host& host, Arguments& arguments) {
+    unsigned const layer = takePaintLayer(host, arguments);
+    arguments.done();
+    auto const layers = currentSurface(host).layers();
+    print(host, layers[layer], layer);
 }
 
 void add(Host& host, Arguments& arguments) {
@@ -47,9 +56,9 @@ void setDeleted(Host& host, Arguments& arguments) {
     currentSurface(host).setLayerDeleted(layer, deleted);
 }
 
-template <bool visible>
 void setVisible(Host& host, Arguments& arguments) {
     unsigned const layer = takePaintLayer(host, arguments);
+    bool const visible = arguments.onOff();
     arguments.done();
     currentSurface(host).setLayerVisibility(layer, visible);
 }
@@ -94,19 +103,20 @@ void edit(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"layer list", "", "list the layers from the top, * marks the edit layer", list},
-    {"layer add", "[INDEX]", "add one, above that of the index or at the top", add},
-    {"layer delete", "LAYER", "mark it as deleted", setDeleted<true>},
-    {"layer undelete", "LAYER",
-     "what the library makes of it: another entry that deletes; use undo", setDeleted<false>},
-    {"layer show", "LAYER", "make it visible", setVisible<true>},
-    {"layer hide", "LAYER", "make it invisible", setVisible<false>},
-    {"layer blend", "LAYER MODE", "how it is laid over those below", blend},
-    {"layer name", "LAYER NAME", "name it; \"\" takes the name away", name},
-    {"layer move", "LAYER LAYER", "take the first to where the second is", move},
+    {"layer list", "", "list the layers from the top, * marks the edit layer", "layer list", list},
+    {"layer show", "LAYER", "show the line of one", "layer show 0", show},
+    {"layer new", "[INDEX]", "add one, above that of the index or at the top", "layer new 0", add},
+    {"layer delete", "LAYER", "mark it as deleted", "layer delete 1", setDeleted<true>},
+    {"layer restore", "LAYER", "what the library makes of it: another entry that deletes; use undo",
+     "layer restore 1", setDeleted<false>},
+    {"layer visible", "LAYER on|off", "show or hide it", "layer visible 0 off", setVisible},
+    {"layer blend", "LAYER MODE", "how it is laid over those below", "layer blend 0 multiply",
+     blend},
+    {"layer name", "LAYER NAME", "name it; \"\" takes the name away", "layer name 0 Shadows", name},
+    {"layer move", "LAYER LAYER", "take the first to where the second is", "layer move 0 1", move},
     {"layer background", "LAYER RGBA [preview]", "the colour beneath the paint; preview: no undo",
-     background},
-    {"layer edit", "LAYER", "the layer that paint goes to (no undo)", edit},
+     "layer background Shadows #20304080", background},
+    {"layer use", "LAYER", "the layer that paint goes to (no undo)", "layer use Shadows", edit},
 };
 
 } // namespace

@@ -15,7 +15,7 @@ void ledger(Host& host, Arguments&) {
 }
 
 constexpr Command table[] = {
-    {"ledger", "", "show what the renderer has lent out", ledger},
+    {"ledger", "", "show what the renderer has lent out", "ledger", ledger},
 };
 
 } // namespace

@@ -36,10 +36,6 @@ void assign(Host& host, Arguments& arguments) {
     lightLayerController(host).setItemsLightLayer(layer, takeItems(host, arguments));
 }
 
-void moveToNewLayer(Host& host, Arguments& arguments) {
-    lightLayers(host).moveLightsToNewLayer(takeLights(host, arguments));
-}
-
 void unlisted(Host& host, Arguments& arguments) {
     bool const on = arguments.onOff();
     for (nyx::ObjectId const light : takeLights(host, arguments)) {
@@ -48,12 +44,13 @@ void unlisted(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"light list", "", "list the scene's lights", list},
-    {"light layers", "ITEM...", "show the layers of lights and of what is in groups", layers},
-    {"light assign", "LAYER ITEM...", "put lights, and all lights of groups, into a layer", assign},
-    {"light new", "LIGHT...", "move lights of layer 1 to a new layer (no undo)", moveToNewLayer},
+    {"light list", "", "list the scene's lights", "light list", list},
+    {"light show", "ITEM...", "show the layers of lights and of what is in groups",
+     "light show \"Key Light\" Accents", layers},
+    {"light assign", "LAYER ITEM...", "put lights, and all lights of groups, into a layer",
+     "light assign Accent \"Rim Light\" Accents", assign},
     {"light unlisted", "on|off LIGHT...", "leave lights out of lists, on the renderer's side",
-     unlisted},
+     "light unlisted on \"Fill Light\"", unlisted},
 };
 
 } // namespace

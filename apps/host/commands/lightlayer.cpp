@@ -107,22 +107,36 @@ void save(Host& host, Arguments& arguments) {
     file.write(LightMatrix(host).picture());
 }
 
+void split(Host& host, Arguments& arguments) {
+    lightLayers(host).moveLightsToNewLayer(takeLights(host, arguments));
+}
+
 constexpr Command table[] = {
-    {"lightlayer list", "", "list light layers", list},
-    {"lightlayer show", "LAYER", "show a layer and its lights as they are read", show},
-    {"lightlayer items", "LAYER", "list what the scene has in a layer now", items},
-    {"lightlayer matrix", "", "show which light is in which layer", matrix},
-    {"lightlayer save", "PATH [dark]", "draw that (.svg, .png)", save},
-    {"lightlayer dump", "", "print the library's own dump", dump},
-    {"lightlayer create", "NAME", "make a layer", create},
-    {"lightlayer delete", "LAYER", "delete a layer; its lights go to layer 1", remove},
+    {"lightlayer list", "", "list light layers", "lightlayer list", list},
+    {"lightlayer show", "LAYER", "show a layer and its lights as they are read",
+     "lightlayer show Accent", show},
+    {"lightlayer items", "LAYER", "list what the scene has in a layer now",
+     "lightlayer items Accent", items},
+    {"lightlayer matrix", "", "show which light is in which layer", "lightlayer matrix", matrix},
+    {"lightlayer save", "PATH [dark]", "draw that (.svg, .png)", "lightlayer save lights.svg",
+     save},
+    {"lightlayer dump", "", "print the library's own dump", "lightlayer dump", dump},
+    {"lightlayer new", "NAME", "make a layer", "lightlayer new Evening", create},
+    {"lightlayer delete", "LAYER", "delete a layer; its lights go to layer 1",
+     "lightlayer delete Evening", remove},
     {"lightlayer add", "LAYER LIGHT...", "add lights to a layer (an inverted one: take out)",
-     addLights},
-    {"lightlayer remove", "LAYER LIGHT...", "take lights out (an inverted one: add)", removeLights},
-    {"lightlayer clone", "LAYER", "make a layer like another (no undo)", clone},
-    {"lightlayer name", "LAYER NAME", "rename a layer (no undo)", name},
-    {"lightlayer flags", "LAYER FLAGS", "set flags: 1 inverted, 16 deleted (no undo)", flags},
-    {"lightlayer sync", "", "read the scene's layers again", sync},
+     "lightlayer add Accent \"Key Light\"", addLights},
+    {"lightlayer remove", "LAYER LIGHT...", "take lights out (an inverted one: add)",
+     "lightlayer remove Accent \"Key Light\"", removeLights},
+    {"lightlayer copy", "LAYER", "make a layer like another (no undo)", "lightlayer copy Accent",
+     clone},
+    {"lightlayer split", "LIGHT...", "move lights of layer 1 to a new layer (no undo)",
+     "lightlayer split \"Key Light\"", split},
+    {"lightlayer name", "LAYER NAME", "rename a layer (no undo)", "lightlayer name Practical Lamps",
+     name},
+    {"lightlayer flags", "LAYER FLAGS", "set flags: 1 inverted, 16 deleted (no undo)",
+     "lightlayer flags Accent 1", flags},
+    {"lightlayer sync", "", "read the scene's layers again", "lightlayer sync", sync},
 };
 
 } // namespace

@@ -80,10 +80,13 @@ void merge(Host& host, Arguments& arguments) {
 
 constexpr Command table[] = {
     {"linker conflicts", "NAME RGBA | NAME = NAME RGBA...",
-     "list the colours in use that a foreign colour would overwrite", conflicts},
+     "list the colours in use that a foreign colour would overwrite",
+     "linker conflicts Ivory #f0f0e0", conflicts},
     {"linker import", "link|rename NAME RGBA | NAME = NAME RGBA...",
-     "bring a foreign colour or multi-colour in, settling conflicts", importColor},
-    {"linker merge", "TO FROM", "add the sub-colours that TO lacks", merge},
+     "bring a foreign colour or multi-colour in, settling conflicts",
+     "linker import rename Sand = Light #e8d8b0 Dark #a08050", importColor},
+    {"linker merge", "TO FROM", "add the sub-colours that TO lacks", "linker merge Frame Shade",
+     merge},
 };
 
 } // namespace

@@ -21,8 +21,9 @@ void end(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"macro begin", "TEXT", "collect the coming edits into one", begin},
-    {"macro end", "[TEXT]", "end the innermost macro", end},
+    {"macro begin", "TEXT", "collect the coming edits into one", "macro begin \"Autumn look\"",
+     begin},
+    {"macro end", "[TEXT]", "end the innermost macro", "macro end", end},
 };
 
 } // namespace

@@ -253,15 +253,22 @@ void apply(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"material list", "", "list the materials", list},
-    {"material describe", "MATERIAL", "show a description, by the schema in force", describe},
-    {"material set", "MATERIAL ATTRIBUTE|KEY VALUE", "set a value in the draft", set},
-    {"material remove", "MATERIAL ATTRIBUTE|KEY", "take a value out of the draft", remove},
-    {"material metadata", "MATERIAL [KEY]", "show the metadata", showMetadata},
-    {"material metadata set", "MATERIAL KEY JSON", "set a member in the draft", setMetadata},
-    {"material metadata remove", "MATERIAL KEY", "take a member out of the draft", removeMetadata},
-    {"material apply", "MATERIAL", "apply the draft; this program makes it undoable", apply},
-    {"material drop", "MATERIAL", "forget the draft", drop},
+    {"material list", "", "list the materials", "material list", list},
+    {"material show", "MATERIAL", "show a description, by the schema in force",
+     "material show \"Seat Fabric\"", describe},
+    {"material set", "MATERIAL ATTRIBUTE|KEY VALUE", "set a value in the draft",
+     "material set \"Seat Fabric\" CMF::TEXT::VENDOR \"Mill & Son\"", set},
+    {"material remove", "MATERIAL ATTRIBUTE|KEY", "take a value out of the draft",
+     "material remove \"Seat Fabric\" CMF::TEXT::FINISH", remove},
+    {"material metadata", "MATERIAL [KEY]", "show the metadata",
+     "material metadata \"Seat Fabric\" article", showMetadata},
+    {"material metadata set", "MATERIAL KEY JSON", "set a member in the draft",
+     "material metadata set \"Seat Fabric\" width_cm 140", setMetadata},
+    {"material metadata remove", "MATERIAL KEY", "take a member out of the draft",
+     "material metadata remove \"Seat Fabric\" martindale", removeMetadata},
+    {"material apply", "MATERIAL", "apply the draft; this program makes it undoable",
+     "material apply \"Seat Fabric\"", apply},
+    {"material drop", "MATERIAL", "forget the draft", "material drop \"Seat Fabric\"", drop},
 };
 
 } // namespace

@@ -109,18 +109,27 @@ void card(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"multi new", "MULTI NAME RGBA [at INDEX]", "add a new sub-colour", addNew},
-    {"multi copy", "MULTI COLOR...", "add new sub-colours of these values", copies},
-    {"multi use", "MULTI COLOR link|copy", "add a colour, or a copy, and make it active", use},
-    {"multi add", "MULTI INDEX [active COLOR] COLOR...", "add colours at a position", add},
-    {"multi move", "MULTI INDEX [active SUB] SUB...", "move sub-colours to a position", move},
-    {"multi set", "MULTI COLOR...", "replace all sub-colours", set},
-    {"multi remove", "MULTI SUB...", "take sub-colours out", remove},
-    {"multi switch", "MULTI SUB", "make a sub-colour the active one", switchTo},
-    {"multi change", "MULTI OLD NEW", "put a colour in the place of a sub-colour", change},
-    {"multi unlink", "MULTI INDEX", "replace a sub-colour by a copy of its own", unlink},
+    {"multi new", "MULTI NAME RGBA [at INDEX]", "add a new sub-colour",
+     "multi new Upholstery Sky #87ceeb at 0", addNew},
+    {"multi copy", "MULTI COLOR...", "add new sub-colours of these values",
+     "multi copy Upholstery Wheat Tan", copies},
+    {"multi use", "MULTI COLOR link|copy", "add a colour, or a copy, and make it active",
+     "multi use Upholstery Gold link", use},
+    {"multi add", "MULTI INDEX [active COLOR] COLOR...", "add colours at a position",
+     "multi add Upholstery 1 active Teal Teal Plum", add},
+    {"multi move", "MULTI INDEX [active SUB] SUB...", "move sub-colours to a position",
+     "multi move Upholstery 0 Linen DimGray", move},
+    {"multi set", "MULTI COLOR...", "replace all sub-colours", "multi set Frame Black White", set},
+    {"multi remove", "MULTI SUB...", "take sub-colours out", "multi remove Upholstery Gold",
+     remove},
+    {"multi switch", "MULTI SUB", "make a sub-colour the active one",
+     "multi switch Upholstery Linen", switchTo},
+    {"multi change", "MULTI OLD NEW", "put a colour in the place of a sub-colour",
+     "multi change Upholstery Sienna Peru", change},
+    {"multi unlink", "MULTI INDEX", "replace a sub-colour by a copy of its own",
+     "multi unlink Frame 0", unlink},
     {"multi card", "PATH [dark]", "draw every multi-colour with its sub-colours (.svg, .png)",
-     card},
+     "multi card multi-colours.svg", card},
 };
 
 } // namespace

@@ -99,7 +99,7 @@ void paint(Host& host, Stroke stroke, char const* text) {
     zsg::IPainterSurface& surface = currentSurface(host);
     auto const layers = surface.layers();
     if (surface.editLayer() >= layers.size() || layers[surface.editLayer()].deleted) {
-        throw CommandError("no layer is being edited; \"layer edit\" chooses one");
+        throw CommandError("no layer is being edited; \"layer use\" chooses one");
     }
     host.undoStack().push(new example::PaintCommand(
         QString::fromUtf8(text), host.renderer().painting(), host.taskQueue(),
@@ -132,13 +132,17 @@ void memory(Host& host, Arguments&) {
 }
 
 constexpr Command table[] = {
-    {"paint with", "RADIUS HARDNESS RGBA", "paint with a plain round tip", with},
-    {"paint brush", "", "paint with the current brush, as at first", brush},
+    {"paint with", "RADIUS HARDNESS RGBA", "paint with a plain round tip",
+     "paint with 12 0.5 #c0302080", with},
+    {"paint brush", "", "paint with the current brush, as at first", "paint brush", brush},
     {"paint line", "X Y [X Y...]", "paint along a line; one point makes a dot",
-     stroke<Line::Straight, false>},
-    {"paint curve", "X Y [X Y...]", "paint along a smooth line", stroke<Line::Smooth, false>},
-    {"paint erase", "X Y [X Y...]", "take paint away along a line", stroke<Line::Straight, true>},
-    {"paint memory", "", "what the history keeps for undoing strokes (single entries)", memory},
+     "paint line 20 20 120 60 200 20", stroke<Line::Straight, false>},
+    {"paint curve", "X Y [X Y...]", "paint along a smooth line",
+     "paint curve 20 100 120 160 200 100", stroke<Line::Smooth, false>},
+    {"paint erase", "X Y [X Y...]", "take paint away along a line", "paint erase 60 20 60 160",
+     stroke<Line::Straight, true>},
+    {"paint memory", "", "what the history keeps for undoing strokes (single entries)",
+     "paint memory", memory},
 };
 
 } // namespace

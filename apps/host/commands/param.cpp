@@ -106,9 +106,10 @@ void set(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"param list", "", "list the demonstration panel", list},
-    {"param show", "PARAM", "flags, limits and ranges of a parameter", show},
-    {"param set", "PARAM WORDS...", "set its value and say whether it changed", set},
+    {"param list", "", "list the demonstration panel", "param list", list},
+    {"param show", "PARAM", "flags, limits and ranges of a parameter", "param show tint", show},
+    {"param set", "PARAM WORDS...", "set its value and say whether it changed",
+     "param set tint #ffd700", set},
 };
 
 } // namespace

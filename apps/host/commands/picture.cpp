@@ -54,8 +54,9 @@ void checksum(Host& host, Arguments&) {
 }
 
 constexpr Command table[] = {
-    {"picture", "FILE.png", "write the picture of the current surface", save},
-    {"picture checksum", "", "a number that tells whether the picture is the same", checksum},
+    {"picture save", "PATH", "write the current surface (.png)", "picture save painted.png", save},
+    {"picture checksum", "", "a number that tells whether the picture is the same",
+     "picture checksum", checksum},
 };
 
 } // namespace

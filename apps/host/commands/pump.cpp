@@ -8,7 +8,7 @@ namespace {
 void pump(Host& host, Arguments&) { host.pump(); }
 
 constexpr Command table[] = {
-    {"pump", "", "deliver what the renderer has to say (every command does)", pump},
+    {"pump", "", "deliver what the renderer has to say (every command does)", "pump", pump},
 };
 
 } // namespace

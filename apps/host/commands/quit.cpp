@@ -8,8 +8,8 @@ namespace {
 void quit(Host& host, Arguments&) { host.requestEnd(); }
 
 constexpr Command table[] = {
-    {"quit", "", "end the session", quit},
-    {"exit", "", "end the session", quit},
+    {"quit", "", "end the session", "quit", quit},
+    {"exit", "", "end the session", "exit", quit},
 };
 
 } // namespace

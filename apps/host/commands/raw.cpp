@@ -120,18 +120,24 @@ void pushColorway(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"raw color create", "NAME RGBA", "push a new colour", createColor},
-    {"raw color push", "COLOR RGBA", "push a value", pushColor},
-    {"raw color temp", "RGBA", "push the temporary colour", pushTemporary},
-    {"raw color clone", "COLOR [deep]", "make a copy, deep: of its sub-colours too", clone},
-    {"raw color wrap", "COLOR", "make a multi-colour that holds it", wrap},
-    {"raw multi create", "NAME SUB...", "push a new multi-colour", createMulti},
-    {"raw multi switch", "MULTI SUB", "make a sub-colour the active one", switchSub},
-    {"raw colorway create", "NAME MULTI:SUB...", "make a colorway", createColorway},
-    {"raw colorway apply", "COLORWAY", "switch to it", applyColorway},
+    {"raw color new", "NAME RGBA", "push a new colour", "raw color new Draft #808080", createColor},
+    {"raw color push", "COLOR RGBA", "push a value", "raw color push Draft 0.5 0.5 0.5", pushColor},
+    {"raw color temp", "RGBA", "push the temporary colour", "raw color temp #ff0000",
+     pushTemporary},
+    {"raw color copy", "COLOR [deep]", "make a copy, deep: of its sub-colours too",
+     "raw color copy Upholstery deep", clone},
+    {"raw color wrap", "COLOR", "make a multi-colour that holds it", "raw color wrap Draft", wrap},
+    {"raw multi new", "NAME SUB...", "push a new multi-colour", "raw multi new Pair Draft Teal",
+     createMulti},
+    {"raw multi switch", "MULTI SUB", "make a sub-colour the active one",
+     "raw multi switch Pair Teal", switchSub},
+    {"raw colorway new", "NAME MULTI:SUB...", "make a colorway",
+     "raw colorway new Draft Upholstery:Linen", createColorway},
+    {"raw colorway apply", "COLORWAY", "switch to it", "raw colorway apply Studio", applyColorway},
     {"raw colorway unused", "COLORWAY", "take multi-colours out that nothing uses (not committed)",
-     checkUnused},
-    {"raw colorway push", "COLORWAY", "commit what was changed", pushColorway},
+     "raw colorway unused Nordic", checkUnused},
+    {"raw colorway push", "COLORWAY", "commit what was changed", "raw colorway push Nordic",
+     pushColorway},
 };
 
 } // namespace

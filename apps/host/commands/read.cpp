@@ -34,7 +34,8 @@ void read(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"read", "PATH", "run the commands of a file; the first that fails ends it", read},
+    {"read", "PATH", "run the commands of a file; the first that fails ends it",
+     "read examples/scripts/demo-1-scene.zsg", read},
 };
 
 } // namespace

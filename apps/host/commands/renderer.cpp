@@ -30,9 +30,12 @@ void activateColorway(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"renderer color", "COLOR RGBA", "change a value on the renderer's side", changeColor},
-    {"renderer remove", "COLOR", "take a record away on the renderer's side", removeColor},
-    {"renderer colorway", "COLORWAY", "switch to it on the renderer's side", activateColorway},
+    {"renderer color", "COLOR RGBA", "change a value on the renderer's side",
+     "renderer color Teal #00a0a0", changeColor},
+    {"renderer remove", "COLOR", "take a record away on the renderer's side",
+     "renderer remove Plum", removeColor},
+    {"renderer colorway", "COLORWAY", "switch to it on the renderer's side",
+     "renderer colorway Autumn", activateColorway},
 };
 
 } // namespace

@@ -33,10 +33,11 @@ void keep(Host& host, Arguments& arguments) {
 }
 
 constexpr Command table[] = {
-    {"scene", "", "show everything that the scene holds", show},
-    {"scene load", "PATH", "replace the scene; the history is cleared", load},
-    {"scene save", "PATH", "write the scene", save},
-    {"scene keep", "NAME", "keep the present state, for expect scene", keep},
+    {"scene", "", "show everything that the scene holds", "scene", show},
+    {"scene load", "PATH", "replace the scene; the history is cleared",
+     "scene load examples/scenes/showroom.json", load},
+    {"scene save", "PATH", "write the scene", "scene save mine.json", save},
+    {"scene keep", "NAME", "keep the present state, for expect scene", "scene keep before", keep},
 };
 
 } // namespace

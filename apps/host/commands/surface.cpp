@@ -51,9 +51,9 @@ void use(Host& host, Arguments& arguments) {
     host.sceneState<PaintState>().surface = surface.id();
 }
 
+template <bool deleted>
 void setDeleted(Host& host, Arguments& arguments) {
     zsg::IPainterSurface& surface = takeSurface(host, arguments);
-    bool const deleted = arguments.onOff();
     arguments.done();
     surface.setDeleted(deleted);
 }
@@ -71,12 +71,19 @@ void resolution(Host& host, Arguments& arguments) {
 void reload(Host& host, Arguments&) { painter(host).reload(); }
 
 constexpr Command table[] = {
-    {"surface list", "", "list the surfaces, * marks the current one", list},
-    {"surface make", "TEXELS [SURFACE]", "make one, with the layers of another, and use it", make},
-    {"surface use", "SURFACE", "the one that layer, paint and picture work on", use},
-    {"surface deleted", "SURFACE on|off", "mark it as deleted, or not (no undo)", setDeleted},
-    {"surface resolution", "SURFACE TEXELS", "resample what is painted (no undo)", resolution},
-    {"surface reload", "", "take up what the renderer has made by itself", reload},
+    {"surface list", "", "list the surfaces, * marks the current one", "surface list", list},
+    {"surface new", "TEXELS [SURFACE]", "make one, with the layers of another, and use it",
+     "surface new 512", make},
+    {"surface use", "SURFACE", "the one that layer, paint and picture work on", "surface use 1",
+     use},
+    {"surface delete", "SURFACE", "mark it as deleted (no undo)", "surface delete 1",
+     setDeleted<true>},
+    {"surface restore", "SURFACE", "bring a deleted one back (no undo)", "surface restore 1",
+     setDeleted<false>},
+    {"surface resolution", "SURFACE TEXELS", "resample what is painted (no undo)",
+     "surface resolution 1 256", resolution},
+    {"surface reload", "", "take up what the renderer has made by itself", "surface reload",
+     reload},
 };
 
 } // namespace

@@ -75,13 +75,18 @@ void types(Host& host, Arguments&) {
 }
 
 constexpr Command table[] = {
-    {"value make", "NAME TYPE [VALUE]", "make a holder with its default, or a value", make},
-    {"value set", "VALUE WORDS...", "set it and say whether it changed", set},
-    {"value print", "VALUE", "print it", show},
-    {"value hash", "VALUE", "print its hash", hash},
-    {"value clone", "VALUE NAME", "make a copy", clone},
-    {"value copy", "FROM TO", "copy one into another of the same type", copy},
-    {"value types", "", "list the types", types},
+    {"value list", "", "list the names", "value list", listNamed<Holder>},
+    {"value new", "NAME TYPE [VALUE]", "make a holder with its default, or a value",
+     "value new tint Color SteelBlue", make},
+    {"value set", "VALUE WORDS...", "set it and say whether it changed", "value set tint #4682b4",
+     set},
+    {"value show", "VALUE", "print it", "value show tint", show},
+    {"value hash", "VALUE", "print its hash", "value hash tint", hash},
+    {"value copy", "VALUE NAME", "make a copy", "value copy tint spare", clone},
+    {"value assign", "FROM TO", "copy one into another of the same type", "value assign tint spare",
+     copy},
+    {"value types", "", "list the types", "value types", types},
+    {"value delete", "VALUE", "forget it", "value delete spare", deleteNamed<Holder>},
 };
 
 } // namespace
