@@ -1,0 +1,27 @@
+# Installs the project, and builds and runs the example programs against the installed tree: each
+# says what its .out file says.
+function(run)
+    execute_process(COMMAND ${ARGV} RESULT_VARIABLE result OUTPUT_VARIABLE output
+        ERROR_VARIABLE output)
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "failed: ${ARGV}\n${output}")
+    endif()
+    set(output "${output}" PARENT_SCOPE)
+endfunction()
+
+file(REMOVE_RECURSE ${WORK_DIR})
+run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/prefix)
+run(${CMAKE_COMMAND} -G Ninja -S ${SOURCE_DIR} -B ${WORK_DIR}/build -DPROGRAMS=${PROGRAMS}
+    -DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix -DCMAKE_CXX_COMPILER=${CXX_COMPILER}
+    "-DCMAKE_CXX_FLAGS=${CXX_FLAGS} -Wall -Wextra -Werror")
+run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
+
+file(GLOB expectations ${PROGRAMS}/*.out)
+foreach(expectation IN LISTS expectations)
+    cmake_path(GET expectation STEM name)
+    run(${WORK_DIR}/build/${name} ${SCENE} ${WORK_DIR}/saved.json)
+    file(READ ${expectation} expected)
+    if(NOT output STREQUAL expected)
+        message(FATAL_ERROR "${name} says\n${output}instead of\n${expected}")
+    endif()
+endforeach()
