@@ -1,17 +1,24 @@
 #include "zsg/core/ISceneGraph.h"
 
+#include "nyxembedded/Painting.h"
 #include "nyxembedded/Renderer.h"
 #include "nyxrender/nyxMessage.h"
 #include "support/Allocations.h"
 #include "support/EventTrace.h"
+#include "zcore/ZUndoStack.h"
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/Event.h"
+#include "zsg/lightlayers/ILightLayerController.h"
+#include "zsg/painting/IPainter.h"
+#include "zsg/painting/IPainterManager.h"
+#include "zsg/painting/IPainterSurface.h"
 
 #include <QObject>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <new>
@@ -87,6 +94,35 @@ TEST(ZSceneGraph, takesEverythingWithItAndTheQueueAfterTheColors) {
                      [&] { heldWhenQueueGoes = renderer.ledger().blocks; });
     root.reset();
     EXPECT_EQ(heldWhenQueueGoes, 0u);
+}
+
+TEST(ZSceneGraph, leavesCommandsBehindThatDoNoHarm) {
+    nyx::embedded::Renderer renderer;
+    nyx::ColorId const red = renderer.colors().add("Red", {1, 0, 0, 1});
+    nyx::SurfaceId const surface = renderer.painting().addSurface("Board", 64);
+    ZUndoStack stack;
+    SceneGraphPars pars;
+    pars.rtApi = renderer.api();
+    pars.undoStack = &stack;
+    std::unique_ptr<ISceneGraph> root = ISceneGraph::create(pars);
+    ColorController& colors = *root->colorController();
+    colors.setDisplayName(red, "Ruby");
+    colors.toggleMultiColor(red);
+    colors.applyColorway(colors.createColorway("Summer", {}));
+    root->lightLayerController()->createLayer("Rim");
+    root->painterManager()->painter()->surface(surface)->addLayer(0);
+    int const count = stack.count();
+    ASSERT_EQ(count, 6);
+    std::string const before = renderer.dump();
+    root.reset();
+
+    testing::internal::CaptureStderr();
+    EXPECT_TRUE(stack.undo()) << "surfaces stay, so their layers follow";
+    EXPECT_FALSE(stack.goTo(0));
+    EXPECT_FALSE(stack.goTo(count));
+    std::string const warnings = testing::internal::GetCapturedStderr();
+    EXPECT_EQ(std::ranges::count(warnings, '\n'), 2) << "one of the colours, one of the lights";
+    EXPECT_EQ(renderer.dump(), before);
 }
 
 TEST(ZSceneGraph, thatCannotBeMadeLeavesNothing) {

@@ -21,7 +21,9 @@ class IPainterManager;
 /// The root: the one object that an application creates. It owns one object of every subsystem for
 /// its whole life, and everything else is reached through its accessors. Main thread only; destroy
 /// it on the thread that created it, from outside of listeners and commands, when the undo stack
-/// was cleared of commands that refer to it.
+/// was cleared of commands that refer to it. Those that stay do no harm while the renderer lives:
+/// the ones of colours and light layers fail from then on, with one warning; the ones of paint
+/// layers change their surface, but nobody hears of it.
 ///
 /// A root belongs to one scene: its edits, its lists and the commands behind it name records by id,
 /// and would change those that the ids mean in the next one. Before the renderer loads another
