@@ -34,6 +34,17 @@ std::string scene(std::string const& rest) {
 
 std::string colors(std::string const& list) { return scene("\"colors\":[" + list + "]"); }
 
+TEST(SceneDump, OfTheSceneInTheDocumentIsTheOneThere) {
+    std::string const document = readFile(sourceDir() + "/docs/formats.md");
+    auto const block = [&](std::string const& fence, std::size_t from) {
+        std::size_t const begin = document.find(fence, from) + fence.size();
+        return document.substr(begin, document.find("```", begin) - begin);
+    };
+    Renderer renderer;
+    ASSERT_EQ(renderer.loadSceneText(block("```json\n", 0)), "");
+    EXPECT_EQ(renderer.dump(), block("\n```\n", document.find("## Scene dump")));
+}
+
 TEST(SceneDump, IsOneReadableLinePerRecord) {
     Renderer renderer;
     ASSERT_EQ(renderer.loadSceneText(R"({"format": "zsg-scene", "version": 1, "unitScale": 0.01,
