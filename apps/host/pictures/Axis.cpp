@@ -55,9 +55,27 @@ std::string Axis::label(double tick) const {
         int const decimals = std::max(0, static_cast<int>(std::ceil(-std::log10(step_) - 1e-9)));
         result = std::to_chars(text, text + sizeof text, tick, std::chars_format::fixed, decimals);
     } else {
-        result = std::to_chars(text, text + sizeof text, tick, std::chars_format::general, 6);
+        result = std::to_chars(text, text + sizeof text, tick, std::chars_format::general, 7);
     }
     return {text, result.ptr};
+}
+
+void Axis::labelBelow(Picture& picture, double left, double length, double baseline) const {
+    constexpr double gap = 6;
+    double taken = 0;
+    for (double const tick : ticks_) {
+        shape::Text text{{0, baseline}, label(tick)};
+        text.ink = Ink::Faint;
+        text.anchor = shape::Text::Anchor::Middle;
+        double const half = shape::textWidth(text.text, text.size) / 2 + gap / 2;
+        double const middle = std::clamp(left + length * part(tick), half, picture.width - half);
+        if (middle - half < taken) {
+            continue;
+        }
+        text.baseline.x = middle;
+        taken = middle + half;
+        picture.add(std::move(text));
+    }
 }
 
 } // namespace app

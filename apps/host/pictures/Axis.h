@@ -1,11 +1,13 @@
 #pragma once
 
+#include "host/pictures/Picture.h"
+
 #include <string>
 #include <vector>
 
 namespace app {
 
-/// The round places of an axis: multiples of 1, 2 or 5 times a power of ten.
+/// An axis and its round places: multiples of 1, 2 or 5 times a power of ten.
 class Axis {
 public:
     /// For finite values from `low` to `high`, in at most `mostSteps` steps (4 or more). With
@@ -21,6 +23,10 @@ public:
     [[nodiscard]] std::string label(double tick) const;
     /// How far along the axis a value is, 0 to 1.
     [[nodiscard]] double part(double value) const { return (value - low_) / (high_ - low_); }
+
+    /// Writes the ticks below an axis that runs from `left` to `left + length` in a picture of
+    /// that width: within the picture, and without those for which there is no room.
+    void labelBelow(Picture& picture, double left, double length, double baseline) const;
 
 private:
     double low_;

@@ -1,17 +1,20 @@
 #include "host/pictures/Plot.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace app {
 
 namespace {
 
 constexpr double areaWidth = 560;
 constexpr double areaHeight = 300;
-constexpr double margin = 68; ///< left, and right beside an axis
+constexpr double gap = 8;      ///< from an axis to what is written beside it
+constexpr double besides = 28; ///< a title beside the labels, or only air
 constexpr double top = 44;
 constexpr double bottom = 52;
 
 constexpr double areaBottom = top + areaHeight;
-constexpr double areaRight = margin + areaWidth;
 constexpr double explainedAt = top - 20; ///< its middle
 
 using Anchor = shape::Text::Anchor;
@@ -25,41 +28,54 @@ shape::Text label(shape::Point baseline, std::string text, Anchor anchor) {
     return result;
 }
 
+/// The room that an axis takes beside the area.
+double room(Axis const& axis) {
+    double widest = 24;
+    for (double const tick : axis.ticks()) {
+        widest = std::max(widest, shape::textWidth(axis.label(tick), 12));
+    }
+    return std::ceil(besides + widest + gap);
+}
+
 } // namespace
 
 Plot::Plot(std::string title, Axes axes)
     : axes_(std::move(axes)),
-      picture_{areaRight + (axes_.right ? margin : 28), areaBottom + bottom, std::move(title), {}},
-      nextExplained_(margin) {
+      left_(room(axes_.left)),
+      picture_{left_ + areaWidth + (axes_.right ? room(*axes_.right) : besides),
+               areaBottom + bottom,
+               std::move(title),
+               {}},
+      nextExplained_(left_) {
     drawAxes();
 }
 
 shape::Point Plot::at(double x, double y, Side side) const {
     Axis const& upright = side == Side::Right && axes_.right ? *axes_.right : axes_.left;
-    return {margin + areaWidth * axes_.x.part(x), areaBottom - areaHeight * upright.part(y)};
+    return {left_ + areaWidth * axes_.x.part(x), areaBottom - areaHeight * upright.part(y)};
 }
 
 void Plot::drawAxes() {
     constexpr double baseline = 4; // from the middle of the digits
-    constexpr double gap = 8;
+    double const areaRight = left_ + areaWidth;
     shape::Path grid;
     grid.stroke = {Ink::Grid, 1};
     for (double const tick : axes_.x.ticks()) {
         double const x = at(tick, axes_.left.low()).x;
         grid.moveTo({x, top});
         grid.lineTo({x, areaBottom});
-        picture_.add(label({x, areaBottom + 18}, axes_.x.label(tick), Anchor::Middle));
     }
+    axes_.x.labelBelow(picture_, left_, areaWidth, areaBottom + 18);
     for (double const tick : axes_.left.ticks()) {
         double const y = at(axes_.x.low(), tick).y;
-        grid.moveTo({margin, y});
+        grid.moveTo({left_, y});
         grid.lineTo({areaRight, y});
-        picture_.add(label({margin - gap, y + baseline}, axes_.left.label(tick), Anchor::End));
+        picture_.add(label({left_ - gap, y + baseline}, axes_.left.label(tick), Anchor::End));
     }
     shape::Path frame;
     frame.stroke = {Ink::Frame, 1};
-    frame.moveTo({margin, top});
-    frame.lineTo({margin, areaBottom});
+    frame.moveTo({left_, top});
+    frame.lineTo({left_, areaBottom});
     frame.lineTo({areaRight, areaBottom});
     if (axes_.right) {
         frame.lineTo({areaRight, top});
@@ -80,7 +96,7 @@ void Plot::drawAxes() {
         picture_.add(std::move(shown));
     };
     double const middle = top + areaHeight / 2;
-    title({margin + areaWidth / 2, areaBottom + 40}, axes_.xTitle, false);
+    title({left_ + areaWidth / 2, areaBottom + 40}, axes_.xTitle, false);
     title({18, middle}, axes_.leftTitle, true);
     if (axes_.right) {
         title({picture_.width - 12, middle}, axes_.rightTitle, true);

@@ -38,6 +38,7 @@ private:
     void explain(std::string const& text);
 
     Axes axes_;
+    double left_; ///< of the area
     Picture picture_;
     double nextExplained_;
 };

@@ -34,6 +34,9 @@ nyxColor_rgba middle(nyxColor_rgba const& a, nyxColor_rgba const& b) {
 /// than one from the blend of light.
 void blend(Stops& stops, double from, nyxColor_rgba const& a, double to, nyxColor_rgba const& b,
            int depth = 8) {
+    if (depth == 0 || to - from < nearest) {
+        return;
+    }
     nyxColor_rgba const half = middle(a, b);
     ColorBytes const wanted = sRGBFromLinear(half);
     ColorBytes const left = sRGBFromLinear(a);
@@ -42,7 +45,7 @@ void blend(Stops& stops, double from, nyxColor_rgba const& a, double to, nyxColo
     for (std::size_t i = 0; i < wanted.size(); ++i) {
         exact = exact && std::abs(2 * wanted[i] - left[i] - right[i]) <= 2;
     }
-    if (exact || depth == 0) {
+    if (exact) {
         return;
     }
     double const at = (from + to) / 2;
@@ -82,7 +85,7 @@ shape::LinearGradient strip(std::vector<Place> const& places, bool blends) {
     for (Place const& place : places) {
         if (before && !blends) {
             strip.stops.push_back({place.at, sRGBFromLinear(before->color)});
-        } else if (before && place.at - before->at >= nearest) {
+        } else if (before) {
             blend(strip.stops, before->at, before->color, place.at, place.color);
         }
         strip.stops.push_back({place.at, sRGBFromLinear(place.color)});
@@ -133,12 +136,7 @@ Picture gradientStrip(zsg::ColorGradient const& gradient) {
         picture.add(shape::Rectangle{
             {x - radius, pinTop}, 2 * radius, 2 * radius, color, {Ink::Text, 1}, radius});
     }
-    for (double const tick : axis.ticks()) {
-        shape::Text label{{margin + width * axis.part(tick), under + pins + 22}, axis.label(tick)};
-        label.ink = Ink::Faint;
-        label.anchor = shape::Text::Anchor::Middle;
-        picture.add(std::move(label));
-    }
+    axis.labelBelow(picture, margin, width, under + pins + 22);
     return picture;
 }
 
