@@ -63,6 +63,11 @@ foreach(name IN LISTS pc_files)
         COMPONENT development)
 endforeach()
 
+if(TARGET zsg_translations)
+    get_target_property(catalogues zsg_translations CATALOGUES)
+    install(FILES ${catalogues} DESTINATION ${CMAKE_INSTALL_DATADIR}/zscenegraph/translations
+        COMPONENT runtime)
+endif()
 if(TARGET zsg-console)
     install(TARGETS zsg-console RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
     set(manual ${CMAKE_CURRENT_SOURCE_DIR}/apps/console/zsg-console.1)

@@ -75,11 +75,26 @@ gate_windows-compile() {
         cmake/windows/compile.py build/mingw-compile
 }
 
+# Every text that users read stands in the catalogues, and every one of the German one in German.
+gate_translations() {
+    local folder=build/translations language
+    mkdir -p "$folder" && cp i18n/*.ts "$folder" &&
+        /usr/lib/qt6/bin/lupdate -silent -locations none -no-obsolete src platform/embedded \
+            -ts "$folder"/*.ts || return 1
+    for language in en de; do
+        diff -u "i18n/zscenegraph_$language.ts" "$folder/zscenegraph_$language.ts" || {
+            echo 'texts have changed: run the lupdate line of cmake/check.sh on i18n/*.ts'
+            return 1
+        }
+    done
+    ! grep -B3 'type="unfinished"' i18n/zscenegraph_de.ts
+}
+
 gate_docs() {
     mkdir -p build/docs && doxygen docs/Doxyfile
 }
 
-all=(format layering dev headers clang asan tsan fuzz windows-compile docs)
+all=(format layering translations dev headers clang asan tsan fuzz windows-compile docs)
 wanted=("$@")
 ((${#wanted[@]})) || wanted=("${all[@]}")
 failed=()

@@ -4,6 +4,7 @@
 #include "host/Host.h"
 #include "host/Interpreter.h"
 #include "host/JsonSession.h"
+#include "host/installTranslation.h"
 #include "host/printable.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/ISceneGraph.h"
@@ -28,6 +29,7 @@ struct Options {
     bool echo = false;
     bool check = false;
     std::string convertTo;
+    std::string language = "en";
 };
 
 /// The exit code when there is nothing more to do than say it.
@@ -46,6 +48,8 @@ std::optional<int> readOptions(Options& options) {
     parser.add_flag("--keep-going", options.keepGoing,
                     "go on with the script when a command fails");
     parser.add_flag("--echo", options.echo, "print every line of the script before it runs");
+    parser.add_option("--lang", options.language,
+                      "the language of undo texts, messages and labels, as in de");
     auto* const check = parser.add_subcommand(
         "check", "load a scene, say what it holds or what is wrong with it, and end");
     check->add_option("SCENE", options.scene, "scene file (JSON)")->required();
@@ -101,6 +105,10 @@ int main(int argc, char** argv) {
     Options options;
     if (auto const code = readOptions(options)) {
         return *code;
+    }
+    if (auto const message = app::installTranslation(options.language); !message.empty()) {
+        std::cerr << app::printable(message) << '\n';
+        return 1;
     }
     app::Host host(std::cout);
     if (std::string const message = host.load(options.scene); !message.empty()) {

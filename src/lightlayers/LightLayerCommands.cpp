@@ -59,7 +59,8 @@ bool LightLayerCommand::redo() {
 
 ZCreateLightLayerCommand::ZCreateLightLayerCommand(GuardedPointer<ILightLayerApi> api,
                                                    std::string name)
-    : LightLayerCommand(std::move(api), ZCommandId::CreateLightLayer, tr("Create light layer")),
+    : LightLayerCommand(std::move(api), ZCommandId::CreateLightLayer,
+                        ZUndoCommand::tr("Create light layer")),
       name_(std::move(name)),
       layer_(std::make_shared<nyx::LightLayerId>()) {}
 
@@ -72,7 +73,7 @@ void ZCreateLightLayerCommand::redoIn(ILightLayerApi& api) {
     }
     *layer_ = api.createLayer(name_);
     if (layer_->isValid()) {
-        setText(filled(tr("Create Light Layer (%1)"), api.layerName(*layer_)));
+        setText(filled(ZUndoCommand::tr("Create Light Layer (%1)"), api.layerName(*layer_)));
     }
 }
 
@@ -100,7 +101,8 @@ void ZDeleteLightLayerCommand::redoIn(ILightLayerApi& api) {
 ZChangeLightsInLightLayerCommand::ZChangeLightsInLightLayerCommand(
     GuardedPointer<ILightLayerApi> api, nyx::LightLayerId layer, std::vector<nyx::ObjectId> lights,
     bool remove)
-    : LightLayerCommand(std::move(api), ZCommandId::EditLightLayer, tr("Update light layer")),
+    : LightLayerCommand(std::move(api), ZCommandId::EditLightLayer,
+                        ZUndoCommand::tr("Update light layer")),
       lights_(std::move(lights)),
       layer_(layer),
       remove_(remove) {}
@@ -130,7 +132,8 @@ bool ZChangeLightsInLightLayerCommand::mergeWith(ZUndoCommand const* other) {
 ZSetItemLightLayerCommand::ZSetItemLightLayerCommand(GuardedPointer<ILightLayerApi> api,
                                                      nyx::LightLayerId layer,
                                                      std::vector<nyx::GroupItemId> items)
-    : LightLayerCommand(std::move(api), ZCommandId::EditLightLayer, tr("Update light layer")),
+    : LightLayerCommand(std::move(api), ZCommandId::EditLightLayer,
+                        ZUndoCommand::tr("Update light layer")),
       layer_(layer),
       items_(std::move(items)) {}
 

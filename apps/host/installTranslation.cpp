@@ -1,0 +1,51 @@
+#include "host/installTranslation.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QTranslator>
+
+#include <algorithm>
+#include <memory>
+
+namespace app {
+
+namespace {
+
+QString const prefix = QStringLiteral("zscenegraph_");
+
+QString folder() {
+    return QCoreApplication::applicationDirPath() +
+           QStringLiteral("/../share/zscenegraph/translations");
+}
+
+/// So that no path can be made of it.
+bool isLanguage(QString const& text) {
+    return std::ranges::all_of(text, [](QChar c) { return c.isLetter() || c == u'_'; });
+}
+
+} // namespace
+
+std::string installTranslation(std::string const& language) {
+    auto const wanted = QString::fromStdString(language);
+    if (wanted == u"en" || wanted.startsWith(u"en_")) {
+        return {}; // the texts themselves
+    }
+    auto translator = std::make_unique<QTranslator>();
+    if (isLanguage(wanted) && translator->load(prefix + wanted, folder())) {
+        translator->setParent(QCoreApplication::instance());
+        QCoreApplication::installTranslator(translator.release());
+        return {};
+    }
+    QStringList known{QStringLiteral("en")};
+    for (QString const& file : QDir(folder()).entryList({prefix + u'*'}, QDir::Files)) {
+        known.prepend(file.chopped(3).mid(prefix.size())); // without ".qm"
+    }
+    QString text = QStringLiteral("--lang %1: there is no such translation; there are: %2")
+                       .arg(wanted, known.join(u", "));
+    if (known.size() == 1) {
+        text += u" (lrelease was missing when this program was built)";
+    }
+    return text.toStdString();
+}
+
+} // namespace app
