@@ -32,6 +32,10 @@ endif()
 
 function(compare what found wanted_file)
     file(READ ${wanted_file} wanted)
+    if(EMULATOR) # the other system's separators of paths
+        string(REPLACE "\\" / wanted "${wanted}")
+        string(REPLACE "\\" / found "${found}")
+    endif()
     if(NOT found STREQUAL wanted)
         file(WRITE ${WORK_DIR}/found "${found}")
         execute_process(COMMAND diff -u ${wanted_file} ${WORK_DIR}/found)

@@ -1,0 +1,47 @@
+#!/usr/bin/env bash
+# zip.sh SOURCE_DIR BUILD_DIR WORK_DIR: makes the zip, and takes it for what a stranger gets: its
+# programs need nothing but it and Windows, every licence is there, and an application builds
+# against it and runs.
+set -euo pipefail
+source=$1
+build=$2
+work=$3
+wine=/usr/lib/wine/wine64
+fail() {
+    printf 'zip: %s\n' "$*"
+    exit 1
+}
+
+rm -rf "$work"
+mkdir -p "$work"
+cd "$work"
+cpack --config "$build/CPackConfig.cmake" -B "$work" >cpack.log || fail "$(tail cpack.log)"
+cmake -E tar xf zscenegraph-*.zip
+rm -rf _CPack_Packages
+root=$(echo "$work"/zscenegraph-*/)
+
+system='^(KERNEL32|msvcrt|USER32|ADVAPI32|ole32|SHELL32|WS2_32|NETAPI32|VERSION|WINMM|MPR|USERENV|ntdll|AUTHZ|bcrypt)\.dll$'
+for file in "$root"bin/*.{dll,exe}; do
+    while read -r import; do
+        [[ -e ${root}bin/$import ]] || grep -qiE "$system" <<<"$import" ||
+            fail "${file##*/} needs $import"
+    done < <(x86_64-w64-mingw32-objdump -p "$file" | sed -n 's/.*DLL Name: //p')
+done
+for library in nyxrender zcore ztask zscenegraph nyxembedded Qt6Core libstdc++-6 libgcc_s_seh-1 \
+    libwinpthread-1; do
+    [[ -s ${root}bin/$library.dll ]] || fail "there is no $library.dll"
+done
+for licence in Qt6Core+libpng libgcc+libstdc++ libwinpthread zlib nlohmann-json CLI11 LGPL-3 GPL-3; do
+    [[ -s ${root}licenses/$licence.txt ]] || fail "there is no licence of $licence"
+done
+x86_64-w64-mingw32-objdump -s -j .rsrc "${root}bin/zscenegraph.dll" | grep -q 'F.i.l.e.V.e' ||
+    fail "zscenegraph.dll has no version resource"
+
+scene=$source/examples/scenes/showroom.json
+"$wine" "${root}bin/zsg-console.exe" check "$scene"
+cmake -G Ninja -S "$source/tests/package/consumer" -B consumer -DCMAKE_BUILD_TYPE=Release \
+    -DCMAKE_TOOLCHAIN_FILE="$source/cmake/windows/toolchain.cmake" \
+    -Dzscenegraph_DIR="${root}lib/cmake/zscenegraph" >consumer.log
+cmake --build consumer >>consumer.log
+WINEPATH=${root}bin "$wine" consumer/consumer.exe "$scene" | grep -q '^37 colours, version ' ||
+    fail "the application says something else"
