@@ -21,6 +21,7 @@ function swatched(s,    out, hex) {
 }
 
 function flush() {
+    sub(/\n+$/, "", said)
     if (said != "") {
         print "<pre>" said "</pre>"
     }
@@ -75,7 +76,9 @@ function comment(    end) {
     if (picture != "") {
         flush()
     }
-    said = said "<b>" swatched(escaped($0)) "</b>\n"
+    # What a script only checks is of less interest to who reads the page.
+    mark = $2 == "expect" ? "s" : "b"
+    said = said "<" mark ">" swatched(escaped($0)) "</" mark ">\n"
     # Only plain names of files in this folder.
     if ($2 != "expect" && match($0, / [A-Za-z0-9_-]+\.(svg|png)( |$)/)) {
         picture = substr($0, RSTART + 1, RLENGTH - 1)

@@ -19,7 +19,7 @@ constexpr int smallestCell = 2;
 constexpr int largestCell = 24;
 constexpr int smallestRuled = 6; ///< cells below it would drown in lines
 constexpr double margin = 16;
-constexpr double legend = 44;
+constexpr double legend = 52;
 constexpr double leastWidth = 340; ///< what the legend takes
 
 /// Every crossing where the warp is on top, as strokes of the height of a row: the shortest way to
