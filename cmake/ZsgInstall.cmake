@@ -63,6 +63,12 @@ foreach(name IN LISTS pc_files)
         COMPONENT development)
 endforeach()
 
+if(UNIX AND BUILD_SHARED_LIBS)
+    # gdb loads it with the library, by the library's whole path.
+    install(FILES debugger/zscenegraph_printers.py
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${CMAKE_INSTALL_FULL_LIBDIR}
+        RENAME libzscenegraph.so.${PROJECT_VERSION}-gdb.py COMPONENT development)
+endif()
 if(TARGET zsg_translations)
     get_target_property(catalogues zsg_translations CATALOGUES)
     install(FILES ${catalogues} DESTINATION ${CMAKE_INSTALL_DATADIR}/zscenegraph/translations

@@ -28,6 +28,8 @@ if(INSTALLED)
     file(GLOB_RECURSE found LIST_DIRECTORIES false RELATIVE ${prefix} ${prefix}/*)
     list(FILTER found EXCLUDE REGEX "^share/(doc|zscenegraph/examples)/")
     list(TRANSFORM found REPLACE "Targets-(debug|release|relwithdebinfo|noconfig)" "Targets-CONFIG")
+    # Where the debugger's views stand follows the prefix that was configured.
+    list(TRANSFORM found REPLACE "gdb/auto-load/.*/" "gdb/auto-load/")
     string(REPLACE ".${VERSION}" ".VERSION" found "${found}")
     file(STRINGS ${INSTALLED} expected)
     set(unexpected ${found})
