@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QMessageBox>
+#include <QTest>
 #include <QTimer>
 
 #include <sstream>
@@ -21,6 +22,8 @@ void WindowScene::SetUp() {
     ASSERT_EQ(document.open(inFolder("scene.json")), "");
     window.resize(1400, 900);
     window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window)); // or it happens in the middle of a drag
     settle();
     atStart_ = dump();
 }

@@ -6,6 +6,7 @@
 #include "workbench/app/palettes.h"
 #include "workbench/colors/ColorEditor.h"
 #include "workbench/colors/ColorsPanel.h"
+#include "workbench/colors/MultiColorPanel.h"
 #include "workbench/history/HistoryPanel.h"
 
 #include "zcore/ZUndoStack.h"
@@ -46,6 +47,7 @@ MainWindow::MainWindow(Document& document)
             [this](QString const& text) { statusBar()->showMessage(text, messageTime); });
     connect(&document, &Document::stateChanged, this, &MainWindow::showState);
     showState();
+    arrange();
     firstLayout_ = saveState();
 }
 
@@ -104,9 +106,19 @@ void MainWindow::makePanels() {
     auto* const editor = new ColorEditor(scene);
     connect(colours, &ColorsPanel::currentChanged, editor, &ColorEditor::setColor);
     addPanel("colours", tr("Colours"), Qt::LeftDockWidgetArea, colours);
+    auto* const multi = new MultiColorPanel(scene);
+    connect(colours, &ColorsPanel::currentChanged, multi, &MultiColorPanel::setColor);
+    addPanel("multicolour", tr("Multi-Colour"), Qt::LeftDockWidgetArea, multi);
     addPanel("coloreditor", tr("Colour Editor"), Qt::RightDockWidgetArea, editor);
     addPanel("history", tr("History"), Qt::RightDockWidgetArea, new HistoryPanel(scene));
     addPanel("console", tr("Console"), Qt::BottomDockWidgetArea, new ConsolePanel(document_));
+}
+
+void MainWindow::arrange() {
+    resizeDocks({docks_["colours"], docks_["console"], docks_["coloreditor"]}, {30, 45, 25},
+                Qt::Horizontal);
+    resizeDocks({docks_["colours"], docks_["multicolour"]}, {60, 40}, Qt::Vertical);
+    resizeDocks({docks_["coloreditor"], docks_["history"]}, {70, 30}, Qt::Vertical);
 }
 
 void MainWindow::makeEditMenu() {
@@ -174,6 +186,7 @@ void MainWindow::resetLayout() {
         dock->show();
     }
     restoreState(firstLayout_);
+    arrange();
 }
 
 void MainWindow::walkPanels(int step) {

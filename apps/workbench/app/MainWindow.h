@@ -42,6 +42,7 @@ protected:
 private:
     void addPanel(QString const& name, QString const& title, Qt::DockWidgetArea area, Panel* panel);
     void makePanels();
+    void arrange();
     void makeEditMenu();
     void makeViewMenu();
     void resetLayout();

@@ -35,6 +35,10 @@ void ColorDelegate::paint(QPainter* painter, QStyleOptionViewItem const& option,
     initStyleOption(&item, index);
     QString const text = std::exchange(item.text, QString());
     QStyle const* const style = item.widget ? item.widget->style() : QApplication::style();
+    if ((item.state & QStyle::State_Selected) != 0) {
+        // All of it: styles mark the ground of the text only, and here is none for them.
+        painter->fillRect(item.rect, item.palette.brush(QPalette::Normal, QPalette::Highlight));
+    }
     style->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
     nyx::ColorId const id = idOf_(index);
     if (!id.isValid()) {
