@@ -6,6 +6,7 @@
 #include "workbench/app/palettes.h"
 #include "workbench/colors/ColorEditor.h"
 #include "workbench/colors/ColorsPanel.h"
+#include "workbench/colors/ColorwaysPanel.h"
 #include "workbench/colors/MultiColorPanel.h"
 #include "workbench/history/HistoryPanel.h"
 
@@ -111,13 +112,16 @@ void MainWindow::makePanels() {
     addPanel("multicolour", tr("Multi-Colour"), Qt::LeftDockWidgetArea, multi);
     addPanel("coloreditor", tr("Colour Editor"), Qt::RightDockWidgetArea, editor);
     addPanel("history", tr("History"), Qt::RightDockWidgetArea, new HistoryPanel(scene));
+    addPanel("colorways", tr("Colorways"), Qt::BottomDockWidgetArea, new ColorwaysPanel(scene));
     addPanel("console", tr("Console"), Qt::BottomDockWidgetArea, new ConsolePanel(document_));
 }
 
 void MainWindow::arrange() {
-    resizeDocks({docks_["colours"], docks_["console"], docks_["coloreditor"]}, {30, 45, 25},
+    splitDockWidget(docks_["colorways"], docks_["console"], Qt::Vertical);
+    resizeDocks({docks_["colours"], docks_["colorways"], docks_["coloreditor"]}, {30, 45, 25},
                 Qt::Horizontal);
     resizeDocks({docks_["colours"], docks_["multicolour"]}, {60, 40}, Qt::Vertical);
+    resizeDocks({docks_["colorways"], docks_["console"]}, {65, 35}, Qt::Vertical);
     resizeDocks({docks_["coloreditor"], docks_["history"]}, {70, 30}, Qt::Vertical);
 }
 

@@ -1,0 +1,208 @@
+#include "workbench/colors/ColorwaysPanel.h"
+
+#include "workbench/colors/ColorDelegate.h"
+#include "workbench/colors/ColorwayModel.h"
+#include "workbench/colors/swatch.h"
+#include "workbench/scene/Scene.h"
+
+#include "zsg/colors/ColorController.h"
+#include "zsg/colors/ColorDB.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QInputDialog>
+#include <QMenu>
+#include <QPainter>
+#include <QTableView>
+#include <QToolButton>
+
+namespace workbench {
+
+namespace {
+
+QIcon swatchIcon(Swatch const& swatch, int side) {
+    QPixmap pixmap(side, side);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    paintSwatch(painter, pixmap.rect(), swatch);
+    return pixmap;
+}
+
+} // namespace
+
+ColorwaysPanel::ColorwaysPanel(Scene& scene, QWidget* parent)
+    : Panel(parent),
+      scene_(scene),
+      model_(new ColorwayModel(scene, this)),
+      view_(new QTableView(this)) {
+    view_->setObjectName("colorwayTable");
+    view_->setAccessibleName(tr("Colorways"));
+    view_->setModel(model_);
+    view_->setSelectionMode(QAbstractItemView::SingleSelection);
+    view_->setTabKeyNavigation(false);
+    view_->setItemDelegate(new ColorDelegate(
+        scene, ColorDelegate::Form::Cell,
+        [this](QModelIndex const& index) { return model_->subAt(index); }, view_));
+    // Fixed sizes: a table of any size asks for what is seen only.
+    int const line = fontMetrics().height();
+    view_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    view_->verticalHeader()->setDefaultSectionSize(2 * line);
+    view_->verticalHeader()->setFixedWidth(9 * line);
+    view_->horizontalHeader()->setDefaultSectionSize(9 * line);
+    view_->horizontalHeader()->setHighlightSections(false);
+    view_->horizontalHeader()->setContextMenuPolicy(Qt::ActionsContextMenu);
+    view_->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(view_, &QAbstractItemView::activated, this, &ColorwaysPanel::chooseForCell);
+    setFocusProxy(view_);
+    auto* const bar = new QHBoxLayout;
+    makeActions(*bar);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(bar);
+    layout->addWidget(view_, 1);
+}
+
+void ColorwaysPanel::makeActions(QHBoxLayout& bar) {
+    auto const add = [&](QString const& text, char const* name, QKeySequence const& keys,
+                         auto method) {
+        auto* const action = new QAction(text, this);
+        action->setObjectName(name);
+        action->setShortcut(keys);
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        connect(action, &QAction::triggered, this, method);
+        addAction(action);
+        view_->addAction(action);
+        view_->horizontalHeader()->addAction(action);
+        auto* const button = new QToolButton(this);
+        button->setDefaultAction(action);
+        bar.addWidget(button);
+    };
+    add(tr("Apply"), "applyColorway", QKeySequence("Ctrl+Return"), &ColorwaysPanel::apply);
+    add(tr("New"), "newColorway", QKeySequence("Ctrl+N"), [this] { create(false); });
+    add(tr("Duplicate"), "duplicateColorway", QKeySequence("Ctrl+D"), [this] { create(true); });
+    add(tr("Rename"), "renameColorway", QKeySequence("F2"), &ColorwaysPanel::rename);
+    add(tr("Delete or Restore"), "deleteColorway", QKeySequence::Delete,
+        &ColorwaysPanel::toggleDeleted);
+    auto* const deleted = new QToolButton(this);
+    deleted->setObjectName("showDeletedColorways");
+    deleted->setText(tr("Show Deleted"));
+    deleted->setCheckable(true);
+    connect(deleted, &QToolButton::toggled, model_, &ColorwayModel::setShowDeleted);
+    bar.addStretch();
+    bar.addWidget(deleted);
+}
+
+int ColorwaysPanel::rowCount() const { return model_->rowCount(); }
+
+bool ColorwaysPanel::select(QString const& text) {
+    for (int i = 0; i < model_->columnCount(); ++i) {
+        if (model_->headerData(i, Qt::Horizontal, Qt::DisplayRole) == text) {
+            view_->setCurrentIndex(model_->index(0, i));
+            return true;
+        }
+    }
+    return false;
+}
+
+int ColorwaysPanel::column() const { return view_->currentIndex().column(); }
+
+nyx::ColorwayId ColorwaysPanel::current() const { return model_->colorwayAt(column()); }
+
+void ColorwaysPanel::setCell(QModelIndex const& cell, nyx::ColorId sub) {
+    nyx::ColorwayId const colorway = model_->colorwayAt(cell.column());
+    nyx::ColorId const multi = model_->multiAt(cell.row());
+    if (!scene_.colorController() || !colorway.isValid() || sub == model_->subAt(cell)) {
+        return;
+    }
+    scene_.endDrags();
+    if (sub.isValid()) {
+        scene_.colorController()->addColors(colorway, {zsg::MultiColorPair{multi, sub}}, -1, true);
+    } else {
+        scene_.colorController()->removeMultiColors(colorway, {multi});
+    }
+}
+
+void ColorwaysPanel::chooseForCell(QModelIndex const& cell) {
+    zsg::ColorDB* const db = scene_.colorDB();
+    auto const* const edit = db ? db->getColorParameters(model_->multiAt(cell.row())) : nullptr;
+    if (!edit) {
+        return;
+    }
+    auto const subs = edit->subColors();
+    std::vector<nyx::ColorId> const ids(subs.begin(), subs.end());
+    QMenu menu;
+    for (nyx::ColorId const id : ids) {
+        Swatch const swatch = swatchOf(db, id);
+        QAction* const action = menu.addAction(swatchIcon(swatch, fontMetrics().height()),
+                                               shownName(swatch.name).replace('&', "&&"));
+        action->setCheckable(true);
+        action->setChecked(id == model_->subAt(cell));
+        connect(action, &QAction::triggered, this, [this, cell, id] { setCell(cell, id); });
+    }
+    menu.addSeparator();
+    menu.addAction(tr("Leave It as It Is"), this, [this, cell] { setCell(cell, {}); });
+    menu.exec(view_->viewport()->mapToGlobal(view_->visualRect(cell).bottomLeft()));
+}
+
+void ColorwaysPanel::create(bool asCopy) {
+    zsg::ColorDB* const db = scene_.colorDB();
+    if (!db) {
+        return;
+    }
+    scene_.endDrags();
+    std::vector<zsg::MultiColorPair> pairs;
+    for (int row = 0; row < model_->rowCount(); ++row) {
+        nyx::ColorId const multi = model_->multiAt(row);
+        nyx::ColorId sub;
+        if (asCopy) {
+            sub = model_->subAt(model_->index(row, column()));
+        } else if (auto const* const edit = db->getColorParameters(multi)) {
+            sub = edit->activeSub();
+        }
+        if (sub.isValid()) {
+            pairs.push_back({multi, sub});
+        }
+    }
+    std::string const name =
+        asCopy
+            ? tr("%1 copy").arg(QString::fromStdString(db->colorwayName(current()))).toStdString()
+            : tr("Colorway").toStdString();
+    if (asCopy && !current().isValid()) {
+        return;
+    }
+    scene_.colorController()->createColorway(name, pairs);
+    scene_.flush();
+    view_->setCurrentIndex(model_->index(0, model_->columnCount() - 1));
+}
+
+void ColorwaysPanel::apply() {
+    if (current().isValid()) {
+        scene_.endDrags();
+        scene_.colorController()->applyColorway(current());
+    }
+}
+
+void ColorwaysPanel::rename() {
+    nyx::ColorwayId const id = current();
+    if (!id.isValid()) {
+        return;
+    }
+    QString const before = QString::fromStdString(scene_.colorDB()->colorwayName(id));
+    bool accepted = false;
+    QString const name = QInputDialog::getText(this, tr("Rename the Colorway"), tr("Name"),
+                                               QLineEdit::Normal, before, &accepted);
+    if (accepted && name != before && scene_.colorController()) {
+        scene_.colorController()->setDisplayName(id, name.toStdString());
+    }
+}
+
+void ColorwaysPanel::toggleDeleted() {
+    nyx::ColorwayId const id = current();
+    if (id.isValid()) {
+        scene_.endDrags();
+        scene_.colorController()->setDeleted(id, !model_->isDeleted(column()));
+    }
+}
+
+} // namespace workbench
