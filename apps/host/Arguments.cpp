@@ -15,7 +15,8 @@ T parse(std::string const& word, char const* expected) {
     T value{};
     auto const [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
     if (error != std::errc() || end != word.data() + word.size()) {
-        throw CommandError("expected " + std::string(expected) + ", found \"" + word + "\"");
+        throw CommandError("expected " + std::string(expected) + ", found \"" + word + "\"",
+                           "usage");
     }
     return value;
 }
@@ -58,7 +59,7 @@ std::vector<std::string> splitWords(std::string_view line) {
                 ++i;
             }
             if (i == line.size()) {
-                throw CommandError("a double quote is not closed");
+                throw CommandError("a double quote is not closed", "usage");
             }
             ++i;
         }
@@ -98,7 +99,7 @@ std::size_t invalidUtf8At(std::string_view text) {
 
 std::string Arguments::word(char const* expected) {
     if (empty()) {
-        throw CommandError("expected " + std::string(expected));
+        throw CommandError("expected " + std::string(expected), "usage");
     }
     return words_[next_++];
 }
@@ -115,7 +116,7 @@ std::string Arguments::oneOf(std::initializer_list<char const*> choices) {
             return found;
         }
     }
-    throw CommandError("expected " + expected + ", found \"" + found + "\"");
+    throw CommandError("expected " + expected + ", found \"" + found + "\"", "usage");
 }
 
 int Arguments::integer(char const* expected) { return parse<int>(word(expected), expected); }
@@ -145,7 +146,7 @@ std::vector<std::string> Arguments::rest() {
 
 void Arguments::done() const {
     if (!empty()) {
-        throw CommandError("unexpected \"" + peek() + "\"");
+        throw CommandError("unexpected \"" + peek() + "\"", "usage");
     }
 }
 

@@ -11,7 +11,14 @@ namespace app {
 /// Why a command could not be carried out; the text is for the person who typed it.
 class CommandError : public std::runtime_error {
 public:
-    using std::runtime_error::runtime_error;
+    /// The code is for programs: a literal, in the words of `failed`, `usage` and the like.
+    explicit CommandError(std::string const& text, char const* code = "failed")
+        : std::runtime_error(text), code_(code) {}
+
+    [[nodiscard]] char const* code() const { return code_; }
+
+private:
+    char const* code_;
 };
 
 /// Splits a line into words at blanks. Double quotes keep blanks together; inside them \" \\ \n

@@ -100,7 +100,7 @@ void carryOut(Host& host, std::vector<std::string> const& words) {
         if (isFamily && words.size() == 1) {
             return carryOut(host, {"help", words[0]});
         }
-        throw CommandError(unknown(words, isFamily));
+        throw CommandError(unknown(words, isFamily), "unknown-command");
     }
     Arguments arguments({words.begin() + static_cast<std::ptrdiff_t>(used), words.end()});
     try {
@@ -111,7 +111,9 @@ void carryOut(Host& host, std::vector<std::string> const& words) {
         arguments.done();
     } catch (std::exception const& error) {
         host.pump();
-        throw CommandError(std::string(command->name) + ": " + error.what());
+        auto const* const ours = dynamic_cast<CommandError const*>(&error);
+        throw CommandError(std::string(command->name) + ": " + error.what(),
+                           ours ? ours->code() : "failed");
     }
     host.pump();
 }

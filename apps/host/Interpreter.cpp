@@ -36,6 +36,17 @@ std::string withSwatches(std::string const& text) {
     return result + text.substr(done);
 }
 
+// Without what a library puts in front for its own developers.
+std::string message(std::exception const& error) {
+    std::string text = error.what();
+    std::size_t const begin = text.find("[json.exception.");
+    std::size_t const end = text.find("] ", std::min(begin, text.size()));
+    if (end != std::string::npos && begin != std::string::npos) {
+        text.erase(begin, end + 2 - begin);
+    }
+    return printable(text, longestMessage);
+}
+
 void echoLine(std::ostream& out, std::string_view line) {
     std::size_t const first = line.find_first_not_of(" \t\r");
     bool const isCommand = first != std::string_view::npos && line[first] != '#';
@@ -64,18 +75,22 @@ void Interpreter::run(std::vector<std::string> const& words) {
     std::ostringstream captured;
     host_.setOut(captured);
     std::string failure;
+    char const* code = "failed";
     try {
         if (!own_ || !own_(words)) {
             carryOut(host_, words);
         }
+    } catch (CommandError const& error) {
+        failure = message(error);
+        code = error.code();
     } catch (std::exception const& error) {
-        failure = printable(error.what(), longestMessage);
+        failure = message(error);
     }
     host_.setOut(out);
     std::string const text = printableLines(captured.view());
     out << (swatches_ ? withSwatches(text) : text);
     if (!failure.empty()) {
-        throw CommandError(failure);
+        throw CommandError(failure, code);
     }
     // Several expectations may look at the output of one command.
     if (words[0] != "expect") {

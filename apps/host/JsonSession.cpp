@@ -1,9 +1,12 @@
 #include "host/JsonSession.h"
 
 #include "host/Arguments.h"
+#include "host/CommandResult.h"
 #include "host/Host.h"
 #include "host/Interpreter.h"
 #include "host/LineReader.h"
+
+#include "zsg/version.h"
 
 #include <nlohmann/json.hpp>
 
@@ -19,33 +22,50 @@ using Json = nlohmann::ordered_json;
 // Copying, writing and comparing a value go as deep as it is nested.
 Json parse(std::string const& line) {
     constexpr int deepest = 64;
-    return Json::parse(line, [](int depth, Json::parse_event_t, Json&) {
-        if (depth > deepest) {
-            throw CommandError("nested deeper than " + std::to_string(deepest));
-        }
-        return true;
-    });
+    try {
+        return Json::parse(line, [](int depth, Json::parse_event_t, Json&) {
+            if (depth > deepest) {
+                throw CommandError("nested deeper than " + std::to_string(deepest), "bad-json");
+            }
+            return true;
+        });
+    } catch (Json::exception const& error) {
+        std::string const text = error.what(); // "[json.exception...] what"
+        throw CommandError(text.substr(text.find("] ") + 2), "bad-json");
+    }
+}
+
+// A word of a list: numbers and truths are written as people type them.
+std::string wordOf(Json const& word) {
+    if (word.is_boolean()) {
+        return word.get<bool>() ? "on" : "off";
+    }
+    if (word.is_number()) {
+        return word.dump();
+    }
+    if (!word.is_string()) {
+        throw CommandError("expected \"command\" to hold texts, numbers and truths only",
+                           "bad-request");
+    }
+    return word.get<std::string>();
 }
 
 void runRequest(Interpreter& interpreter, Json const& request) {
     auto const command = request.is_object() ? request.find("command") : request.end();
     if (!request.is_object() || command == request.end()) {
-        throw CommandError("expected an object with \"command\"");
+        throw CommandError("expected an object with \"command\"", "bad-request");
     }
     if (command->is_string()) {
         return interpreter.run(std::string_view(command->get_ref<std::string const&>()));
     }
-    std::vector<std::string> words;
-    if (command->is_array()) {
-        for (Json const& word : *command) {
-            if (!word.is_string()) {
-                throw CommandError("expected \"command\" to hold texts only");
-            }
-            words.push_back(word.get<std::string>());
-        }
-        return interpreter.run(words);
+    if (!command->is_array()) {
+        throw CommandError("expected \"command\" to be a text or a list of words", "bad-request");
     }
-    throw CommandError("expected \"command\" to be a text or a list of texts");
+    std::vector<std::string> words;
+    for (Json const& word : *command) {
+        words.push_back(wordOf(word));
+    }
+    interpreter.run(words);
 }
 
 Json lines(std::string const& text) {
@@ -57,54 +77,88 @@ Json lines(std::string const& text) {
     return list;
 }
 
+// ASCII only: whoever reads it decodes the names, and a terminal obeys nothing in them. Names of a
+// scene are UTF-8; what is not is shown as the replacement character.
+void write(std::ostream& out, Json const& line) {
+    out << line.dump(-1, ' ', true, Json::error_handler_t::replace) << std::endl;
+}
+
+Json greeting(Host& host) {
+    return {{"program", "zsg-console"},
+            {"version", zsg::version()},
+            {"protocol", 1},
+            {"scene", host.path()},
+            {"capabilities", {"events", "numbers", "result", "undo"}}};
+}
+
+Json undoState(ZUndoStack const& stack) {
+    return {{"undo", stack.index()},
+            {"redo", stack.count() - stack.index()},
+            {"clean", stack.isClean()},
+            {"text", stack.index() > 0 ? stack.text(stack.index() - 1).toStdString() : ""}};
+}
+
+Json eventList(EventLog const& log) {
+    Json events = Json::array();
+    for (EventLog::Entry const& event : log.entries()) {
+        events.push_back({{"id", event.id}, {"type", event.typeText}, {"payload", event.payload}});
+    }
+    return events;
+}
+
 } // namespace
 
 int runJsonSession(Interpreter& interpreter, Host& host, std::istream& in, std::ostream& out) {
     bool failed = false;
     host.showEvents(EventPrinter::Show::Nothing);
+    auto& result = host.state<CommandResult>();
+    result.isWanted = true;
+    write(out, greeting(host));
     std::string line;
     while (!host.endRequested()) {
-        ReadResult const result = readLine(in, line);
-        if (result == ReadResult::End) {
+        ReadResult const read = readLine(in, line);
+        if (read == ReadResult::End) {
             break;
         }
         std::ostringstream output;
         host.setOut(output);
         host.events().clear();
+        result.value = nullptr;
         Json answer = Json::object();
-        std::string error;
+        Json error;
         try {
-            if (result == ReadResult::TooLong) {
+            if (read == ReadResult::TooLong) {
                 throw CommandError("the line is longer than " + std::to_string(longestLine) +
-                                   " bytes");
+                                       " bytes",
+                                   "too-long");
             }
             Json const request = parse(line);
             if (request.is_object() && request.contains("id")) {
                 answer["id"] = request["id"];
             }
             runRequest(interpreter, request);
+        } catch (CommandError const& e) {
+            error = {{"code", e.code()}, {"message", e.what()}};
         } catch (std::exception const& e) {
-            error = e.what();
+            error = {{"code", "failed"}, {"message", e.what()}};
         }
         host.setOut(out);
-        failed = failed || !error.empty();
-        answer["ok"] = error.empty();
-        if (!error.empty()) {
-            answer["error"] = error;
+        failed = failed || !error.is_null();
+        answer["ok"] = error.is_null();
+        if (!error.is_null()) {
+            answer["error"] = std::move(error);
+        } else if (!result.value.is_null()) {
+            answer["result"] = std::move(result.value);
         }
         answer["output"] = lines(output.str());
-        Json events = Json::array();
-        for (EventLog::Entry const& event : host.events().entries()) {
-            events.push_back(
-                {{"id", event.id}, {"type", event.typeText}, {"payload", event.payload}});
-        }
-        answer["events"] = std::move(events);
-        // Names of a scene are UTF-8; what is not is shown as the replacement character.
-        out << answer.dump(-1, ' ', false, Json::error_handler_t::replace) << std::endl;
-        if (result == ReadResult::TooLong) {
+        answer["undo"] = undoState(host.undoStack());
+        answer["events"] = eventList(host.events());
+        write(out, answer);
+        if (read == ReadResult::TooLong) {
             skipLine(in);
         }
     }
+    result.isWanted = false;
     return failed ? 1 : 0;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Arguments.h"
+#include "host/CommandResult.h"
 #include "host/Host.h"
 #include "host/printable.h"
 
@@ -37,8 +38,10 @@ void keepNamed(Host& host, std::string const& name, T value) {
 /// The command that lists the names.
 template <class T>
 void listNamed(Host& host, Arguments&) {
-    for (auto const& [name, value] : host.state<NamedValues<T>>().byName) {
-        host.out() << "  " << printable(name) << '\n';
+    beginResultList(host);
+    for (auto const& entry : host.state<NamedValues<T>>().byName) {
+        host.out() << "  " << printable(entry.first) << '\n';
+        addResult(host, [&] { return nlohmann::ordered_json(entry.first); });
     }
 }
 

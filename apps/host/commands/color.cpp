@@ -1,9 +1,11 @@
 #include "host/ColorArguments.h"
 #include "host/Command.h"
+#include "host/CommandResult.h"
 #include "host/Host.h"
 #include "host/pictures/PictureFile.h"
 #include "host/pictures/colorCards.h"
 #include "host/printable.h"
+#include "host/sRGB.h"
 
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
@@ -21,9 +23,29 @@ zsg::ColorController& controller(Host& host) { return *host.root().colorControll
 
 constexpr int mostSteps = 100'000;
 
+nlohmann::ordered_json colorResult(Host& host, nyx::ColorId id) {
+    ZColorExt const color = db(host).colorFromId(id);
+    nyxColor_rgba const c = color.rgba();
+    nlohmann::ordered_json result = {{"id", id.toUint()},
+                                     {"name", color.getColorName()},
+                                     {"srgb", hexColorWithAlpha(c)},
+                                     {"linear", {c.r, c.g, c.b, c.a}}};
+    if (color.isMultiColor()) {
+        auto& subs = result["subColors"] = nlohmann::ordered_json::array();
+        for (int i = 0; i < color.nColors(); ++i) {
+            subs.push_back({{"id", color.getSubColorId(i).toUint()},
+                            {"name", color.getName(i)},
+                            {"active", i == color.activeIndex()}});
+        }
+    }
+    return result;
+}
+
 void printAll(Host& host, std::vector<nyx::ColorId> const& ids) {
+    beginResultList(host);
     for (nyx::ColorId const id : ids) {
         host.out() << "  " << colorLine(host, id) << '\n';
+        addResult(host, [&] { return colorResult(host, id); });
     }
 }
 
@@ -50,6 +72,12 @@ void show(Host& host, Arguments& arguments) {
                << ' ' << c.a << "\n  changes " << edit->revision()
                << (edit->isModified() ? ", not committed" : "") << "\n  references "
                << db(host).totalSceneReferenceCount(id) << '\n';
+    giveResult(host, [&] {
+        auto result = colorResult(host, id);
+        result["changes"] = edit->revision();
+        result["references"] = db(host).totalSceneReferenceCount(id);
+        return result;
+    });
     std::vector<nyx::ColorId> const subs(edit->subColors().begin(), edit->subColors().end());
     nyx::ColorId const active = edit->activeSub();
     for (nyx::ColorId const sub : subs) {

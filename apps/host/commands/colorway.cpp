@@ -1,5 +1,6 @@
 #include "host/ColorArguments.h"
 #include "host/Command.h"
+#include "host/CommandResult.h"
 #include "host/Host.h"
 #include "host/pictures/PictureFile.h"
 #include "host/pictures/colorCards.h"
@@ -20,10 +21,18 @@ zsg::ColorDB& db(Host& host) { return *host.root().colorDB(); }
 zsg::ColorController& controller(Host& host) { return *host.root().colorController(); }
 
 void list(Host& host, Arguments&) {
+    beginResultList(host);
     auto const span = db(host).colorways();
     std::vector<nyx::ColorwayId> const ids(span.begin(), span.end());
     for (nyx::ColorwayId const id : ids) {
         if (zsg::ZColorwayEdit const* const edit = db(host).getColorwayParameters(id)) {
+            addResult(host, [&] {
+                return nlohmann::ordered_json{{"id", id.toUint()},
+                                              {"name", edit->displayName()},
+                                              {"multiColors", edit->multiColors().size()},
+                                              {"active", edit->isActive()},
+                                              {"deleted", edit->isDeleted()}};
+            });
             host.out() << (edit->isActive() ? "  * " : "    ") << id.toUint() << ' '
                        << printable(edit->displayName()) << ", " << edit->multiColors().size()
                        << " multi-colours" << (edit->isDeleted() ? ", deleted" : "") << '\n';
@@ -43,6 +52,17 @@ void show(Host& host, Arguments& arguments) {
                                          edit->activeSubIndices().end());
     host.out() << "  " << printable(edit->displayName()) << (edit->isActive() ? ", active" : "")
                << (edit->isDeleted() ? ", deleted" : "") << '\n';
+    giveResult(host, [&] {
+        auto pairs = nlohmann::ordered_json::array();
+        for (std::size_t i = 0; i < multis.size(); ++i) {
+            pairs.push_back({{"multi", multis[i].toUint()}, {"sub", subs[i].toUint()}});
+        }
+        return nlohmann::ordered_json{{"id", id.toUint()},
+                                      {"name", edit->displayName()},
+                                      {"active", edit->isActive()},
+                                      {"deleted", edit->isDeleted()},
+                                      {"pairs", pairs}};
+    });
     for (std::size_t i = 0; i < multis.size(); ++i) {
         host.out() << "    " << printable(db(host).colorFromId(multis[i]).getColorName()) << ": "
                    << colorLine(host, subs[i]) << '\n';

@@ -1,3 +1,4 @@
+#include "host/CommandResult.h"
 #include "host/CommandTable.h"
 #include "host/Host.h"
 #include "host/printable.h"
@@ -56,6 +57,7 @@ void help(Host& host, Arguments& arguments) {
     for (std::string const& word : arguments.rest()) {
         wanted += (wanted.empty() ? "" : " ") + word;
     }
+    beginResultList(host);
     if (wanted.empty()) {
         return overview(host.out());
     }
@@ -67,6 +69,12 @@ void help(Host& host, Arguments& arguments) {
     std::vector<std::pair<std::string, std::string_view>> rows;
     for (Command const* command : allCommands()) {
         if (wanted == "all" || (isWords ? hasWords(command) : command->name.starts_with(wanted))) {
+            addResult(host, [&] {
+                return nlohmann::ordered_json{{"name", command->name},
+                                              {"arguments", command->arguments},
+                                              {"help", command->help},
+                                              {"example", command->example}};
+            });
             rows.emplace_back(std::string(command->name) + (command->arguments.empty() ? "" : " ") +
                                   std::string(command->arguments),
                               command->help);

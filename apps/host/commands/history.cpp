@@ -1,4 +1,5 @@
 #include "host/Command.h"
+#include "host/CommandResult.h"
 #include "host/Host.h"
 #include "host/printable.h"
 
@@ -10,7 +11,13 @@ namespace {
 
 void list(Host& host, Arguments&) {
     ZUndoStack const& stack = host.undoStack();
+    beginResultList(host);
     for (int i = 0; i < stack.count(); ++i) {
+        addResult(host, [&] {
+            return nlohmann::ordered_json{{"text", stack.text(i).toStdString()},
+                                          {"done", i < stack.index()},
+                                          {"saved", i + 1 == stack.cleanIndex()}};
+        });
         host.out() << (i < stack.index() ? "  done   " : "  undone ") << i + 1 << ' '
                    << printable(stack.text(i).toStdString())
                    << (i + 1 == stack.cleanIndex() ? " *" : "") << '\n';

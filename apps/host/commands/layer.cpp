@@ -2,6 +2,7 @@
 
 #include "host/ColorArguments.h"
 #include "host/Command.h"
+#include "host/CommandResult.h"
 #include "host/Host.h"
 #include "host/PaintState.h"
 #include "host/printable.h"
@@ -31,7 +32,17 @@ void print(Host& host, nyxLayerInfo const& layer, unsigned index) {
 
 void list(Host& host, Arguments&) {
     unsigned index = 0;
+    beginResultList(host);
     for (nyxLayerInfo const& layer : currentSurface(host).layers()) {
+        addResult(host, [&] {
+            return nlohmann::ordered_json{{"index", index},
+                                          {"name", layer.name ? layer.name : ""},
+                                          {"blend", blendModeName(layer.blend_mode)},
+                                          {"background", hexColorWithAlpha(layer.background)},
+                                          {"visible", layer.visible},
+                                          {"deleted", layer.deleted},
+                                          {"edited", index == currentSurface(host).editLayer()}};
+        });
         print(host, layer, index++);
     }
 }

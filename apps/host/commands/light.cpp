@@ -1,4 +1,5 @@
 #include "host/Command.h"
+#include "host/CommandResult.h"
 #include "host/Host.h"
 #include "host/LightArguments.h"
 
@@ -13,9 +14,17 @@ namespace {
 
 void list(Host& host, Arguments&) {
     nyx::embedded::Items const& items = host.renderer().items();
+    beginResultList(host);
     for (nyx::GroupItemId const id : items.ids()) {
         auto const item = items.record(id);
         if (item->isLight()) {
+            addResult(host, [&] {
+                return nlohmann::ordered_json{
+                    {"id", id.toUint()},
+                    {"name", item->name},
+                    {"layer", items.lightLayer(nyx::ObjectId(id.toUint())).toUint()},
+                    {"unlisted", item->unlisted}};
+            });
             host.out() << "  " << itemLine(host, id)
                        << (item->parent.isValid() ? " in " + items.record(item->parent)->name : "")
                        << ", layer "

@@ -1,4 +1,5 @@
 #include "host/Command.h"
+#include "host/CommandResult.h"
 #include "host/Host.h"
 #include "host/LightArguments.h"
 #include "host/pictures/LightMatrix.h"
@@ -24,8 +25,15 @@ void printLayer(Host& host, nyx::LightLayerId layer) {
 
 void list(Host& host, Arguments&) {
     zsg::ILightLayerApi const& api = lightLayers(host);
+    beginResultList(host);
     for (nyx::LightLayerId const id : api.layers()) {
         std::size_t const lights = api.lights(id).size();
+        addResult(host, [&] {
+            return nlohmann::ordered_json{{"id", id.toUint()},
+                                          {"name", api.layerName(id)},
+                                          {"flags", api.flags(id).bits()},
+                                          {"lights", lights}};
+        });
         host.out() << "  " << layerLine(host, id) << ": " << lights
                    << (lights == 1 ? " light\n" : " lights\n");
     }

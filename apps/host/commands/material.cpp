@@ -1,6 +1,7 @@
 // What materials say of themselves: drafts of their descriptions, and applying those.
 
 #include "host/Command.h"
+#include "host/CommandResult.h"
 #include "host/DescribeMaterialCommand.h"
 #include "host/Host.h"
 #include "host/printable.h"
@@ -110,7 +111,13 @@ nlohmann::json readValue(std::string const& text) {
 
 void list(Host& host, Arguments&) {
     auto const& drafts = host.sceneState<Drafts>().byMaterial;
+    beginResultList(host);
     for (nyx::MaterialId const id : host.renderer().materials().ids()) {
+        addResult(host, [&] {
+            return nlohmann::ordered_json{{"id", id.toUint()},
+                                          {"name", host.renderer().materials().record(id)->name},
+                                          {"draft", drafts.contains(id)}};
+        });
         host.out() << "  " << id.toUint() << ' ' << nameOf(host, id)
                    << (drafts.contains(id) ? " (draft)" : "") << '\n';
     }

@@ -1,4 +1,5 @@
 #include "host/Command.h"
+#include "host/CommandResult.h"
 #include "host/Host.h"
 #include "host/KeptScenes.h"
 
@@ -8,7 +9,12 @@ namespace app {
 
 namespace {
 
-void show(Host& host, Arguments&) { host.out() << host.renderer().dump(); }
+void show(Host& host, Arguments&) {
+    host.out() << host.renderer().dump();
+    giveResult(host, [&] { // as a scene file has it
+        return nlohmann::ordered_json::parse(host.renderer().saveSceneText());
+    });
+}
 
 void load(Host& host, Arguments& arguments) {
     std::string const path = arguments.word("a path");

@@ -1,6 +1,7 @@
 // Painted surfaces.
 
 #include "host/Command.h"
+#include "host/CommandResult.h"
 #include "host/Host.h"
 #include "host/PaintState.h"
 #include "host/printable.h"
@@ -17,8 +18,17 @@ namespace {
 
 void list(Host& host, Arguments&) {
     auto const surfaces = painter(host).surfaces();
+    beginResultList(host);
     for (zsg::IPainterSurface* const surface : surfaces) {
         auto const info = host.renderer().painting().surface(surface->id());
+        addResult(host, [&] {
+            return nlohmann::ordered_json{{"id", surface->id().toUint()},
+                                          {"name", info ? info->name : ""},
+                                          {"resolution", info ? info->resolution : 0},
+                                          {"layers", surface->layers().size()},
+                                          {"current", surface == &currentSurface(host)},
+                                          {"deleted", surface->deleted()}};
+        });
         host.out() << (surface == &currentSurface(host) ? "  * " : "    ")
                    << surface->id().toUint();
         if (info) {

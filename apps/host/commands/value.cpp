@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <ostream>
+#include <sstream>
 
 namespace app {
 
@@ -20,6 +21,27 @@ Holder& take(Host& host, Arguments& arguments) {
 
 void print(Host& host, zsg::Variant const& value) {
     host.out() << "  " << zsg::typeName(value.type()) << ' ' << value << '\n';
+}
+
+// Numbers, texts and truths as such; of the other types what is printed.
+nlohmann::ordered_json valueResult(zsg::Variant const& value) {
+    switch (value.type()) {
+    case zsg::Type::Boolean:
+        return *zsg::tryGet<bool>(value);
+    case zsg::Type::Integer:
+        return *zsg::tryGet<int>(value);
+    case zsg::Type::Float:
+        return *zsg::tryGet<float>(value);
+    case zsg::Type::Double:
+        return *zsg::tryGet<double>(value);
+    case zsg::Type::String:
+        return zsg::tryGet<QString>(value)->toStdString();
+    default:
+        break;
+    }
+    std::ostringstream text;
+    text << value;
+    return text.str();
 }
 
 void make(Host& host, Arguments& arguments) {
@@ -43,6 +65,10 @@ void show(Host& host, Arguments& arguments) {
     Holder const holder = take(host, arguments);
     arguments.done();
     print(host, *holder);
+    giveResult(host, [&] {
+        return nlohmann::ordered_json{{"type", zsg::typeName(holder->type())},
+                                      {"value", valueResult(*holder)}};
+    });
 }
 
 void hash(Host& host, Arguments& arguments) {
