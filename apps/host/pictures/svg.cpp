@@ -3,6 +3,7 @@
 #include "host/pictures/rasterPng.h"
 
 #include <QByteArray>
+#include <QString>
 
 #include <algorithm>
 #include <cmath>
@@ -131,7 +132,7 @@ private:
         if (!gradient) {
             return {};
         }
-        std::string const name = "g" + std::to_string(++gradients_);
+        std::string name = "g" + std::to_string(++gradients_);
         body_ += "<linearGradient id=\"" + name + "\" gradientUnits=\"userSpaceOnUse\"";
         attribute("x1", gradient->from.x);
         attribute("y1", gradient->from.y);
