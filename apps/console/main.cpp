@@ -39,6 +39,7 @@ std::optional<int> readOptions(Options& options) {
         "works on it by commands.",
         "zsg-console");
     parser.add_option("SCENE", options.scene, "scene file (JSON)");
+    parser.allow_windows_style_options(false); // "/folder/scene.json" is a path there too
     parser.require_subcommand(0, 1);
     parser.set_version_flag("--version", std::string("zsg-console ") + zsg::version());
     auto* const script = parser.add_option("--script", options.script,

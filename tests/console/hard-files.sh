@@ -61,6 +61,7 @@ if [[ -n ${WINEPREFIX-} ]]; then # another drive, which Wine takes from a link
     ln -sfn "$work" "$WINEPREFIX/dosdevices/x:"
     cp -r original drive
     session drive drive X:/drive
+    rm "$WINEPREFIX/dosdevices/x:" # else this folder is X: from now on
 fi
 
 # A locale with a decimal comma, which a program with Qt takes over from the environment.

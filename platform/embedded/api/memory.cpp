@@ -3,6 +3,7 @@
 #include "nyxrender/Unique_array.h"
 #include "store/Accounts.h"
 
+#include <cstdint>
 #include <cstdlib>
 #include <new>
 
@@ -25,7 +26,8 @@ namespace {
 
 #if defined(_WIN32)
 void* allocateAligned(std::size_t bytes, std::size_t alignment) {
-    return _aligned_malloc(bytes, alignment);
+    // It adds to the size, and not every one looks whether the sum still fits.
+    return bytes > SIZE_MAX / 2 ? nullptr : _aligned_malloc(bytes, alignment);
 }
 void freeAligned(void* memory) { _aligned_free(memory); }
 #else
