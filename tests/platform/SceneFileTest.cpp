@@ -216,7 +216,7 @@ TEST(SceneFile, FilesThatCannotBeReadOrWrittenLoseNothing) {
     std::string const path = folder.filePath("Scène.json").toStdString();
     std::string const folderPath = folder.path().toStdString();
     Renderer renderer;
-    EXPECT_EQ(renderer.loadScene(path), path + ": No such file or directory");
+    EXPECT_TRUE(renderer.loadScene(path).starts_with(path + ": ")); // in the words of the system
     EXPECT_EQ(renderer.loadScene(folderPath), folderPath + ": is a folder");
     EXPECT_NE(renderer.saveScene(folderPath + "/none/x.json"), "");
 
