@@ -39,9 +39,12 @@ x86_64-w64-mingw32-objdump -s -j .rsrc "${root}bin/zscenegraph.dll" | grep -q 'F
 
 scene=$source/examples/scenes/showroom.json
 "$wine" "${root}bin/zsg-console.exe" check "$scene"
-cmake -G Ninja -S "$source/tests/package/consumer" -B consumer -DCMAKE_BUILD_TYPE=Release \
+mkdir application
+cp "$source/tests/windows/application.txt" application/CMakeLists.txt
+cp "$source/examples/programs/first_steps.cpp" application
+cmake -G Ninja -S application -B built -DCMAKE_BUILD_TYPE=Release \
     -DCMAKE_TOOLCHAIN_FILE="$source/cmake/windows/toolchain.cmake" \
-    -Dzscenegraph_DIR="${root}lib/cmake/zscenegraph" >consumer.log
-cmake --build consumer >>consumer.log
-WINEPATH=${root}bin "$wine" consumer/consumer.exe "$scene" | grep -q '^37 colours, version ' ||
+    -Dzscenegraph_DIR="${root}lib/cmake/zscenegraph" >built.log
+cmake --build built >>built.log
+WINEPATH=${root}bin "$wine" built/application.exe "$scene" | grep -q '^42 colours synchronised' ||
     fail "the application says something else"
