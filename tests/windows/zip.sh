@@ -46,5 +46,5 @@ cmake -G Ninja -S application -B built -DCMAKE_BUILD_TYPE=Release \
     -DCMAKE_TOOLCHAIN_FILE="$source/cmake/windows/toolchain.cmake" \
     -Dzscenegraph_DIR="${root}lib/cmake/zscenegraph" >built.log
 cmake --build built >>built.log
-WINEPATH=${root}bin "$wine" built/application.exe "$scene" | grep -q '^42 colours synchronised' ||
+WINEPATH=${root}bin "$wine" built/application.exe "$scene" | grep -q '^heard ColorUpdated' ||
     fail "the application says something else"
