@@ -74,23 +74,28 @@ if(TARGET zsg_translations)
     install(FILES ${catalogues} DESTINATION ${CMAKE_INSTALL_DATADIR}/zscenegraph/translations
         COMPONENT runtime)
 endif()
-if(TARGET zsg-console)
-    install(TARGETS zsg-console RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
-    set(manual ${CMAKE_CURRENT_SOURCE_DIR}/apps/console/zsg-console.1)
+# zsg_install_program(<name> <component>): a program of apps/ with its manual page.
+function(zsg_install_program name component)
+    install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${component})
+    string(REPLACE zsg- "" folder ${name})
+    set(manual ${CMAKE_CURRENT_SOURCE_DIR}/apps/${folder}/${name}.1)
     if(ZSG_DEBIAN_LAYOUT)
-        execute_process(COMMAND gzip -9nc ${manual} OUTPUT_FILE zsg-console.1.gz
+        execute_process(COMMAND gzip -9nc ${manual} OUTPUT_FILE ${name}.1.gz
             WORKING_DIRECTORY ${PROJECT_BINARY_DIR} COMMAND_ERROR_IS_FATAL ANY)
-        set(manual ${PROJECT_BINARY_DIR}/zsg-console.1.gz)
+        set(manual ${PROJECT_BINARY_DIR}/${name}.1.gz)
     endif()
-    install(FILES ${manual} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
-        COMPONENT tools)
+    install(FILES ${manual} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ${component})
+endfunction()
+
+if(TARGET zsg-console)
+    zsg_install_program(zsg-console tools)
     # Under the names that the scripts use: a copy of the folder is where they run.
     install(DIRECTORY
         examples/brushes examples/cmf examples/data examples/scenes examples/scripts
         DESTINATION ${CMAKE_INSTALL_DATADIR}/zscenegraph/examples COMPONENT tools)
 endif()
 if(TARGET zsg-workbench)
-    install(TARGETS zsg-workbench RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT workbench)
+    zsg_install_program(zsg-workbench workbench)
 endif()
 
 set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc/libzscenegraph-doc)

@@ -19,13 +19,13 @@ set(CPACK_DEBIAN_PACKAGE_MAINTAINER "zscenegraph developers <developers@zscenegr
     CACHE STRING "Who answers for the Debian packages")
 set(full_version ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})
 
-# zsg_debian_package(<component> <package> <section> <depends> <summary> <text>)
-function(zsg_debian_package component package section depends summary text)
+# zsg_debian_package(<component> <package> <section> <depends> <text>)
+function(zsg_debian_package component package section depends text)
     string(TOUPPER ${component} key)
     set(CPACK_DEBIAN_${key}_PACKAGE_NAME ${package} PARENT_SCOPE)
     set(CPACK_DEBIAN_${key}_PACKAGE_SECTION ${section} PARENT_SCOPE)
     set(CPACK_DEBIAN_${key}_PACKAGE_DEPENDS "${depends}" PARENT_SCOPE)
-    set(CPACK_DEBIAN_${key}_DESCRIPTION "${summary}\n${text}" PARENT_SCOPE)
+    set(CPACK_DEBIAN_${key}_DESCRIPTION "${about}\n.\n${text}" PARENT_SCOPE)
     if(NOT ZSG_DEBIAN_LAYOUT)
         return()
     endif()
@@ -42,28 +42,25 @@ if(ZSG_DEBIAN_LAYOUT)
         COMMAND_ERROR_IS_FATAL ANY)
 endif()
 
-set(about "It holds colours, colorways, materials, light layers and 3D painting of a rendering
-application's scene; every change can be undone and is announced.")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "editing side of a 3D scene")
+set(about "Colours, colorways, materials, light layers and 3D painting of the scene
+of a rendering application; every change can be undone and is announced.")
 # What the packages link is found by dpkg-shlibdeps; of each other they want the very version, as
 # the interface may change while the major number is 0.
+set(same_version "libzscenegraph0 (= ${full_version})")
 zsg_debian_package(runtime libzscenegraph0 libs ""
-    "editing side of a 3D scene"
-    "${about}\nThis package has the library and the renderer in memory that it runs on.")
+    "This package has the library and the renderer in memory that it runs on.")
 zsg_debian_package(development libzscenegraph-dev libdevel
-    "libzscenegraph0 (= ${full_version}), qt6-base-dev, nlohmann-json3-dev"
-    "editing side of a 3D scene (development files)"
-    "${about}\nThis package has the headers, the CMake package and the pkg-config files.")
+    "${same_version}, qt6-base-dev, nlohmann-json3-dev"
+    "This package has the headers, the CMake package and the pkg-config files.")
 zsg_debian_package(documentation libzscenegraph-doc doc ""
-    "editing side of a 3D scene (documentation)"
-    "${about}\nThis package has the documents and the reference of the interface.")
-zsg_debian_package(tools zsg-tools graphics "libzscenegraph0 (= ${full_version})"
-    "editing side of a 3D scene (programs)"
-    "${about}\nThis package has zsg-console, which works on scenes by commands, and examples.")
+    "This package has the documents and the reference of the interface.")
+zsg_debian_package(tools zsg-tools graphics "${same_version}"
+    "This package has zsg-console, which works on scenes by commands, and\nexamples.")
 if(TARGET zsg-workbench) # of its own, so that a console needs no window system
     list(APPEND CPACK_COMPONENTS_ALL workbench)
-    zsg_debian_package(workbench zsg-workbench graphics "libzscenegraph0 (= ${full_version})"
-        "editing side of a 3D scene (window)"
-        "${about}\nThis package has zsg-workbench, a window that shows and edits scenes.")
+    zsg_debian_package(workbench zsg-workbench graphics "${same_version}"
+        "This package has zsg-workbench, a window that shows and edits scenes.")
 endif()
 set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_ARCHITECTURE all)
 foreach(key IN ITEMS RUNTIME TOOLS WORKBENCH)
@@ -72,7 +69,17 @@ foreach(key IN ITEMS RUNTIME TOOLS WORKBENCH)
 endforeach()
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/lib)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY "=")
+
+# Whoever links one of the libraries depends on their package; dpkg brings the linker's cache up to
+# date by a trigger.
+set(shlibs "")
+foreach(name IN ITEMS zscenegraph nyxrender zcore ztask nyxembedded)
+    string(APPEND shlibs
+        "lib${name} ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR} ${same_version}\n")
+endforeach()
+file(WRITE ${PROJECT_BINARY_DIR}/debian/shlibs "${shlibs}")
+file(WRITE ${PROJECT_BINARY_DIR}/debian/triggers "activate-noawait ldconfig\n")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA
+    ${PROJECT_BINARY_DIR}/debian/shlibs ${PROJECT_BINARY_DIR}/debian/triggers)
 
 include(CPack)
