@@ -2,6 +2,7 @@
 
 #include "nyxembedded/writeFile.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>

@@ -2,10 +2,12 @@
 
 #include "workbench/app/Document.h"
 
+#include <QAction>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
 #include <QMainWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>

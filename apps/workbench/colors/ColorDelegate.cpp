@@ -4,6 +4,7 @@
 #include "workbench/scene/Scene.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QPainter>
 
 #include <algorithm>

@@ -23,6 +23,7 @@
 #include <QStackedWidget>
 #include <QToolButton>
 #include <QTreeView>
+#include <QVBoxLayout>
 
 #include <optional>
 #include <set>

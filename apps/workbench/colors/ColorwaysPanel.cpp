@@ -16,6 +16,7 @@
 #include <QPainter>
 #include <QTableView>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 namespace workbench {
 

@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QListView>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include <algorithm>
 

@@ -8,6 +8,7 @@
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 
+#include <QFont>
 #include <QMimeData>
 
 #include <algorithm>
