@@ -93,7 +93,7 @@ int check(app::Host& host, std::string const& path) {
 }
 
 int convert(app::Host& host, std::string const& path) {
-    std::string const message = host.renderer().saveScene(path);
+    std::string const message = host.save(path);
     std::cerr << app::printable(message) << (message.empty() ? "" : "\n");
     return message.empty() ? 0 : 1;
 }

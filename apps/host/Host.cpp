@@ -27,6 +27,11 @@ Host::Host(std::ostream& out) : out_(&out) {
     });
 }
 
+std::string Host::dump() {
+    taskQueue().waitIdle();
+    return renderer().dump();
+}
+
 std::string Host::load(std::string const& path) {
     try {
         checkInputFile(path, largestScene);

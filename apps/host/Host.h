@@ -58,6 +58,12 @@ public:
     [[nodiscard]] zsg::ISceneGraph& root() { return embedded_.root(); }
     [[nodiscard]] EventLog& events() { return *events_; }
 
+    /// The scene's dump when the render tasks have run out.
+    [[nodiscard]] std::string dump();
+    /// As nyx::embedded::Host has them.
+    [[nodiscard]] std::string save(std::string const& path) { return embedded_.saveScene(path); }
+    [[nodiscard]] std::string saveText() { return embedded_.saveSceneText(); }
+
     /// Asks whoever feeds commands to stop.
     void requestEnd() { endRequested_ = true; }
     [[nodiscard]] bool endRequested() const { return endRequested_; }

@@ -6,6 +6,11 @@
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/ISceneGraph.h"
+#include "zsg/painting/IPainter.h"
+#include "zsg/painting/IPainterManager.h"
+#include "zsg/painting/IPainterSurface.h"
+
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -101,4 +106,24 @@ TEST(Host, DoesNotPullTheRootFromUnderWhoUsesIt) {
     }
     EXPECT_NE(fromMessage, "");
     EXPECT_EQ(host.loadSceneText(oneColor), "");
+}
+
+TEST(Host, SavesWhatTheRenderThreadStillHasToDo) {
+    Host host(nyx::embedded::RenderTaskQueue::Mode::Manual);
+    zsg::IPainter& painter = *host.root().painterManager()->painter();
+    painter.surface(painter.createSurface(64))->addLayer(0);
+    ASSERT_GT(host.taskQueue().pending(), 0u);
+    EXPECT_NE(host.saveSceneText().find("\"Layer 1\""), std::string::npos);
+    EXPECT_FALSE(host.undoStack().isClean());
+
+    EXPECT_NE(host.saveScene("/nowhere/scene.json"), "");
+    EXPECT_FALSE(host.undoStack().isClean()) << "it is not saved";
+    QTemporaryDir const folder;
+    painter.surface(nyx::SurfaceId(1))->addLayer(0);
+    std::string const path = folder.filePath("scene.json").toStdString();
+    EXPECT_EQ(host.saveScene(path), "");
+    EXPECT_TRUE(host.undoStack().isClean());
+    EXPECT_EQ(host.loadScene(path), "");
+    EXPECT_EQ(host.root().painterManager()->painter()->surface(nyx::SurfaceId(1))->layers().size(),
+              3u);
 }

@@ -108,13 +108,12 @@ std::string Document::recover(Autosave::Orphan const& orphan) {
 
 std::string Document::saveAs(QString const& path) {
     scene_.endDrags();
-    std::string message = host_.renderer().saveScene(path.toStdString());
+    std::string message = host_.save(path.toStdString());
     if (message.empty()) {
         path_ = path;
         recoveredName_.clear();
         changedUnrecorded_ = changedSinceAutosave_ = false;
         autosave_.discard();
-        scene_.undoStack().setClean();
         emit stateChanged();
     }
     return message;
@@ -144,7 +143,7 @@ void Document::autosave() {
         return;
     }
     changedSinceAutosave_ = false;
-    std::string const message = autosave_.write(path_, host_.renderer().saveSceneText());
+    std::string const message = autosave_.write(path_, host_.saveText());
     if (!message.empty()) {
         changedSinceAutosave_ = true;
         scene_.say(tr("No copy for after a crash could be written: %1")

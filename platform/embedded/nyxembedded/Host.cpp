@@ -107,6 +107,20 @@ std::string Host::loadSceneText(std::string const& json) {
     });
 }
 
+std::string Host::saveScene(std::string const& path) {
+    impl_->tasks.waitIdle();
+    std::string message = impl_->renderer.saveScene(path);
+    if (message.empty()) {
+        impl_->undoStack.setClean();
+    }
+    return message;
+}
+
+std::string Host::saveSceneText() {
+    impl_->tasks.waitIdle();
+    return impl_->renderer.saveSceneText();
+}
+
 void Host::watchRoot(std::function<void(zsg::ISceneGraph*)> watcher) {
     impl_->watcher = std::move(watcher);
     if (impl_->watcher && impl_->root) {
