@@ -10,10 +10,12 @@ cd "$2"
 # Scripts name files by their path in the project, and write into the folder they run in.
 ln -s "$project/examples" examples
 
-for script in examples/scripts/demo-*.zsg examples/scripts/*-session.zsg; do
+# The tour is told here and on the page, the other sessions only there.
+for script in examples/scripts/tour.zsg examples/scripts/demo-*.zsg \
+    examples/scripts/*-session.zsg; do
     name=$(basename "$script" .zsg)
-    printf '\n== %s\n' "$script"
-    "$console" examples/scenes/showroom.json --script "$script" --echo | tee "$name.txt"
+    "$console" examples/scenes/showroom.json --script "$script" --echo >"$name.txt"
+    [[ $name != tour ]] || cat "$name.txt"
     # Now, since a later script may write a picture of the same name.
     LC_ALL=C awk -v name="$name" -v script="$script" -f "$project/cmake/demo-section.awk" \
         "$name.txt" >>sections.html
@@ -27,4 +29,5 @@ done
     printf '</main>\n</body>\n</html>\n'
 } >index.html
 rm sections.html
-printf '\n== everything together is in %s/index.html\n' "$2"
+printf '\n== with its pictures, and with %d more sessions, in %s/index.html\n' \
+    $(($(ls ./*.txt | wc -l) - 1)) "$2"

@@ -17,7 +17,8 @@ function(expect_count what pattern wanted)
         message(FATAL_ERROR "${count} ${what} in place of ${wanted}")
     endif()
 endfunction()
-file(GLOB scripts ${SOURCE_DIR}/examples/scripts/demo-*.zsg
+file(GLOB scripts ${SOURCE_DIR}/examples/scripts/tour.zsg
+    ${SOURCE_DIR}/examples/scripts/demo-*.zsg
     ${SOURCE_DIR}/examples/scripts/*-session.zsg)
 list(LENGTH scripts script_count)
 expect_count("titles" "<h2 id=" ${script_count})

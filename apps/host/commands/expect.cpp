@@ -4,8 +4,6 @@
 #include "host/KeptScenes.h"
 
 #include <algorithm>
-#include <set>
-#include <sstream>
 
 namespace app {
 
@@ -58,48 +56,33 @@ void cleanState(Host& host, Arguments& arguments) {
 
 void same(Host& host, Arguments& arguments) {
     std::string const name = arguments.word("the name of a kept state");
-    auto const& dumps = host.state<KeptScenes>().byName;
-    auto const found = dumps.find(name);
-    if (found == dumps.end()) {
-        throw CommandError("no state is kept as \"" + name + "\"");
-    }
-    std::string const now = host.renderer().dump();
-    if (now == found->second) {
+    std::string const& before = host.state<KeptScenes>().at(name);
+    std::string const now = host.dump();
+    if (now == before) {
         return;
     }
-    auto const [before, after] = std::ranges::mismatch(found->second, now);
+    auto const [old, other] = std::ranges::mismatch(before, now);
     auto const lineAt = [](std::string const& text, std::string::const_iterator at) {
         auto const offset = static_cast<std::size_t>(at - text.begin());
         std::size_t const begin = offset == 0 ? 0 : text.rfind('\n', offset - 1) + 1;
         return text.substr(begin, text.find('\n', offset) - begin);
     };
-    throw CommandError("the scene differs from \"" + name + "\": was \"" +
-                       lineAt(found->second, before) + "\", is \"" + lineAt(now, after) + "\"");
+    throw CommandError("the scene differs from \"" + name + "\": was \"" + lineAt(before, old) +
+                       "\", is \"" + lineAt(now, other) + "\"");
 }
 
 void kept(Host& host, Arguments& arguments) {
-    std::string const name = arguments.word("the name of a kept state");
-    auto const& dumps = host.state<KeptScenes>().byName;
-    auto const found = dumps.find(name);
-    if (found == dumps.end()) {
-        throw CommandError("no state is kept as \"" + name + "\"");
-    }
-    std::istringstream now(host.renderer().dump());
-    std::set<std::string> lines;
-    for (std::string line; std::getline(now, line);) {
-        lines.insert(line);
-    }
-    std::istringstream before(found->second);
-    for (std::string line; std::getline(before, line);) {
-        if (!lines.contains(line)) {
-            throw CommandError("the scene no longer holds \"" + line + "\"");
-        }
+    std::string const& before =
+        host.state<KeptScenes>().at(arguments.word("the name of a kept state"));
+    auto const gone = difference(before, host.dump()).gone;
+    if (!gone.empty()) {
+        throw CommandError("the scene no longer holds \"" + gone.front() + "\"");
     }
 }
 
 void contains(Host& host, Arguments& arguments) {
     std::string const text = arguments.word("a text");
-    if (host.renderer().dump().find(text) == std::string::npos) {
+    if (host.dump().find(text) == std::string::npos) {
         throw CommandError("the scene does not contain \"" + text + "\"");
     }
 }
