@@ -125,7 +125,9 @@ WeavePattern::YarnType WeavePattern::get(int x, int y) const noexcept {
 }
 
 void WeavePattern::set(int x, int y, YarnType type) {
-    detach();
+    if (d_->isShared()) { // as a call at the end, for which the usual case saves no registers
+        return Data::setUnshared(*this, x, y, type);
+    }
     wrap(x, y);
     d_->grid.cells()[d_->grid.index(x, y)] = type;
 }

@@ -17,4 +17,9 @@ void WeavePattern::Data::unshare(WeavePattern& pattern) {
     replaceGrid(pattern, WeaveGrid(pattern.d_->grid));
 }
 
+void WeavePattern::Data::setUnshared(WeavePattern& pattern, int x, int y, YarnType type) {
+    unshare(pattern);
+    pattern.set(x, y, type);
+}
+
 } // namespace zsg

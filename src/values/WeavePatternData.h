@@ -89,6 +89,8 @@ struct WeavePattern::Data {
     static void replaceGrid(WeavePattern& pattern, WeaveGrid grid);
     /// Gives a handle a copy of its grid.
     static void unshare(WeavePattern& pattern);
+    /// Gives a handle a copy of its grid, and sets a cell of that.
+    static void setUnshared(WeavePattern& pattern, int x, int y, YarnType type);
     /// The record of default patterns.
     static Data& standard() noexcept;
 
