@@ -63,8 +63,10 @@ Picture brushSheet(std::vector<NamedBrush> const& brushes) {
                     {}};
     for (int i = 0; i < count; ++i) {
         NamedBrush const& brush = brushes[static_cast<std::size_t>(i)];
-        shape::Point const corner{margin + i % columns * (cellWidth + margin),
-                                  margin + i / columns * (cellHeight + label)};
+        int const column = i % columns;
+        int const row = i / columns;
+        shape::Point const corner{margin + column * (cellWidth + margin),
+                                  margin + row * (cellHeight + label)};
         shape::Raster raster = cell(brush.settings);
         raster.corner = corner;
         picture.add(std::move(raster));

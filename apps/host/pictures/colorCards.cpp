@@ -80,14 +80,16 @@ Picture paletteCard(Host& host) {
     // A sheet somewhat wider than high, however many there are.
     double const square = std::sqrt(1.4 * static_cast<double>(count) * cellHeight / cellWidth);
     auto const columns =
-        std::min(count, std::max<std::size_t>(4, static_cast<std::size_t>(square + 0.5)));
+        std::min(count, std::max<std::size_t>(4, static_cast<std::size_t>(std::lround(square))));
     std::size_t const rows = (count + columns - 1) / columns;
     Picture picture =
         titled("Palette: " + counted(count, "colour", "colours"),
                cellWidth * static_cast<double>(columns), cellHeight * static_cast<double>(rows));
     for (std::size_t i = 0; i < count; ++i) {
-        double const x = margin + cellWidth * static_cast<double>(i % columns);
-        double const y = margin + titleHeight + cellHeight * static_cast<double>(i / columns);
+        std::size_t const column = i % columns;
+        std::size_t const row = i / columns;
+        double const x = margin + cellWidth * static_cast<double>(column);
+        double const y = margin + titleHeight + cellHeight * static_cast<double>(row);
         ZColorExt const color = db(host).colorFromId(colors[i]);
         addSwatch(picture, {x, y}, swatch, swatch, color.rgba());
         addName(picture, {x + beside, y + 15}, color.getColorName(), cellWidth - beside - 8, true);

@@ -196,6 +196,7 @@ std::vector<nyx::ColorId> ColorsPanel::selected() const {
         rows.insert(index.row());
     }
     std::vector<nyx::ColorId> ids;
+    ids.reserve(rows.size());
     for (int const row : rows) {
         ids.push_back(model_->idAt(model_->index(row, 0)));
     }

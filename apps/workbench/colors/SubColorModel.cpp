@@ -88,6 +88,7 @@ QMimeData* SubColorModel::mimeData(QModelIndexList const& indexes) const {
     }
     std::ranges::sort(rows);
     std::vector<nyx::ColorId> ids;
+    ids.reserve(rows.size());
     for (int const row : rows) {
         ids.push_back(subs_[static_cast<std::size_t>(row)]);
     }

@@ -72,6 +72,7 @@ std::vector<nyx::ColorId> importColors(Scene& scene, std::vector<ZColorExt> colo
     }
     auto const linker = scene.colorDB()->getColorLinker(controller, &answers);
     std::vector<nyx::ColorId> ids;
+    ids.reserve(colors.size());
     for (ZColorExt& color : colors) {
         ids.push_back(linker->importColor(color));
     }

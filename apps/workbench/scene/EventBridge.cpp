@@ -12,8 +12,7 @@ namespace {
 template <class Id>
 void makeSet(std::vector<Id>& ids) {
     std::ranges::sort(ids);
-    auto const rest = std::ranges::unique(ids);
-    ids.erase(rest.begin(), rest.end());
+    ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
 }
 
 template <class Kind>
