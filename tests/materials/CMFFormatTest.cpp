@@ -56,7 +56,7 @@ TEST(CMFFormat, LoaderSchemaFileAndDocumentAgreeOnTheExamples) {
             continue;
         }
         std::string const text = contents(entry.path());
-        std::string const folder = entry.path().parent_path().filename();
+        std::string const folder = entry.path().parent_path().filename().string();
         ZCMFSchema::LoadInfo const info = load(QByteArray::fromStdString(text));
         ++files[folder];
         EXPECT_EQ(info.status == 0, folder != "bad") << entry << info.message.toStdString();
