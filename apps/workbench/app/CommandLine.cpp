@@ -41,7 +41,8 @@ CommandLineResult readCommandLine(QStringList const& arguments) {
         return wrong(parser.errorText());
     }
     if (parser.isSet(help)) {
-        return {std::nullopt, parser.helpText(), 0};
+        // It names the program by an application, which does not exist yet.
+        return {std::nullopt, parser.helpText().replace("<executable_name>", "zsg-workbench"), 0};
     }
     if (parser.isSet(version)) {
         return {std::nullopt, QString("zsg-workbench %1\n").arg(zsg::version()), 0};
