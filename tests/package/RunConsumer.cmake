@@ -1,14 +1,7 @@
 # Installs the project, moves the installed tree, and does there what README.md says: its program is
 # built by the CMake package and by pkg-config, with and without optimisation, and run.
 include(${CMAKE_CURRENT_LIST_DIR}/../documents/CodeBlock.cmake)
-function(run)
-    execute_process(COMMAND ${ARGV} RESULT_VARIABLE result OUTPUT_VARIABLE output
-        ERROR_VARIABLE output)
-    if(NOT result EQUAL 0)
-        message(FATAL_ERROR "failed: ${ARGV}\n${output}")
-    endif()
-    set(output "${output}" PARENT_SCOPE)
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/../support/Run.cmake)
 
 function(run_program program)
     run(${program} ${PROJECT_DIR}/examples/scenes/showroom.json)
