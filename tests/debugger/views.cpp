@@ -11,7 +11,7 @@
 
 int main() {
     nyx::ColorId const id(12);
-    nyx::SurfaceId const none;
+    [[maybe_unused]] nyx::SurfaceId const none; // the debugger looks at it
     zsg::WeavePattern const weave = zsg::WeavePattern::makeTwill(4, 1);
     zsg::ColorGradient gradient;
     gradient.setBlend(true);

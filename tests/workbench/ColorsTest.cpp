@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QIdentityProxyModel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMimeData>

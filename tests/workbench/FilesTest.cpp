@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QProcess>
 #include <QSettings>
+#include <QThread>
 
 using namespace workbench;
 
