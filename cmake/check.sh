@@ -41,7 +41,7 @@ gate_tsan() {
     cmake --preset tsan >/dev/null &&
         cmake --build --preset tsan -j "$jobs" \
             --target zsg_nyxembedded_test zsg_zcore_test zsg_nyxrender_test zsg_values_test \
-            zsg_painting_test nyxembedded &&
+            zsg_painting_test nyxembedded zsg_translations &&
         ctest --preset tsan
 }
 

@@ -10,7 +10,7 @@
 #include <cstdint>
 #include <sstream>
 
-/// Requests in JSON lines: each gets one answer, which is JSON.
+/// Requests in JSON lines: behind the greeting each gets one answer, and all of it is JSON.
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
     ConsoleSandbox::enter();
     std::istringstream script(std::string(reinterpret_cast<char const*>(data), size));
@@ -30,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     std::istringstream in(requests);
     app::runJsonSession(interpreter, host, in, out);
     std::istringstream answers(out.str());
-    int answered = 0;
+    int answered = -1; // the greeting comes first
     for (; std::getline(answers, line); ++answered) {
         require(nlohmann::json::parse(line, nullptr, false).is_object());
     }
