@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""compile.py BUILD_DIR: compiles every source of a configured build without making objects.
+"""compile.py BUILD_DIR: compiles every source of a configured build, C++ without making objects.
 
 The build folder's precompiled header must be there; the libraries that a program links need not be.
 """
@@ -16,9 +16,11 @@ commands = [c for c in json.loads((build / "compile_commands.json").read_text())
 
 
 def compiled(entry):
-    command = entry["command"].rsplit(" -o ", 1)[0]
-    result = subprocess.run(f"{command} -g0 -fsyntax-only {entry['file']}", shell=True,
-                            cwd=entry["directory"], capture_output=True, text=True)
+    command = entry["command"]
+    if not entry["file"].endswith(".rc"):  # a resource compiler can only compile
+        command = command.rsplit(" -o ", 1)[0] + f" -g0 -fsyntax-only {entry['file']}"
+    result = subprocess.run(command, shell=True, cwd=entry["directory"], capture_output=True,
+                            text=True)
     return result.returncode, result.stdout + result.stderr
 
 
