@@ -1,7 +1,7 @@
 #include "workbench/colors/ChannelSlider.h"
 
-#include <QKeyEvent>
-#include <QMouseEvent>
+#include "workbench/scene/PointerDrag.h"
+
 #include <QPainter>
 #include <QWheelEvent>
 
@@ -16,6 +16,17 @@ ChannelSlider::ChannelSlider(QWidget* parent) : QAbstractSlider(parent) {
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     ramp_.fill(Qt::gray);
+    auto* const drag = new PointerDrag(*this, [](QPointF const&) { return true; });
+    connect(drag, &PointerDrag::pressed, this, [this] { setSliderDown(true); });
+    connect(drag, &PointerDrag::moved, this, [this](QPointF const& at) {
+        double const share = (at.x() - 2) / std::max(1, width() - 4);
+        setSliderPosition(qRound(std::clamp(share, 0.0, 1.0) * steps));
+    });
+    connect(drag, &PointerDrag::released, this, [this] { setSliderDown(false); });
+    connect(drag, &PointerDrag::cancelled, this, [this] {
+        emit cancelled();
+        setSliderDown(false);
+    });
     connect(this, &QAbstractSlider::actionTriggered, this, [this] {
         if (!isSliderDown()) {
             emit stepped(sliderPosition());
@@ -50,37 +61,6 @@ void ChannelSlider::paintEvent(QPaintEvent*) {
     painter.drawLine(QPointF(x, bar.top()), QPointF(x, bar.bottom()));
     painter.setPen(QPen(Qt::white, 1));
     painter.drawLine(QPointF(x, bar.top()), QPointF(x, bar.bottom()));
-}
-
-void ChannelSlider::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) {
-        pressedAt_ = event->position().toPoint().x();
-        setSliderDown(true);
-    }
-}
-
-void ChannelSlider::mouseMoveEvent(QMouseEvent* event) {
-    int const x = event->position().toPoint().x();
-    if (isSliderDown() && x != pressedAt_) {
-        pressedAt_ = -1; // from here on every place counts, the first one included
-        double const share = double(x - 2) / std::max(1, width() - 4);
-        setSliderPosition(qRound(std::clamp(share, 0.0, 1.0) * steps));
-    }
-}
-
-void ChannelSlider::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) {
-        setSliderDown(false);
-    }
-}
-
-void ChannelSlider::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape && isSliderDown()) {
-        emit cancelled();
-        setSliderDown(false);
-    } else {
-        QAbstractSlider::keyPressEvent(event);
-    }
 }
 
 void ChannelSlider::wheelEvent(QWheelEvent* event) {

@@ -1,7 +1,8 @@
 #include "workbench/colors/ColorWheel.h"
 
+#include "workbench/scene/PointerDrag.h"
+
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -29,6 +30,11 @@ ColorWheel::ColorWheel(QWidget* parent) : QWidget(parent) {
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Hue, saturation and brightness"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    auto* const drag = new PointerDrag(*this, [this](QPointF const& at) { return takePart(at); });
+    connect(drag, &PointerDrag::pressed, this, &ColorWheel::pressed);
+    connect(drag, &PointerDrag::moved, this, &ColorWheel::follow);
+    connect(drag, &PointerDrag::released, this, &ColorWheel::released);
+    connect(drag, &PointerDrag::cancelled, this, &ColorWheel::cancelled);
 }
 
 void ColorWheel::setHsv(float hue, float saturation, float brightness) {
@@ -110,46 +116,29 @@ void ColorWheel::paintEvent(QPaintEvent*) {
     }
 }
 
-void ColorWheel::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) {
-        return;
-    }
-    QPointF const offset = event->position() - centre();
+bool ColorWheel::takePart(QPointF const& at) {
+    QPointF const offset = at - centre();
     double const radius = std::hypot(offset.x(), offset.y());
-    part_ = square().contains(event->position())                         ? Part::Square
+    part_ = square().contains(at)                                        ? Part::Square
             : radius <= outerRadius() + 2 && radius >= innerRadius() - 2 ? Part::Ring
                                                                          : Part::None;
-    if (part_ != Part::None) {
-        emit pressed();
-    }
+    return part_ != Part::None;
 }
 
-void ColorWheel::mouseMoveEvent(QMouseEvent* event) {
-    QPointF const at = event->position();
+void ColorWheel::follow(QPointF const& at) {
     if (part_ == Part::Ring) {
         QPointF const offset = at - centre();
         double const hue = std::atan2(-offset.y(), offset.x()) / turn;
         emit moved(float(hue < 0 ? hue + 1 : hue), saturation_, brightness_);
-    } else if (part_ == Part::Square) {
+    } else {
         QRectF const area = square();
         emit moved(hue_, float(std::clamp((at.x() - area.left()) / area.width(), 0.0, 1.0)),
                    float(std::clamp(1 - (at.y() - area.top()) / area.height(), 0.0, 1.0)));
     }
 }
 
-void ColorWheel::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && std::exchange(part_, Part::None) != Part::None) {
-        emit released();
-    }
-}
-
 void ColorWheel::keyPressEvent(QKeyEvent* event) {
     int const key = event->key();
-    if (key == Qt::Key_Escape && part_ != Part::None) {
-        part_ = Part::None;
-        emit cancelled();
-        return;
-    }
     int const x = (key == Qt::Key_Right ? 1 : 0) - (key == Qt::Key_Left ? 1 : 0);
     int const y = (key == Qt::Key_Up ? 1 : 0) - (key == Qt::Key_Down ? 1 : 0);
     if (x == 0 && y == 0) {

@@ -29,9 +29,6 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -42,12 +39,14 @@ private:
     [[nodiscard]] double outerRadius() const;
     [[nodiscard]] double innerRadius() const;
     [[nodiscard]] QRectF square() const;
+    [[nodiscard]] bool takePart(QPointF const& at);
+    void follow(QPointF const& at);
     void drawRing();
 
     float hue_ = 0;
     float saturation_ = 0;
     float brightness_ = 0;
-    Part part_ = Part::None;
+    Part part_ = Part::None; ///< that is dragged
     QImage ring_;
 };
 

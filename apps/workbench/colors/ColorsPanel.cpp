@@ -124,17 +124,11 @@ void ColorsPanel::makeViews() {
 
 void ColorsPanel::makeActions() {
     auto const add = [this](QString const& text, char const* name, QKeySequence const& keys,
-                            auto method) {
-        auto* const action = new QAction(text, this);
-        action->setObjectName(name);
-        action->setShortcut(keys);
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        connect(action, &QAction::triggered, this, method);
-        addAction(action);
-        actions_ += action;
+                            std::function<void()> const& act) {
+        actions_ += makeAction(text, name, keys, act);
     };
-    add(tr("&New Colour"), "newColour", QKeySequence("Ctrl+N"), &ColorsPanel::addColor);
-    add(tr("&Duplicate"), "duplicateColour", QKeySequence("Ctrl+D"), &ColorsPanel::duplicate);
+    add(tr("&New Colour"), "newColour", QKeySequence("Ctrl+N"), [this] { addColor(); });
+    add(tr("&Duplicate"), "duplicateColour", QKeySequence("Ctrl+D"), [this] { duplicate(); });
     add(tr("&Rename"), "renameColour", QKeySequence("F2"), [this] {
         if (QModelIndex const index = model_->indexOf(current_); index.isValid()) {
             view()->setCurrentIndex(index);
@@ -142,9 +136,9 @@ void ColorsPanel::makeActions() {
         }
     });
     add(tr("Turn into &Multi-Colour or Back"), "toggleMulti", QKeySequence("Ctrl+M"),
-        &ColorsPanel::toggleMulti);
-    add(tr("&Copy"), "copyColour", QKeySequence::Copy, &ColorsPanel::copy);
-    add(tr("&Paste"), "pasteColour", QKeySequence::Paste, &ColorsPanel::paste);
+        [this] { toggleMulti(); });
+    add(tr("&Copy"), "copyColour", QKeySequence::Copy, [this] { copy(); });
+    add(tr("&Paste"), "pasteColour", QKeySequence::Paste, [this] { paste(); });
 }
 
 void ColorsPanel::fillMenu(QMenu& menu) { menu.addActions(actions_); }

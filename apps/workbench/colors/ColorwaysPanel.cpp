@@ -66,25 +66,17 @@ ColorwaysPanel::ColorwaysPanel(Scene& scene, QWidget* parent)
 
 void ColorwaysPanel::makeActions(QHBoxLayout& bar) {
     auto const add = [&](QString const& text, char const* name, QKeySequence const& keys,
-                         auto method) {
-        auto* const action = new QAction(text, this);
-        action->setObjectName(name);
-        action->setShortcut(keys);
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        connect(action, &QAction::triggered, this, method);
-        addAction(action);
+                         std::function<void()> const& act) {
+        QAction* const action = makeAction(text, name, keys, act, &bar);
         view_->addAction(action);
         view_->horizontalHeader()->addAction(action);
-        auto* const button = new QToolButton(this);
-        button->setDefaultAction(action);
-        bar.addWidget(button);
     };
-    add(tr("Apply"), "applyColorway", QKeySequence("Ctrl+Return"), &ColorwaysPanel::apply);
+    add(tr("Apply"), "applyColorway", QKeySequence("Ctrl+Return"), [this] { apply(); });
     add(tr("New"), "newColorway", QKeySequence("Ctrl+N"), [this] { create(false); });
     add(tr("Duplicate"), "duplicateColorway", QKeySequence("Ctrl+D"), [this] { create(true); });
-    add(tr("Rename"), "renameColorway", QKeySequence("F2"), &ColorwaysPanel::rename);
+    add(tr("Rename"), "renameColorway", QKeySequence("F2"), [this] { rename(); });
     add(tr("Delete or Restore"), "deleteColorway", QKeySequence::Delete,
-        &ColorwaysPanel::toggleDeleted);
+        [this] { toggleDeleted(); });
     auto* const deleted = new QToolButton(this);
     deleted->setObjectName("showDeletedColorways");
     deleted->setText(tr("Show Deleted"));

@@ -8,7 +8,6 @@
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 
-#include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListView>
@@ -46,22 +45,14 @@ MultiColorPanel::MultiColorPanel(Scene& scene, QWidget* parent)
     setFocusProxy(view_);
 
     auto* const bar = new QHBoxLayout;
-    auto const add = [&](QString const& text, char const* name, QKeySequence const& keys,
-                         auto method) {
-        auto* const action = new QAction(text, this);
-        action->setObjectName(name);
-        action->setShortcut(keys);
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        connect(action, &QAction::triggered, this, method);
-        addAction(action);
-        auto* const button = new QToolButton(this);
-        button->setDefaultAction(action);
-        bar->addWidget(button);
-    };
-    add(tr("Activate"), "activateSub", QKeySequence("Ctrl+Return"), &MultiColorPanel::activate);
-    add(tr("Up"), "subUp", QKeySequence("Alt+Up"), [this] { move(-1); });
-    add(tr("Down"), "subDown", QKeySequence("Alt+Down"), [this] { move(1); });
-    add(tr("Remove"), "removeSub", QKeySequence::Delete, &MultiColorPanel::removeSelected);
+    makeAction(
+        tr("Activate"), "activateSub", QKeySequence("Ctrl+Return"), [this] { activate(); }, bar);
+    makeAction(
+        tr("Up"), "subUp", QKeySequence("Alt+Up"), [this] { move(-1); }, bar);
+    makeAction(
+        tr("Down"), "subDown", QKeySequence("Alt+Down"), [this] { move(1); }, bar);
+    makeAction(
+        tr("Remove"), "removeSub", QKeySequence::Delete, [this] { removeSelected(); }, bar);
     auto* const lock = new QToolButton(this);
     lock->setObjectName("lockSubs");
     lock->setText(tr("Lock"));

@@ -3,9 +3,16 @@
 #include <QString>
 #include <QWidget>
 
+#include <functional>
+
+class QAction;
+class QBoxLayout;
+class QKeySequence;
+
 namespace workbench {
 
-/// What a dock of the window shows of the scene. It writes through the scene's controllers only.
+/// What a dock or a tab of the window shows of the scene. It writes through the scene's controllers
+/// only.
 class Panel : public QWidget {
     Q_OBJECT
 
@@ -18,6 +25,12 @@ public:
     virtual bool select(QString const& /*text*/) { return false; }
     /// Where the text to look for is typed; null when nothing can be looked for.
     [[nodiscard]] virtual QWidget* filterField() { return nullptr; }
+
+protected:
+    /// An action of the panel, with a button in `bar` when there is one. Its keys work while the
+    /// focus is in the panel.
+    QAction* makeAction(QString const& text, char const* name, QKeySequence const& keys,
+                        std::function<void()> const& act, QBoxLayout* bar = nullptr);
 };
 
 } // namespace workbench

@@ -1,0 +1,25 @@
+#include "workbench/scene/Panel.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QToolButton>
+
+namespace workbench {
+
+QAction* Panel::makeAction(QString const& text, char const* name, QKeySequence const& keys,
+                           std::function<void()> const& act, QBoxLayout* bar) {
+    auto* const action = new QAction(text, this);
+    action->setObjectName(name);
+    action->setShortcut(keys);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(action, &QAction::triggered, this, act);
+    addAction(action);
+    if (bar) {
+        auto* const button = new QToolButton(this);
+        button->setDefaultAction(action);
+        bar->addWidget(button);
+    }
+    return action;
+}
+
+} // namespace workbench
