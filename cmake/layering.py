@@ -49,7 +49,8 @@ ROWS = [
     ("host", "apps/host/*",
      "declarations export core values colors materials lightlayers painting|material manager"
      "|facade headers|nyxembedded headers|example of painting"),
-    ("panels", "apps/workbench/scene/* apps/workbench/colors/* apps/workbench/history/*",
+    ("panels", "apps/workbench/scene/* apps/workbench/colors/* apps/workbench/history/*"
+     " apps/workbench/events/* apps/workbench/painting/*",
      "declarations export core values colors materials lightlayers painting host"
      "|material manager"),
     ("window", "apps/workbench/*",
