@@ -8,6 +8,7 @@
 #include "workbench/colors/ColorsPanel.h"
 #include "workbench/colors/ColorwaysPanel.h"
 #include "workbench/colors/MultiColorPanel.h"
+#include "workbench/events/EventsPanel.h"
 #include "workbench/history/HistoryPanel.h"
 
 #include "zcore/ZUndoStack.h"
@@ -116,10 +117,13 @@ void MainWindow::makePanels() {
     addPanel("history", tr("History"), Qt::RightDockWidgetArea, new HistoryPanel(scene));
     addPanel("colorways", tr("Colorways"), Qt::BottomDockWidgetArea, new ColorwaysPanel(scene));
     addPanel("console", tr("Console"), Qt::BottomDockWidgetArea, new ConsolePanel(document_));
+    addPanel("events", tr("Events"), Qt::BottomDockWidgetArea, new EventsPanel(scene));
 }
 
 void MainWindow::arrange() {
     splitDockWidget(docks_["colorways"], docks_["console"], Qt::Vertical);
+    tabifyDockWidget(docks_["console"], docks_["events"]);
+    docks_["console"]->raise();
     resizeDocks({docks_["colours"], docks_["colorways"], docks_["coloreditor"]}, {30, 45, 25},
                 Qt::Horizontal);
     resizeDocks({docks_["colours"], docks_["multicolour"]}, {60, 40}, Qt::Vertical);
