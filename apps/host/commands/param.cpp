@@ -1,12 +1,11 @@
 #include "host/Command.h"
+#include "host/DemoPanel.h"
 #include "host/Host.h"
 #include "host/ValueText.h"
 
 #include "zsg/values/Parameter.h"
 #include "zsg/values/ParameterData.h"
 #include "zsg/values/ValueVariant.h"
-
-#include <QCoreApplication>
 
 #include <ostream>
 
@@ -17,44 +16,9 @@ namespace {
 using zsg::Parameter;
 using zsg::Type;
 
-/// A panel of settings as an application shows it: every kind of flag, limit and hint once.
-struct Panel {
-    std::vector<Parameter> parameters;
-
-    Panel() {
-        auto const builder = [](char const* name, char const* label) {
-            return Parameter::Builder(QString::fromLatin1(name), QString::fromLatin1(label));
-        };
-        parameters = {
-            builder("size", "Size").setType(Type::Float).setHint("-spin,0,10,0.5-\n"),
-            builder("opacity", "Opacity").setType(Type::Float).setHint("-range,0,100-\n"),
-            builder("steps", "Steps").setType(Type::Integer).setHint("-limits,1,8-\n"),
-            builder("broken", "Broken").setType(Type::Float).setHint("-spin,0,10-\n-range,0,5-\n"),
-            builder("temperature", "Temperature").setType(Type::Float).setHint("-kelvin-"),
-            builder("angle", "Angle").setType(Type::Float).setQuantity(zsg::Quantity::Angle),
-            builder("percent", "Percent")
-                .setType(Type::Float)
-                .setHasLimits(true)
-                .setMinimum(0)
-                .setMaximum(100)
-                .setQuantity(zsg::Quantity::Percent),
-            builder("locked", "Locked").setType(Type::Boolean).setEnabled(false),
-            builder("color", "Color").setType(Type::Color),
-            builder("tint", "Tint").setType(Type::ColorAlpha),
-            builder("name", "Name").setType(Type::String).setToolTip("What it is called"),
-            builder("weave", "Weave").setType(Type::WeavePattern),
-            builder("linked", "Linked")
-                .setType(Type::Integer)
-                .setFlags(Parameter::Bit9 | Parameter::Bit12),
-            builder("surface", "Surface").setType(Type::ShaderSurface),
-            builder("shader", "Shader").setType(Type::ShaderBase),
-        };
-    }
-};
-
 Parameter take(Host& host, Arguments& arguments) {
     QString const name = QString::fromStdString(arguments.word("a parameter"));
-    for (Parameter const& parameter : host.state<Panel>().parameters) {
+    for (Parameter const& parameter : host.state<DemoPanel>().parameters) {
         if (parameter.name() == name) {
             return parameter;
         }
@@ -63,7 +27,7 @@ Parameter take(Host& host, Arguments& arguments) {
 }
 
 void list(Host& host, Arguments&) {
-    for (Parameter const& parameter : host.state<Panel>().parameters) {
+    for (Parameter const& parameter : host.state<DemoPanel>().parameters) {
         host.out() << "  ";
         if (parameter.isValid()) {
             host.out() << parameter;
