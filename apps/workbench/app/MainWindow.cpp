@@ -1,15 +1,11 @@
 #include "workbench/app/MainWindow.h"
 
-#include "workbench/app/ConsolePanel.h"
 #include "workbench/app/Document.h"
 #include "workbench/app/FileActions.h"
+#include "workbench/app/makePanels.h"
 #include "workbench/app/palettes.h"
-#include "workbench/colors/ColorEditor.h"
-#include "workbench/colors/ColorsPanel.h"
-#include "workbench/colors/ColorwaysPanel.h"
-#include "workbench/colors/MultiColorPanel.h"
-#include "workbench/events/EventsPanel.h"
-#include "workbench/history/HistoryPanel.h"
+#include "workbench/scene/Panel.h"
+#include "workbench/scene/Scene.h"
 
 #include "zcore/ZUndoStack.h"
 
@@ -23,6 +19,7 @@
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QStyle>
+#include <QTabWidget>
 
 namespace workbench {
 
@@ -43,7 +40,7 @@ MainWindow::MainWindow(Document& document)
     setDockNestingEnabled(true);
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    makePanels();
+    makePanels(*this);
     makeEditMenu();
     makeViewMenu();
     statusBar();
@@ -64,12 +61,16 @@ MainWindow::~MainWindow() {
 Panel* MainWindow::panel(QString const& name) const { return panels_.value(name); }
 
 bool MainWindow::showPanel(QString const& name) {
-    QDockWidget* const dock = docks_.value(name);
-    if (dock) {
+    if (QDockWidget* const dock = docks_.value(name)) {
         dock->show();
         dock->raise();
+        return true;
     }
-    return dock;
+    Panel* const panel = panels_.value(name);
+    if (panel) {
+        tabs_->setCurrentWidget(panel);
+    }
+    return panel;
 }
 
 QPixmap MainWindow::picture(QString const& panelName) {
@@ -77,7 +78,11 @@ QPixmap MainWindow::picture(QString const& panelName) {
     if (panelName.isEmpty()) {
         return grab();
     }
-    return showPanel(panelName) ? docks_.value(panelName)->grab() : QPixmap();
+    if (!showPanel(panelName)) {
+        return {};
+    }
+    QDockWidget* const dock = docks_.value(panelName);
+    return dock ? dock->grab() : panels_.value(panelName)->grab();
 }
 
 void MainWindow::setPaletteKind(PaletteKind kind) {
@@ -93,42 +98,47 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->setAccepted(files_->mayLeave());
 }
 
-void MainWindow::addPanel(QString const& name, QString const& title, Qt::DockWidgetArea area,
-                          Panel* panel) {
+void MainWindow::addPanel(Place place, QString const& name, QString const& title, Panel* panel) {
+    panel->setAccessibleName(title);
+    panels_.insert(name, panel);
+    if (place == Place::Center) {
+        if (!tabs_) {
+            tabs_ = new QTabWidget(this);
+            tabs_->setObjectName("views");
+            tabs_->setDocumentMode(true);
+            setCentralWidget(tabs_);
+        }
+        tabs_->addTab(panel, title);
+        return;
+    }
     auto* const dock = new QDockWidget(title, this);
     dock->setObjectName(name);
     dock->setWidget(panel);
-    panel->setAccessibleName(title);
-    panels_.insert(name, panel);
     docks_.insert(name, dock);
-    addDockWidget(area, dock);
-}
-
-void MainWindow::makePanels() {
-    Scene& scene = document_.scene();
-    auto* const colours = new ColorsPanel(scene);
-    auto* const editor = new ColorEditor(scene);
-    connect(colours, &ColorsPanel::currentChanged, editor, &ColorEditor::setColor);
-    addPanel("colours", tr("Colours"), Qt::LeftDockWidgetArea, colours);
-    auto* const multi = new MultiColorPanel(scene);
-    connect(colours, &ColorsPanel::currentChanged, multi, &MultiColorPanel::setColor);
-    addPanel("multicolour", tr("Multi-Colour"), Qt::LeftDockWidgetArea, multi);
-    addPanel("coloreditor", tr("Colour Editor"), Qt::RightDockWidgetArea, editor);
-    addPanel("history", tr("History"), Qt::RightDockWidgetArea, new HistoryPanel(scene));
-    addPanel("colorways", tr("Colorways"), Qt::BottomDockWidgetArea, new ColorwaysPanel(scene));
-    addPanel("console", tr("Console"), Qt::BottomDockWidgetArea, new ConsolePanel(document_));
-    addPanel("events", tr("Events"), Qt::BottomDockWidgetArea, new EventsPanel(scene));
+    places_[place] += dock;
 }
 
 void MainWindow::arrange() {
-    splitDockWidget(docks_["colorways"], docks_["console"], Qt::Vertical);
-    tabifyDockWidget(docks_["console"], docks_["events"]);
-    docks_["console"]->raise();
-    resizeDocks({docks_["colours"], docks_["colorways"], docks_["coloreditor"]}, {30, 45, 25},
-                Qt::Horizontal);
-    resizeDocks({docks_["colours"], docks_["multicolour"]}, {60, 40}, Qt::Vertical);
-    resizeDocks({docks_["colorways"], docks_["console"]}, {65, 35}, Qt::Vertical);
-    resizeDocks({docks_["coloreditor"], docks_["history"]}, {70, 30}, Qt::Vertical);
+    std::pair<Place, Qt::DockWidgetArea> const areas[] = {
+        {Place::LeftUpper, Qt::LeftDockWidgetArea},   {Place::LeftLower, Qt::LeftDockWidgetArea},
+        {Place::RightUpper, Qt::RightDockWidgetArea}, {Place::RightLower, Qt::RightDockWidgetArea},
+        {Place::Bottom, Qt::BottomDockWidgetArea},
+    };
+    QList<QDockWidget*> first;
+    for (auto const& [place, area] : areas) {
+        QList<QDockWidget*> const docks = places_.value(place);
+        first += docks.front();
+        addDockWidget(area, docks.front());
+        for (qsizetype i = 1; i < docks.size(); ++i) {
+            tabifyDockWidget(docks[i - 1], docks[i]);
+        }
+        docks.front()->raise();
+    }
+    int const unit = width() / 100;
+    resizeDocks({first[0], first[2]}, {24 * unit, 26 * unit}, Qt::Horizontal);
+    resizeDocks({first[0], first[1]}, {60, 40}, Qt::Vertical);
+    resizeDocks({first[2], first[3]}, {70, 30}, Qt::Vertical);
+    resizeDocks({first[4]}, {height() * 3 / 10}, Qt::Vertical);
 }
 
 void MainWindow::makeEditMenu() {
@@ -149,14 +159,16 @@ void MainWindow::makeEditMenu() {
     };
     connect(&scene, &Scene::historyChanged, this, update);
     update();
-    static_cast<ColorsPanel*>(panels_.value("colours"))
-        ->fillMenu(*menuBar()->addMenu(tr("&Colour")));
+    menuBar()->addMenu(tr("&Colour"))->addActions(panels_.value("colours")->actions());
 }
 
 void MainWindow::makeViewMenu() {
     QMenu* const menu = menuBar()->addMenu(tr("&View"));
     for (QDockWidget* const dock : docks_) {
         menu->addAction(dock->toggleViewAction());
+    }
+    for (int i = 0; tabs_ && i < tabs_->count(); ++i) {
+        menu->addAction(tabs_->tabText(i), this, [this, i] { tabs_->setCurrentIndex(i); });
     }
     menu->addSeparator();
     auto* const palettes = new QActionGroup(this);
@@ -200,21 +212,21 @@ void MainWindow::resetLayout() {
 }
 
 void MainWindow::walkPanels(int step) {
-    QList<QDockWidget*> shown;
+    QList<Panel*> shown;
     qsizetype at = -1;
-    for (QDockWidget* const dock : docks_) {
-        if (dock->isVisible() && !dock->visibleRegion().isEmpty()) {
-            if (dock->isAncestorOf(QApplication::focusWidget())) {
+    for (Panel* const panel : panels_) {
+        if (panel->isVisible() && !panel->visibleRegion().isEmpty()) {
+            if (panel->isAncestorOf(QApplication::focusWidget())) {
                 at = shown.size();
             }
-            shown += dock;
+            shown += panel;
         }
     }
     if (shown.isEmpty()) {
         return;
     }
     qsizetype const next = at < 0 ? 0 : (at + step + shown.size()) % shown.size();
-    QWidget* const panel = shown[next]->widget();
+    Panel* const panel = shown[next];
     panel->setFocus(Qt::TabFocusReason);
     if (!panel->hasFocus() && !panel->isAncestorOf(QApplication::focusWidget())) {
         for (QWidget* const child : panel->findChildren<QWidget*>()) {

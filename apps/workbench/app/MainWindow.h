@@ -5,6 +5,7 @@
 #include <QString>
 
 class QDockWidget;
+class QTabWidget;
 
 namespace workbench {
 
@@ -12,20 +13,25 @@ class Document;
 class FileActions;
 class Panel;
 
-/// The window over one document: a dock for every panel, the menus, the status bar. The document is
-/// borrowed and outlives it.
+/// The window over one document: a dock or a central tab for every panel, the menus, the status
+/// bar. The document is borrowed and outlives it.
 class MainWindow final : public QMainWindow {
     Q_OBJECT
 
 public:
     enum class PaletteKind { System, Dark, Light };
 
+    /// Where a panel is at first. Those of one place share it, the first one in front.
+    enum class Place { Center, LeftUpper, LeftLower, RightUpper, RightLower, Bottom };
+
     explicit MainWindow(Document& document);
     ~MainWindow() override;
 
     [[nodiscard]] Document& document() { return document_; }
     [[nodiscard]] FileActions& files() { return *files_; }
-    /// The panel of a dock by the dock's name ("history"); null when there is none.
+    /// Takes a panel over. Names are for scripts and the saved layout.
+    void addPanel(Place place, QString const& name, QString const& title, Panel* panel);
+    /// A panel by its name ("history"); null when there is none.
     [[nodiscard]] Panel* panel(QString const& name) const;
     [[nodiscard]] QStringList panelNames() const { return panels_.keys(); }
     /// Shows a panel in front of those that share its place; false when there is none.
@@ -40,8 +46,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void addPanel(QString const& name, QString const& title, Qt::DockWidgetArea area, Panel* panel);
-    void makePanels();
     void arrange();
     void makeEditMenu();
     void makeViewMenu();
@@ -53,6 +57,8 @@ private:
     FileActions* files_;
     QMap<QString, Panel*> panels_;
     QMap<QString, QDockWidget*> docks_;
+    QMap<Place, QList<QDockWidget*>> places_;
+    QTabWidget* tabs_ = nullptr; ///< in the middle
     QAction* undo_ = nullptr;
     QAction* redo_ = nullptr;
     QByteArray firstLayout_;

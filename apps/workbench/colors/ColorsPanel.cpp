@@ -98,7 +98,7 @@ void ColorsPanel::makeViews() {
         view->setContextMenuPolicy(Qt::CustomContextMenu);
         connect(view, &QWidget::customContextMenuRequested, this, [this, view](QPoint const& at) {
             QMenu menu;
-            fillMenu(menu);
+            menu.addActions(actions());
             menu.exec(view->viewport()->mapToGlobal(at));
         });
         views_->addWidget(view);
@@ -123,25 +123,20 @@ void ColorsPanel::makeViews() {
 }
 
 void ColorsPanel::makeActions() {
-    auto const add = [this](QString const& text, char const* name, QKeySequence const& keys,
-                            std::function<void()> const& act) {
-        actions_ += makeAction(text, name, keys, act);
-    };
-    add(tr("&New Colour"), "newColour", QKeySequence("Ctrl+N"), [this] { addColor(); });
-    add(tr("&Duplicate"), "duplicateColour", QKeySequence("Ctrl+D"), [this] { duplicate(); });
-    add(tr("&Rename"), "renameColour", QKeySequence("F2"), [this] {
+    makeAction(tr("&New Colour"), "newColour", QKeySequence("Ctrl+N"), [this] { addColor(); });
+    makeAction(tr("&Duplicate"), "duplicateColour", QKeySequence("Ctrl+D"),
+               [this] { duplicate(); });
+    makeAction(tr("&Rename"), "renameColour", QKeySequence("F2"), [this] {
         if (QModelIndex const index = model_->indexOf(current_); index.isValid()) {
             view()->setCurrentIndex(index);
             view()->edit(index);
         }
     });
-    add(tr("Turn into &Multi-Colour or Back"), "toggleMulti", QKeySequence("Ctrl+M"),
-        [this] { toggleMulti(); });
-    add(tr("&Copy"), "copyColour", QKeySequence::Copy, [this] { copy(); });
-    add(tr("&Paste"), "pasteColour", QKeySequence::Paste, [this] { paste(); });
+    makeAction(tr("Turn into &Multi-Colour or Back"), "toggleMulti", QKeySequence("Ctrl+M"),
+               [this] { toggleMulti(); });
+    makeAction(tr("&Copy"), "copyColour", QKeySequence::Copy, [this] { copy(); });
+    makeAction(tr("&Paste"), "pasteColour", QKeySequence::Paste, [this] { paste(); });
 }
-
-void ColorsPanel::fillMenu(QMenu& menu) { menu.addActions(actions_); }
 
 QAbstractItemView* ColorsPanel::view() const {
     return views_->currentIndex() == 0 ? static_cast<QAbstractItemView*>(grid_) : list_;

@@ -11,7 +11,6 @@ class QComboBox;
 class QItemSelectionModel;
 class QLineEdit;
 class QListView;
-class QMenu;
 class QStackedWidget;
 class QTreeView;
 
@@ -30,9 +29,6 @@ public:
 
     [[nodiscard]] nyx::ColorId current() const;
     void setCurrent(nyx::ColorId id);
-
-    /// The actions on colours, for a menu of the window as well.
-    void fillMenu(QMenu& menu);
 
     [[nodiscard]] int rowCount() const override;
     bool select(QString const& text) override;
@@ -61,7 +57,6 @@ private:
     QListView* grid_;
     QTreeView* list_;
     QItemSelectionModel* selection_;
-    QList<QAction*> actions_;
     nyx::ColorId current_;
 };
 

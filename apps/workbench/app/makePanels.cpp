@@ -1,0 +1,37 @@
+#include "workbench/app/makePanels.h"
+
+#include "workbench/app/ConsolePanel.h"
+#include "workbench/app/Document.h"
+#include "workbench/app/MainWindow.h"
+#include "workbench/colors/ColorEditor.h"
+#include "workbench/colors/ColorsPanel.h"
+#include "workbench/colors/ColorwaysPanel.h"
+#include "workbench/colors/MultiColorPanel.h"
+#include "workbench/events/EventsPanel.h"
+#include "workbench/history/HistoryPanel.h"
+
+namespace workbench {
+
+void makePanels(MainWindow& window) {
+    using Place = MainWindow::Place;
+    Document& document = window.document();
+    Scene& scene = document.scene();
+    auto const tr = [](char const* text) { return MainWindow::tr(text); };
+
+    auto* const colours = new ColorsPanel(scene);
+    auto* const multi = new MultiColorPanel(scene);
+    auto* const editor = new ColorEditor(scene);
+    QObject::connect(colours, &ColorsPanel::currentChanged, multi, &MultiColorPanel::setColor);
+    QObject::connect(colours, &ColorsPanel::currentChanged, editor, &ColorEditor::setColor);
+
+    // The first one of a place is in front.
+    window.addPanel(Place::LeftUpper, "colours", tr("Colours"), colours);
+    window.addPanel(Place::LeftLower, "multicolour", tr("Multi-Colour"), multi);
+    window.addPanel(Place::RightUpper, "coloreditor", tr("Colour Editor"), editor);
+    window.addPanel(Place::RightLower, "history", tr("History"), new HistoryPanel(scene));
+    window.addPanel(Place::Bottom, "colorways", tr("Colorways"), new ColorwaysPanel(scene));
+    window.addPanel(Place::Bottom, "console", tr("Console"), new ConsolePanel(document));
+    window.addPanel(Place::Bottom, "events", tr("Events"), new EventsPanel(scene));
+}
+
+} // namespace workbench
