@@ -1,0 +1,53 @@
+#include "documents/documentText.h"
+#include "zsg/core/EventType.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+using namespace documents;
+
+namespace {
+
+TEST(Tables, EveryEventHasItsRow) {
+    QStringList wanted;
+    QString const classes = read("include/zsg/core/Events.h");
+    for (QString const& piece : classes.split("class ZSG_EXPORT ").mid(1)) {
+        QString const kind = all(R"(EventType::(\w+))", piece).at(0)[0];
+        QStringList payload;
+        for (QStringList const& accessor : all(R"(\] \S+ (\w+\(\)) const noexcept)", piece)) {
+            payload += '`' + accessor[0] + '`';
+        }
+        auto const number =
+            all("\n    " + kind + R"( = (\d+),)", read("include/zsg/core/EventType.h"));
+        ASSERT_EQ(number.size(), 1u) << kind.toStdString();
+        auto const type = static_cast<zsg::EventType>(number[0][0].toUInt());
+        wanted += QStringList{number[0][0], '`' + kind + '`', '`' + piece.section(' ', 0, 0) + '`',
+                              payload.isEmpty() ? "none" : payload.join(", "),
+                              QString("\"%1\"").arg(zsg::eventTypeString(type))}
+                      .join(" | ");
+    }
+    ASSERT_EQ(wanted.size(), static_cast<qsizetype>(zsg::allEventTypes.size()));
+    for (QStringList row : rows(read("docs/events.md").section("\n## ", 2, 2))) {
+        if (row[0] != "Value") {
+            row[3] = row[3].section(", the", 0, 0); // whose number it is
+            EXPECT_TRUE(wanted.removeOne(row.mid(0, 5).join(" | ")))
+                << row.join(" | ").toStdString();
+        }
+    }
+    EXPECT_EQ(wanted.join("\n").toStdString(), "") << "have no row";
+}
+
+TEST(Tables, EveryReaderAndWriterOfAFormatIsNamed) {
+    QString const document = read("docs/formats.md");
+    auto const found = all(R"(\b((?:load(?!Brush)|save|dump|toJson|store)[A-Z]?\w*)\()",
+                           headers({"include", "platform/embedded/include"}));
+    EXPECT_GE(found.size(), 12u);
+    for (QStringList const& name : found) {
+        EXPECT_TRUE(all(R"(`(?:\w+::)?)" + name[0] + R"(\b)", document).size())
+            << name[0].toStdString();
+    }
+}
+
+} // namespace
