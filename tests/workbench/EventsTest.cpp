@@ -81,7 +81,7 @@ TEST_F(EventsTest, ARingThatCanBePausedAndSearchedWithoutLosingWhatCame) {
     scene().root()->eventQueue()->post(new zsg::LightLayerUpdatedEvent(nyx::LightLayerId(3)));
     settle();
     EXPECT_EQ(model().rowCount(), found + 1);
-    find<QLineEdit>("eventFilter").setText("lightlayer");
+    find<QLineEdit>("eventFilter").setText("lightlayerupdated");
     find<QAction>("copyEvents").trigger();
     QStringList const cells = QGuiApplication::clipboard()->text().trimmed().split('\t');
     ASSERT_EQ(cells.size(), 4);

@@ -47,7 +47,7 @@ private:
 };
 
 Document::Document(QString const& autosaveFolder)
-    : host_(nowhere()), scene_(host_.undoStack()), autosave_(autosaveFolder) {
+    : host_(nowhere()), scene_(host_.undoStack(), &contents_), autosave_(autosaveFolder) {
     host_.watchRoot([this](zsg::ISceneGraph* root) { takeOver(root); });
     connect(&scene_, &Scene::historyChanged, this, [this] {
         changedSinceAutosave_ = true;

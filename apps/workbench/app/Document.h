@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/app/Autosave.h"
+#include "workbench/app/EmbeddedContents.h"
 #include "workbench/scene/Scene.h"
 
 #include "host/Host.h"
@@ -63,6 +64,7 @@ private:
 
     app::Host host_;
     app::Interpreter interpreter_{host_};
+    EmbeddedContents contents_{host_};
     Scene scene_;
     Autosave autosave_;
     QTimer autosaveTimer_;

@@ -8,13 +8,14 @@ namespace workbench {
 
 /// What has happened to a scene since it was last told. Lists of ids hold each once, ascending.
 struct Changes {
-    bool everything = false; ///< another scene: forget all ids
-    bool materials = false;  ///< a material, its description or the schema
+    bool everything = false;  ///< another scene: forget all ids
+    bool materials = false;   ///< a material, its description or the schema
+    bool lightLayers = false; ///< a light layer, or what is in one
     std::vector<nyx::ColorId> colors;
     std::vector<nyx::ColorwayId> colorways;
 
     [[nodiscard]] bool isEmpty() const {
-        return !everything && !materials && colors.empty() && colorways.empty();
+        return !everything && !materials && !lightLayers && colors.empty() && colorways.empty();
     }
 };
 

@@ -29,7 +29,8 @@ EventBridge::EventBridge(zsg::IEventQueue& queue, std::function<void()> onFirst)
                      zsg::EventType::CMFSchemaChanged, zsg::EventType::ColorCreated,
                      zsg::EventType::ColorIdChange, zsg::EventType::ColorUpdated,
                      zsg::EventType::ColorSynced, zsg::EventType::ColorwaySynced,
-                     zsg::EventType::ColorwayUpdated}) {}
+                     zsg::EventType::ColorwayUpdated, zsg::EventType::LightLayerUpdated,
+                     zsg::EventType::LightLayerSynced}) {}
 
 void EventBridge::onEvent(zsg::Event const* event) {
     bool const isFirst = changes_.isEmpty();
@@ -52,6 +53,10 @@ void EventBridge::onEvent(zsg::Event const* event) {
         break;
     case zsg::EventType::ColorwayUpdated:
         changes_.colorways.push_back(as<zsg::ColorwayUpdatedEvent>(event).colorwayId());
+        break;
+    case zsg::EventType::LightLayerUpdated:
+    case zsg::EventType::LightLayerSynced:
+        changes_.lightLayers = true;
         break;
     default:
         changes_.materials = true;

@@ -22,6 +22,7 @@ public:
 
     void onEvent(zsg::Event const* event) override;
 
+    [[nodiscard]] bool lightLayersChanged() const { return changes_.lightLayers; }
     [[nodiscard]] Changes take();
 
 private:

@@ -2,10 +2,13 @@
 
 #include "zcore/ZUndoStack.h"
 #include "zsg/core/ISceneGraph.h"
+#include "zsg/lightlayers/ILightLayerApi.h"
+#include "zsg/lightlayers/ILightLayerController.h"
 
 namespace workbench {
 
-Scene::Scene(ZUndoStack& undoStack) : undoStack_(&undoStack) {
+Scene::Scene(ZUndoStack& undoStack, SceneContents const* contents)
+    : undoStack_(&undoStack), contents_(contents) {
     undoStack_->setChangeCallback([this] { emit historyChanged(); });
 }
 
@@ -21,6 +24,8 @@ void Scene::setRoot(zsg::ISceneGraph* root) {
         return;
     }
     sceneId_ = QUuid::createUuid();
+    // The working copy of the light layers is empty until somebody asks for it.
+    lightLayers()->lightLayerApi()->sync();
     bridge_.emplace(*root->eventQueue(), [this] {
         QMetaObject::invokeMethod(this, &Scene::flush, Qt::QueuedConnection);
     });
@@ -36,10 +41,18 @@ zsg::ColorController* Scene::colorController() const {
     return root_ ? root_->colorController() : nullptr;
 }
 
+zsg::ILightLayerController* Scene::lightLayers() const {
+    return root_ ? root_->lightLayerController() : nullptr;
+}
+
 void Scene::flush() {
     // A nested event loop of whatever a command does would come by here.
     if (!bridge_ || undoStack_->isExecuting()) {
         return;
+    }
+    if (bridge_->lightLayersChanged()) {
+        // An assignment reaches the working copy, which the panels read, by this only.
+        lightLayers()->lightLayerApi()->sync();
     }
     Changes const changes = bridge_->take();
     if (!changes.isEmpty()) {

@@ -14,10 +14,13 @@ class ZUndoStack;
 namespace zsg {
 class ColorController;
 class ColorDB;
+class ILightLayerController;
 class ISceneGraph;
 } // namespace zsg
 
 namespace workbench {
+
+class SceneContents;
 
 /// The scene as the panels know it: the present root, the history, and what becomes of both.
 ///
@@ -28,17 +31,21 @@ class Scene final : public QObject {
 
 public:
     /// The stack is borrowed, and its change callback is the scene's from now on.
-    explicit Scene(ZUndoStack& undoStack);
+    /// So are the contents; without them the panels that list them stay empty.
+    explicit Scene(ZUndoStack& undoStack, SceneContents const* contents = nullptr);
     ~Scene() override;
 
     /// The root to show from now on; null before one ends. Edits that are going on are dropped,
     /// because the history they belong to is gone by then.
     void setRoot(zsg::ISceneGraph* root);
 
-    /// Null between two scenes, as are the next two.
+    /// Null between two scenes, as are the next three.
     [[nodiscard]] zsg::ISceneGraph* root() const { return root_; }
     [[nodiscard]] zsg::ColorDB* colorDB() const;
     [[nodiscard]] zsg::ColorController* colorController() const;
+    [[nodiscard]] zsg::ILightLayerController* lightLayers() const;
+    /// Null without a root, too.
+    [[nodiscard]] SceneContents const* contents() const { return root_ ? contents_ : nullptr; }
     [[nodiscard]] ZUndoStack& undoStack() const { return *undoStack_; }
     /// Another one for every root: ids mean something within one scene only.
     [[nodiscard]] QUuid const& sceneId() const { return sceneId_; }
@@ -71,6 +78,7 @@ private:
     void report(bool done);
 
     ZUndoStack* undoStack_;
+    SceneContents const* contents_;
     zsg::ISceneGraph* root_ = nullptr;
     QUuid sceneId_;
     std::optional<EventBridge> bridge_;
