@@ -1,4 +1,5 @@
 #include "nyxembedded/BrushStroke.h"
+#include "nyxembedded/GrowingStroke.h"
 #include "nyxembedded/LayerPixels.h"
 
 #include <gtest/gtest.h>
@@ -157,6 +158,57 @@ TEST(BrushStroke, JittersAreTheSeedsAndOnlyEverLessen) {
     for (int x = 0; x < 128; ++x) {
         ASSERT_LE(first.texel(x, 64)[3], full.texel(x, 64)[3] + 1);
     }
+}
+
+TEST(BrushStroke, GrowsInPortionsToWhatItIsAtOnce) {
+    std::mt19937 random(7);
+    auto const part = [&random](float of) {
+        return of * static_cast<float>(random() % 1000) / 1000;
+    };
+    for (int bits = 0; bits < 8; ++bits) {
+        BrushSettings brush = pixelBrush(18);
+        brush.directional = (bits & 1) != 0;
+        brush.stamp = (bits & 2) != 0;
+        brush.flow = {0.4f, (bits & 4) != 0 ? 0.5f : 0.0f};
+        brush.sizePixels.jitter = brush.rotationJitter = brush.flow.jitter;
+        brush.penPressure = BrushSettings::SizePressure | BrushSettings::FlowPressure;
+        LayerPixels before(200);
+        paintBrushStroke(before, pixelBrush(50), strokeAlong({{20, 20}, {180, 150}}));
+        GrowingStroke growing(before, brush, GrowingStroke::Ink::Paint, 1, 9);
+        BrushStroke whole;
+        whole.seed = 9;
+        std::vector<BrushStroke::Point> portion;
+        for (int i = 0; i < 60; ++i) {
+            portion.push_back({part(200), part(200), part(1)});
+            whole.points.push_back(portion.back());
+            if (random() % 4 == 0) {
+                growing.add(portion);
+                portion.clear();
+            }
+        }
+        growing.add(portion);
+        growing.end();
+        LayerPixels atOnce = before;
+        paintBrushStroke(atOnce, brush, whole);
+        EXPECT_TRUE(growing.pixels() == atOnce) << bits;
+        EXPECT_TRUE(growing.before() == before);
+    }
+    // A dab shows at once, and the tiles that it does not touch are those of before.
+    LayerPixels blank(200);
+    blank.writableTile(3, 3).planes[PixelTile::alpha][0] = 255;
+    GrowingStroke dot(blank, pixelBrush(10));
+    dot.add({{10, 10}});
+    EXPECT_EQ(dot.pixels().texel(10, 10)[3], 255);
+    EXPECT_TRUE(dot.pixels().tile(3, 3) == blank.tile(3, 3));
+    EXPECT_EQ(dot.pixels().tileCount(), 2u);
+
+    // Erasing takes away what painting gives, and makes no tiles.
+    BrushSettings half = pixelBrush(10);
+    half.opacity = 0.5f;
+    GrowingStroke erasing(dot.pixels(), half, GrowingStroke::Ink::Erase);
+    erasing.add({{10, 10}, {190, 10}});
+    EXPECT_EQ(erasing.pixels().texel(10, 10), (std::array<std::uint8_t, 4>{127, 64, 0, 127}));
+    EXPECT_EQ(erasing.pixels().tileCount(), 2u);
 }
 
 TEST(BrushStroke, OddNumbersEndWell) {

@@ -53,6 +53,18 @@ StrokeCoverage::StrokeCoverage(int resolution)
       tilesAcross_((resolution + edge - 1) / edge),
       tiles_(static_cast<std::size_t>(tilesAcross_) * static_cast<std::size_t>(tilesAcross_)) {}
 
+StrokeCoverage::Tile& StrokeCoverage::changing(int column, int row) {
+    auto& tile = tiles_[slot(column, row)];
+    if (!tile) {
+        tile = std::make_unique<Tile>();
+    }
+    if (!tile->isChanged) {
+        changed_.push_back({column, row});
+        tile->isChanged = true;
+    }
+    return *tile;
+}
+
 void StrokeCoverage::add(DabMask const& mask, Dab const& dab) {
     int const originX = static_cast<int>(std::floor(dab.x)) + mask.left;
     int const originY = static_cast<int>(std::floor(dab.y)) + mask.top;
@@ -65,12 +77,9 @@ void StrokeCoverage::add(DabMask const& mask, Dab const& dab) {
         int const end = std::min(originX + extent.end, resolution_);
         std::uint16_t const* const row = mask.row(y - originY);
         for (int x = std::max(originX + extent.begin, 0); x < end;) {
-            auto& tile = tiles_[slot(x / edge, y / edge)];
-            if (!tile) {
-                tile = std::make_unique<Tile>();
-            }
+            Tile& tile = changing(x / edge, y / edge);
             int const count = std::min(end - x, edge - x % edge);
-            std::uint16_t* const cover = &tile->cover[y % edge * edge + x % edge];
+            std::uint16_t* const cover = &tile.cover[y % edge * edge + x % edge];
             if (flow == 65535) {
                 addRow(cover, row + (x - originX), count, cap);
             } else {
@@ -81,37 +90,42 @@ void StrokeCoverage::add(DabMask const& mask, Dab const& dab) {
     }
 }
 
-void StrokeCoverage::paintOn(LayerPixels& pixels, BrushSettings const& brush) const {
+void StrokeCoverage::paintOn(LayerPixels& pixels, LayerPixels const& before,
+                             BrushSettings const& brush, Ink ink) {
+    bool const erases = ink == Ink::Erase;
     BrushImage const* const texture =
-        brush.colorSource == BrushSettings::TextureColor ? brush.texture.get() : nullptr;
-    std::uint8_t const solid[] = {sRGBFromLinear(brush.color.r), sRGBFromLinear(brush.color.g),
+        !erases && brush.colorSource == BrushSettings::TextureColor ? brush.texture.get() : nullptr;
+    std::uint8_t const none[] = {0, 0, 0, 0};
+    std::uint8_t const paint[] = {sRGBFromLinear(brush.color.r), sRGBFromLinear(brush.color.g),
                                   sRGBFromLinear(brush.color.b), 255};
-    for (int row = 0; row < tilesAcross_; ++row) {
-        for (int column = 0; column < tilesAcross_; ++column) {
-            Tile const* const covered = tiles_[slot(column, row)].get();
-            if (!covered) {
+    std::uint8_t const* const solid = erases ? none : paint;
+    for (auto const [column, row] : changed_) {
+        Tile& covered = *tiles_[slot(column, row)];
+        covered.isChanged = false;
+        pixels.setTile(column, row, before.tile(column, row));
+        if (erases && !pixels.tile(column, row)) {
+            continue;
+        }
+        PixelTile& tile = pixels.writableTile(column, row);
+        for (int i = 0; i < PixelTile::texels; ++i) {
+            unsigned alpha = covered.cover[i];
+            if (alpha == 0) {
                 continue;
             }
-            PixelTile& tile = pixels.writableTile(column, row);
-            for (int i = 0; i < PixelTile::texels; ++i) {
-                unsigned alpha = covered->cover[i];
-                if (alpha == 0) {
-                    continue;
-                }
-                std::uint8_t const* color = solid;
-                if (texture) {
-                    color = texture->at((column * edge + i % edge) % texture->width,
-                                        (row * edge + i / edge) % texture->height);
-                    alpha = alpha * color[3] / 255u;
-                }
-                for (int plane = 0; plane < PixelTile::alpha; ++plane) {
-                    tile.planes[plane][i] = over(tile.planes[plane][i], color[plane], alpha);
-                }
-                auto& tileAlpha = tile.planes[PixelTile::alpha][i];
-                tileAlpha = over(tileAlpha, 255, alpha);
+            std::uint8_t const* color = solid;
+            if (texture) {
+                color = texture->at((column * edge + i % edge) % texture->width,
+                                    (row * edge + i / edge) % texture->height);
+                alpha = alpha * color[3] / 255u;
             }
+            for (int plane = 0; plane < PixelTile::alpha; ++plane) {
+                tile.planes[plane][i] = over(tile.planes[plane][i], color[plane], alpha);
+            }
+            auto& tileAlpha = tile.planes[PixelTile::alpha][i];
+            tileAlpha = over(tileAlpha, erases ? 0 : 255, alpha);
         }
     }
+    changed_.clear();
 }
 
 } // namespace nyx::embedded
