@@ -19,14 +19,26 @@ using nyx::embedded::TileHandle;
 class PaintCommand::Edit {
 public:
     Edit(nyx::embedded::Painting& painting, nyx::SurfaceId surface, std::uint32_t layer,
-         Paint paint)
-        : painting_(painting), surface_(surface), layer_(layer), paint_(std::move(paint)) {}
+         Paint paint, Before before)
+        : painting_(painting),
+          surface_(surface),
+          layer_(layer),
+          paint_(std::move(paint)),
+          before_(std::move(before)) {}
 
     void paint() {
         Paint const paint = std::exchange(paint_, {});
-        auto const before = painting_.pixels(surface_, layer_);
+        Before const makeBefore = std::exchange(before_, {});
+        auto before = painting_.pixels(surface_, layer_);
         if (!before) {
             return;
+        }
+        if (makeBefore) {
+            LayerPixels given = makeBefore();
+            if (given.resolution() != before->resolution()) {
+                return;
+            }
+            before = std::move(given);
         }
         LayerPixels after = *before;
         paint(after);
@@ -74,6 +86,7 @@ private:
     nyx::SurfaceId surface_;
     std::uint32_t layer_;
     Paint paint_;
+    Before before_;
     int resolution_ = 0;
     std::vector<Tile> tiles_;
 };
@@ -98,11 +111,12 @@ private:
 
 PaintCommand::PaintCommand(QString const& text, nyx::embedded::Painting& painting,
                            ZTaskQueue& queue, nyxRT_api& rtApi, nyx::SurfaceId surface,
-                           std::uint32_t layer, Paint paint)
+                           std::uint32_t layer, Paint paint, Before before)
     : ZUndoCommand(commandId, text),
       queue_(queue),
       rtApi_(rtApi),
-      edit_(std::make_shared<Edit>(painting, surface, layer, std::move(paint))) {}
+      edit_(std::make_shared<Edit>(painting, surface, layer, std::move(paint), std::move(before))) {
+}
 
 PaintCommand::~PaintCommand() = default;
 

@@ -22,13 +22,17 @@ class PaintCommand final : public ZUndoCommand {
 public:
     /// Changes the pixels of a layer; called once, on the render thread.
     using Paint = std::function<void(nyx::embedded::LayerPixels&)>;
+    /// What there was on the layer; called once, on the render thread.
+    using Before = std::function<nyx::embedded::LayerPixels()>;
 
     /// What an application may use as the number of its own commands.
     static constexpr auto commandId = static_cast<ZCommandId>(1000);
 
-    /// All but the ids is borrowed, and has to live until the queue has run the tasks.
+    /// What is given by reference is borrowed, and has to live until the queue has run the tasks.
+    /// `before` is for a stroke that was seen while it was made, so that it is there already.
     PaintCommand(QString const& text, nyx::embedded::Painting& painting, ZTaskQueue& queue,
-                 nyxRT_api& rtApi, nyx::SurfaceId surface, std::uint32_t layer, Paint paint);
+                 nyxRT_api& rtApi, nyx::SurfaceId surface, std::uint32_t layer, Paint paint,
+                 Before before = {});
     ~PaintCommand() override;
 
     bool redo() override;

@@ -1,7 +1,11 @@
 #include "nyxembedded/Painting.h"
 
+#include "nyxembedded/GrowingStroke.h"
 #include "nyxembedded/RenderTaskQueue.h"
 #include "nyxembedded/Renderer.h"
+#include "nyxembedded/SurfacePicture.h"
+#include "nyxrender/nyxCustomSurface.h"
+#include "nyxrender/nyxPainter.h"
 #include "painting/PaintCommand.h"
 #include "zcore/ZUndoStack.h"
 
@@ -163,6 +167,83 @@ TEST_F(PaintCommandTest, undoPutsBackTheTilesThatAStrokeChanged) {
     undo.redo();
     EXPECT_TRUE(pixels() == two);
     EXPECT_TRUE(pixels().tile(0, 0) == two.tile(0, 0)) << "the same tiles, not painted again";
+}
+
+// A picture that is kept by parts, through all that changes what a surface looks like.
+TEST_F(PaintCommandTest, strokesThatWereSeenWhileMadeAndThePictureOfAllThat) {
+    undo.push(command(dot(130, 30, 10)).release());
+    LayerPixels const one = pixels();
+    Painting const& seen = painting;
+    SurfacePicture picture(seen);
+    Image shown;
+    std::size_t texels = 0;
+    auto const update = [&] {
+        queue.waitIdle();
+        SurfacePicture::Update const made = picture.update(id);
+        Image const all = painting.composite(id);
+        if (made.isNew) {
+            shown = {made.resolution, made.resolution, {}};
+            shown.rgba.resize(all.rgba.size());
+        }
+        texels = 0;
+        for (auto const& [x, y, image] : made.parts) {
+            for (int row = 0; row < image.height; ++row) {
+                std::copy_n(image.rgba.begin() + row * image.width * 4, image.width * 4,
+                            shown.rgba.begin() + ((y + row) * shown.width + x) * 4);
+            }
+            texels += image.rgba.size() / 4;
+        }
+        EXPECT_TRUE(shown.rgba == all.rgba);
+        return made.isNew;
+    };
+    EXPECT_TRUE(update());
+    EXPECT_FALSE(update());
+    EXPECT_EQ(texels, 0u);
+
+    BrushSettings brush;
+    brush.pixels = true;
+    brush.sizePixels.value = 30;
+    auto const stroke = std::make_shared<GrowingStroke>(one, brush);
+    stroke->add({{100, 30}, {200, 30}});
+    ASSERT_TRUE(painting.setPixels(id, 1, stroke->pixels()));
+    update();
+    EXPECT_EQ(texels, 3u * 64 * 64) << "the tiles under the stroke";
+    stroke->add({{200, 200}});
+    stroke->end();
+    undo.push(std::make_unique<example::PaintCommand>(
+                  QStringLiteral("Paint"), painting, queue, *renderer.api(), id, 1u,
+                  [stroke](LayerPixels& pixels) { pixels = stroke->pixels(); },
+                  [stroke] { return stroke->before(); })
+                  .release());
+    update();
+    undo.undo();
+    EXPECT_TRUE(pixels() == one);
+    update();
+    EXPECT_EQ(texels, 9u * 64 * 64);
+    undo.redo();
+    EXPECT_TRUE(pixels() == stroke->pixels());
+    update();
+
+    nyxCustomSurface* const surface =
+        nyx_painter_factory(renderer.scene())->create("svdag_painter")->surface(id);
+    surface->add_layer(1, 2);
+    update();
+    surface->set_layer_background(1, {0, 1, 0, 0.5f});
+    update();
+    EXPECT_EQ(texels, 256u * 256);
+    painting.paint(id, 2, dot(250, 250, 4));
+    update();
+    EXPECT_EQ(texels, 64u * 64);
+    surface->set_layer_blend_mode(1, nyx::ColorBlendMode::Multiply);
+    surface->move_layer(0, 1);
+    update();
+    surface->set_layer_visible(1, false);
+    update();
+    id = painting.addSurface("", 100); // an edge that no tile ends at
+    painting.paint(id, 1, dot(99, 99, 4));
+    EXPECT_TRUE(update());
+    id = nyx::SurfaceId(77);
+    EXPECT_TRUE(update());
 }
 
 TEST_F(PaintCommandTest, taskOutlivesItsCommandAndRespectsChanges) {

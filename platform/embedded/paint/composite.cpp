@@ -141,23 +141,26 @@ private:
 
 } // namespace
 
-Image composite(std::vector<CompositeLayer> const& layers, int resolution) {
-    auto const size = static_cast<std::size_t>(resolution);
-    Image image{resolution, resolution, std::vector<std::uint8_t>(size * size * 4)};
-    int const tileRows = (resolution + edge - 1) / edge;
-    std::atomic<int> next = 0;
+Image composite(std::vector<CompositeLayer> const& layers, int resolution, TileArea const& area) {
+    auto const texels = [resolution](int begin, int end) {
+        return std::max(0, std::min(end * edge, resolution) - begin * edge);
+    };
+    Image image{texels(area.left, area.right), texels(area.top, area.bottom), {}};
+    image.rgba.resize(static_cast<std::size_t>(image.width) *
+                      static_cast<std::size_t>(image.height) * 4);
+    std::atomic<int> next = area.top;
     auto const work = [&](TileStack& stack) noexcept {
-        for (int row = next++; row < tileRows; row = next++) {
-            for (int left = 0; left < resolution; left += edge) {
-                if (PixelTile const* const tile = stack.composite(left / edge, row)) {
-                    copyOut(*tile, image, left, row * edge);
+        for (int row = next++; row < area.bottom; row = next++) {
+            for (int column = area.left; column < area.right; ++column) {
+                if (PixelTile const* const tile = stack.composite(column, row)) {
+                    copyOut(*tile, image, (column - area.left) * edge, (row - area.top) * edge);
                 }
             }
         }
     };
     // What a worker needs is made before the first begins: no worker can fail.
-    auto const shares =
-        std::min(std::thread::hardware_concurrency(), static_cast<unsigned>(tileRows / fewestRows));
+    auto const shares = std::min(std::thread::hardware_concurrency(),
+                                 static_cast<unsigned>((area.bottom - area.top) / fewestRows));
     std::vector<std::unique_ptr<TileStack>> stacks;
     for (unsigned i = 0; i == 0 || i < shares; ++i) {
         stacks.push_back(std::make_unique<TileStack>(layers));

@@ -15,8 +15,16 @@ struct CompositeLayer {
     LayerPixels pixels;
 };
 
-/// Layers of one resolution from the bottom up, each blended into those below it (see blendTile).
-/// Big ones are shared between the processors; the result is the same.
-[[nodiscard]] Image composite(std::vector<CompositeLayer> const& layers, int resolution);
+/// A rectangle of tiles; the ends are the first that do not belong to it.
+struct TileArea {
+    int left = 0, top = 0;
+    int right = 0, bottom = 0;
+};
+
+/// Layers of one resolution from the bottom up, each blended into those below it (see blendTile):
+/// the texels of an area that lie within the resolution. Big areas are shared between the
+/// processors; the result is the same.
+[[nodiscard]] Image composite(std::vector<CompositeLayer> const& layers, int resolution,
+                              TileArea const& area);
 
 } // namespace nyx::embedded

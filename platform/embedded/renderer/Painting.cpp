@@ -1,5 +1,6 @@
 #include "nyxembedded/Painting.h"
 
+#include "nyxembedded/PixelTile.h"
 #include "renderer/upToZero.h"
 #include "store/Surfaces.h"
 
@@ -41,7 +42,12 @@ bool Painting::paint(nyx::SurfaceId id, std::uint32_t layer, Stroke const& strok
 
 Image Painting::composite(nyx::SurfaceId id) const {
     Surface const* const surface = surfaces_.find(id);
-    return surface ? surface->composite() : Image();
+    if (!surface) {
+        return {};
+    }
+    Surface::Shown const shown = surface->shown();
+    int const across = (shown.resolution + PixelTile::edge - 1) / PixelTile::edge;
+    return nyx::embedded::composite(shown.layers, shown.resolution, {0, 0, across, across});
 }
 
 } // namespace nyx::embedded

@@ -1,7 +1,6 @@
 #include "store/Surface.h"
 
 #include "nyxembedded/Journal.h"
-#include "paint/composite.h"
 #include "paint/paintStroke.h"
 #include "store/StringPool.h"
 
@@ -219,20 +218,16 @@ bool Surface::paint(std::uint32_t layerId, Stroke const& stroke) {
     return true;
 }
 
-Image Surface::composite() const {
-    std::vector<CompositeLayer> shown;
-    int resolution = 0;
-    {
-        // Snapshots, so that nobody waits for the picture.
-        Guard const guard(mutex_);
-        resolution = resolution_;
-        for (Layer const* const layer : layers_) {
-            if (layer->info.visible && !layer->info.deleted) {
-                shown.push_back({layer->info.mode, layer->info.background, layer->pixels});
-            }
+Surface::Shown Surface::shown() const {
+    Guard const guard(mutex_);
+    Shown shown;
+    shown.resolution = resolution_;
+    for (Layer const* const layer : layers_) {
+        if (layer->info.visible && !layer->info.deleted) {
+            shown.layers.push_back({layer->info.mode, layer->info.background, layer->pixels});
         }
     }
-    return nyx::embedded::composite(shown, resolution);
+    return shown;
 }
 
 bool Surface::resample(int resolution) {

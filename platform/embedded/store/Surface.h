@@ -1,10 +1,10 @@
 #pragma once
 
-#include "nyxembedded/Image.h"
 #include "nyxembedded/LayerPixels.h"
 #include "nyxembedded/Stroke.h"
 #include "nyxembedded/SurfaceInfo.h"
 #include "nyxrender/nyxCustomSurface.h"
+#include "paint/composite.h"
 
 #include <memory>
 #include <mutex>
@@ -62,8 +62,12 @@ public:
     /// False for an unknown layer, and for pixels of another resolution.
     bool setPixels(std::uint32_t layerId, LayerPixels pixels);
     bool paint(std::uint32_t layerId, Stroke const& stroke);
-    /// Everything that is visible and not deleted.
-    [[nodiscard]] Image composite() const;
+    /// Snapshots of the layers that are visible and not deleted, from the bottom up.
+    struct Shown {
+        std::vector<CompositeLayer> layers;
+        int resolution = 0;
+    };
+    [[nodiscard]] Shown shown() const;
     /// False when the resolution is out of range.
     bool resample(int resolution);
     /// Lets go of the pixels of a surface that is no longer part of the scene.

@@ -14,6 +14,7 @@
 
 namespace nyx::embedded {
 
+class SurfacePicture;
 class Surfaces;
 
 /// What is painted on the surfaces of a scene. Any thread; each call is atomic. A host paints from
@@ -43,6 +44,8 @@ public:
     [[nodiscard]] Image composite(nyx::SurfaceId id) const;
 
 private:
+    friend class SurfacePicture;
+
     Surfaces& surfaces_;
 };
 
