@@ -64,9 +64,12 @@ public:
     [[nodiscard]] std::string save(std::string const& path) { return embedded_.saveScene(path); }
     [[nodiscard]] std::string saveText() { return embedded_.saveSceneText(); }
 
-    /// Asks whoever feeds commands to stop.
-    void requestEnd() { endRequested_ = true; }
-    [[nodiscard]] bool endRequested() const { return endRequested_; }
+    /// Whether whoever feeds commands is to stop: when that loses no unsaved edits, about which a
+    /// terminal asks, or whatever is lost.
+    enum class End { No, WhenSaved, Now };
+    void requestEnd(End end) { end_ = end; }
+    [[nodiscard]] End end() const { return end_; }
+    [[nodiscard]] bool endRequested() const { return end_ != End::No; }
 
     /// What a family of commands keeps between them, made at the first request. It lives as long as
     /// the host, so it may refer to nothing of the root or the scene, which loading replaces.
@@ -96,7 +99,7 @@ private:
     std::string path_;
     std::function<void(zsg::ISceneGraph*)> watcher_;
     EventPrinter eventPrinter_;
-    bool endRequested_ = false;
+    End end_ = End::No;
     States states_;
     // These two refer to the root of the embedded host, which tells before it ends one.
     States sceneStates_;

@@ -2,6 +2,7 @@
 
 #include "host/CommandTable.h"
 #include "host/Host.h"
+#include "host/Interruption.h"
 #include "host/LineReader.h"
 #include "host/printable.h"
 
@@ -118,10 +119,17 @@ int Interpreter::runScript(std::istream& in, std::string const& name, bool keepG
                 echoLine(host_.out(), line);
             }
             run(line);
+            endIfInterrupted();
         } catch (std::exception const& error) {
+            std::string const text =
+                printable(name) + ':' + std::to_string(number) + ": " + error.what();
+            auto const* const ours = dynamic_cast<CommandError const*>(&error);
+            if (ours && ours->code() == std::string_view("interrupted")) {
+                throw CommandError(text, ours->code()); // the whole script is meant
+            }
             ++failures;
             host_.out().flush();
-            errors << printable(name) << ':' << number << ": " << error.what() << std::endl;
+            errors << text << std::endl;
             if (!keepGoing) {
                 break;
             }

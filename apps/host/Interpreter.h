@@ -40,7 +40,8 @@ public:
     void echo(bool on) { echo_ = on; }
 
     /// Runs a script. A failing command is reported on `errors` as "file:line: message" and ends
-    /// the script, or, with `keepGoing`, only counts. Returns how many failed.
+    /// the script, or, with `keepGoing`, only counts. Returns how many failed. Throws CommandError,
+    /// with place and code, when it is interrupted.
     int runScript(std::istream& in, std::string const& name, bool keepGoing, std::ostream& errors);
     /// The same for the file of a path (UTF-8), which may be a pipe or a device. One that cannot be
     /// opened is reported on `errors` and counts as one failure.

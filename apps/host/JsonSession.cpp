@@ -4,6 +4,7 @@
 #include "host/CommandResult.h"
 #include "host/Host.h"
 #include "host/Interpreter.h"
+#include "host/Interruption.h"
 #include "host/LineReader.h"
 
 #include "zsg/version.h"
@@ -124,6 +125,7 @@ int runJsonSession(Interpreter& interpreter, Host& host, std::istream& in, std::
         host.setOut(output);
         host.events().clear();
         result.value = nullptr;
+        takeInterruption(); // of a command that had ended already
         Json answer = Json::object();
         Json error;
         try {

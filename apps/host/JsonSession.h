@@ -15,7 +15,7 @@ class Interpreter;
 /// edits that can be taken back, "redo": edits, "clean": whether it is the saved state, "text": of
 /// the last edit}, "events": [{"id": n, "type": text, "payload": text}]}, or "ok": false with
 /// "error":
-/// {"code": "unknown-command", "usage", "failed", "bad-json", "bad-request" or
+/// {"code": "unknown-command", "usage", "failed", "interrupted", "bad-json", "bad-request" or
 /// "too-long", "message": text}. Every request is answered by one line, also an unreadable one.
 /// Returns the exit code: 1 when any failed.
 int runJsonSession(Interpreter& interpreter, Host& host, std::istream& in, std::ostream& out);

@@ -2,6 +2,7 @@
 #include "host/Arguments.h"
 #include "host/Host.h"
 #include "host/IORLint.h"
+#include "host/Interruption.h"
 #include "host/JsonSession.h"
 #include "host/LineReader.h"
 #include "support/sourceDir.h"
@@ -104,6 +105,35 @@ TEST_F(InterpreterTest, ARequestThatIsNestedTooDeeplyIsRefused) {
     std::ostringstream answers;
     EXPECT_EQ(app::runJsonSession(interpreter, host, in, answers), 1);
     EXPECT_THAT(answers.str(), HasSubstr("nested deeper than 64"));
+}
+
+TEST_F(InterpreterTest, AnInterruptionEndsTheCommandAndTheScriptsThatItIsIn) {
+    interpreter.setOwnCommands([](auto const& words) {
+        bool const isOurs = words.front() == "interrupt";
+        if (isOurs) {
+            app::requestInterruption();
+        }
+        return isOurs;
+    });
+    try {
+        script("history\ninterrupt\nundo\n", true);
+        ADD_FAILURE() << "it went on";
+    } catch (app::CommandError const& error) {
+        EXPECT_STREQ(error.what(), "test.zsg:2: interrupted");
+    }
+    app::requestInterruption(); // too late for the request before
+    std::istringstream in("{\"command\": \"color set Teal Gold\"}\n{\"command\": \"undo\"}\n");
+    std::ostringstream answers;
+    EXPECT_EQ(app::runJsonSession(interpreter, host, in, answers), 0) << answers.str();
+    interpreter.setOwnCommands([](auto const&) {
+        app::requestInterruption(); // as soon as the command runs
+        return false;
+    });
+    std::istringstream again("{\"command\": \"redo\"}\n");
+    EXPECT_EQ(app::runJsonSession(interpreter, host, again, answers), 1);
+    EXPECT_THAT(answers.str(),
+                HasSubstr("{\"code\":\"interrupted\",\"message\":\"redo: interrupted\"}"));
+    EXPECT_EQ(host.undoStack().index(), 0);
 }
 
 TEST(IORLint, EachKindOfTroubleIsNamedAtItsFirstPlace) {

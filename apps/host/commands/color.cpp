@@ -2,6 +2,7 @@
 #include "host/Command.h"
 #include "host/CommandResult.h"
 #include "host/Host.h"
+#include "host/Interruption.h"
 #include "host/pictures/PictureFile.h"
 #include "host/pictures/colorCards.h"
 #include "host/printable.h"
@@ -152,6 +153,7 @@ void drag(Host& host, Arguments& arguments) {
                                    ? host.root().colorDB()->getColorParameters(id)->color()
                                    : nyxColor_rgba{};
     for (int i = 1; i <= steps; ++i) {
+        endIfInterrupted();
         float const t = static_cast<float>(i) / static_cast<float>(steps);
         auto const mix = [t](float a, float b) { return a + (b - a) * t; };
         controller(host).setColor(

@@ -5,11 +5,16 @@ namespace app {
 
 namespace {
 
-void quit(Host& host, Arguments&) { host.requestEnd(); }
+template <Host::End end>
+void quit(Host& host, Arguments&) {
+    host.requestEnd(end);
+}
 
 constexpr Command table[] = {
-    {"quit", "", "end the session", "quit", quit},
-    {"exit", "", "end the session", "exit", quit},
+    {"quit", "", "end the session; a terminal asks about unsaved edits", "quit",
+     quit<Host::End::WhenSaved>},
+    {"exit", "", "the same", "exit", quit<Host::End::WhenSaved>},
+    {"quit!", "", "end the session, saved or not", "quit!", quit<Host::End::Now>},
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "host/Host.h"
 #include "host/Interpreter.h"
 
+#include <memory>
 #include <sstream>
 
 namespace app {
@@ -24,8 +25,9 @@ void read(Host& host, Arguments& arguments) {
     }
     std::ostringstream errors;
     ++files;
+    auto const leave = [](int* count) { --*count; };
+    std::unique_ptr<int, decltype(leave)> const entered(&files, leave);
     int const failures = Interpreter(host).runScriptFile(path, false, errors);
-    --files;
     if (failures != 0) {
         std::string message = errors.str();
         message.pop_back(); // its line end

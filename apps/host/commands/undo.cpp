@@ -1,5 +1,6 @@
 #include "host/Command.h"
 #include "host/Host.h"
+#include "host/Interruption.h"
 #include "host/printable.h"
 
 #include <ostream>
@@ -31,6 +32,7 @@ void repeat(Host& host, Arguments& arguments, Way const& way) {
     }
     int done = 0;
     for (; (all || count > 0) && (stack.*way.possible)(); --count) {
+        endIfInterrupted();
         QString const text = stack.text(stack.index() + way.offset);
         if (!(stack.*way.step)()) {
             throw CommandError('"' + text.toStdString() + "\" could not be carried out");
