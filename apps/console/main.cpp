@@ -1,4 +1,5 @@
 #include "console/Application.h"
+#include "console/Interrupts.h"
 #include "console/StandardStreams.h"
 #include "console/Terminal.h"
 #include "host/Host.h"
@@ -126,9 +127,13 @@ int main(int argc, char** argv) {
     interpreter.echo(options.echo);
     interpreter.showSwatches(showsColors() && !options.jsonLines);
     int failures = 0;
+    bool const atTerminal = !options.jsonLines && !options.hasScript && isTerminal();
+    if (options.jsonLines || atTerminal) {
+        catchInterrupts();
+    }
     if (options.jsonLines) {
         failures = app::runJsonSession(interpreter, host, std::cin, std::cout);
-    } else if (!options.hasScript && isTerminal()) {
+    } else if (atTerminal) {
         runTerminalSession(interpreter, host);
     } else {
         // Standard input that is no terminal is a script without a name.
