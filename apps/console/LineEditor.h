@@ -1,9 +1,34 @@
 #pragma once
 
-#include <optional>
-#include <string>
+#include "host/Completion.h"
 
-/// Asks for a line at the terminal; nothing at the end of input. With libedit the line can be
-/// edited, called back from the history, and completed to the name of a command by Tab; without it
-/// the terminal does what it can.
-[[nodiscard]] std::optional<std::string> editLine(char const* prompt);
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+/// Asks for lines at the terminal. With libedit they can be edited, called back from the history of
+/// this and of earlier sessions, and completed by Tab; without it the terminal does what it can.
+class LineEditor {
+public:
+    enum class Result {
+        Line,
+        Interrupted, ///< by Ctrl-C; what was typed is forgotten
+        End,         ///< of input
+    };
+    using Complete = std::function<app::Completion(std::string_view line)>;
+
+    explicit LineEditor(Complete complete);
+    ~LineEditor();
+    LineEditor(LineEditor const&) = delete;
+    LineEditor& operator=(LineEditor const&) = delete;
+
+    /// A command, which the history keeps.
+    Result readCommand(char const* prompt, std::string& line);
+    /// The answer to a question, which it does not.
+    Result readAnswer(char const* prompt, std::string& line);
+
+private:
+    class Impl;
+    std::unique_ptr<Impl> impl_;
+};
