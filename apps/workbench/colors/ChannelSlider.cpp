@@ -15,7 +15,6 @@ ChannelSlider::ChannelSlider(QWidget* parent) : QAbstractSlider(parent) {
     setPageStep(steps / 10);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    ramp_.fill(Qt::gray);
     auto* const drag = new PointerDrag(*this, [](QPointF const&) { return true; });
     connect(drag, &PointerDrag::pressed, this, [this] { setSliderDown(true); });
     connect(drag, &PointerDrag::moved, this, [this](QPointF const& at) {
@@ -46,17 +45,24 @@ QSize ChannelSlider::sizeHint() const {
 void ChannelSlider::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QRect const bar = rect().adjusted(2, 2, -2, -2);
-    QLinearGradient gradient(bar.topLeft(), bar.topRight());
-    for (std::size_t i = 0; i < ramp_.size(); ++i) {
-        gradient.setColorAt(double(i) / double(ramp_.size() - 1), ramp_[i]);
+    double const x = bar.left() + double(value()) / steps * bar.width();
+    if (ramp_) {
+        QLinearGradient gradient(bar.topLeft(), bar.topRight());
+        for (std::size_t i = 0; i < ramp_->size(); ++i) {
+            gradient.setColorAt(double(i) / double(ramp_->size() - 1), (*ramp_)[i]);
+        }
+        painter.fillRect(bar, Qt::white);
+        painter.fillRect(bar, QBrush(QColor(0xb0, 0xb0, 0xb0), Qt::Dense4Pattern));
+        painter.fillRect(bar, gradient);
+    } else {
+        auto const group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+        painter.fillRect(bar, palette().color(group, QPalette::Base));
+        painter.fillRect(QRectF(bar.topLeft(), QPointF(x, bar.bottom())),
+                         palette().color(group, QPalette::Mid));
     }
-    painter.fillRect(bar, Qt::white);
-    painter.fillRect(bar, QBrush(QColor(0xb0, 0xb0, 0xb0), Qt::Dense4Pattern));
-    painter.fillRect(bar, gradient);
     painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2)
                               : QPen(QColor(0x80, 0x80, 0x80)));
     painter.drawRect(bar);
-    double const x = bar.left() + double(value()) / steps * bar.width();
     painter.setPen(QPen(Qt::black, 3));
     painter.drawLine(QPointF(x, bar.top()), QPointF(x, bar.bottom()));
     painter.setPen(QPen(Qt::white, 1));

@@ -4,10 +4,12 @@
 #include <QColor>
 
 #include <array>
+#include <optional>
 
 namespace workbench {
 
-/// A bar for one channel of a colour, painted with the colours that its values would give. A press
+/// A bar for one number, such as a channel of a colour; with a ramp it is painted with the colours
+/// that its values would give, else it is filled up to the value. A press
 /// alone changes nothing; a move sets the value under the pointer. The wheel works only with the
 /// focus, so that scrolling past changes nothing.
 class ChannelSlider final : public QAbstractSlider {
@@ -34,7 +36,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    Ramp ramp_;
+    std::optional<Ramp> ramp_;
 };
 
 } // namespace workbench
