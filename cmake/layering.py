@@ -50,7 +50,7 @@ ROWS = [
      "declarations export core values colors materials lightlayers painting|material manager"
      "|facade headers|nyxembedded headers|example of painting"),
     ("panels", "apps/workbench/scene/* apps/workbench/colors/* apps/workbench/history/*"
-     " apps/workbench/events/* apps/workbench/painting/*"
+     " apps/workbench/events/* apps/workbench/painting/* apps/workbench/values/*"
      " apps/workbench/lights/* apps/workbench/materials/*",
      "declarations export core values colors materials lightlayers painting host"
      "|material manager"),

@@ -37,6 +37,7 @@ public:
             document_.loadedFrom(QString::fromStdString(document_.host_.path()));
         }
         document_.scene_.flush();
+        document_.scene_.noteCommands();
     }
     CommandRun(CommandRun const&) = delete;
     CommandRun& operator=(CommandRun const&) = delete;

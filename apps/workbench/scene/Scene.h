@@ -62,6 +62,8 @@ public:
     void endDrags() { emit dragsEnding(); }
     /// A line for the user that needs no answer.
     void say(QString const& text) { emit said(text); }
+    /// To be called when commands of the console are through.
+    void noteCommands() { emit commandsRan(); }
     /// To be called after a change that no entry of the history stands for.
     void noteUnrecordedChange() { emit changedUnrecorded(); }
 
@@ -73,6 +75,8 @@ signals:
     void rootEnding();
     void said(QString const& text);
     void changedUnrecorded();
+    /// Commands of the console are through: what no event tells of may have changed as well.
+    void commandsRan();
 
 private:
     void report(bool done);
