@@ -1,0 +1,45 @@
+#include "workbench/values/ValueField.h"
+
+#include "workbench/values/ChoiceField.h"
+#include "workbench/values/ColorField.h"
+#include "workbench/values/NumberField.h"
+#include "workbench/values/NumbersField.h"
+#include "workbench/values/SummaryField.h"
+#include "workbench/values/TextField.h"
+#include "workbench/values/ToggleField.h"
+
+namespace workbench {
+
+using zsg::Type;
+
+ValueField* makeField(zsg::Parameter const& parameter, QWidget* parent) {
+    switch (parameter.type()) {
+    case Type::Boolean:
+        return new ToggleField(parent);
+    case Type::Integer:
+    case Type::Float:
+    case Type::Double:
+        return new NumberField(parameter, parent);
+    case Type::Float2:
+    case Type::Float3:
+    case Type::Double3:
+    case Type::Matrix:
+        return new NumbersField(parameter.type(), parent);
+    case Type::Color:
+    case Type::ColorAlpha:
+        return new ColorField(parent);
+    case Type::Enumerable:
+        return new ChoiceField(parent);
+    case Type::IntegerList:
+    case Type::String:
+    case Type::StringList:
+    case Type::FilePath:
+    case Type::FloatArray:
+    case Type::AxaltaColor:
+        return new TextField(parameter.type(), parent);
+    default:
+        return new SummaryField(parent);
+    }
+}
+
+} // namespace workbench
