@@ -8,11 +8,11 @@
 #include <any>
 #include <functional>
 #include <iosfwd>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <typeindex>
+#include <unordered_map>
 
 namespace app {
 
@@ -84,7 +84,8 @@ public:
     }
 
 private:
-    using States = std::map<std::type_index, std::any>;
+    // By hash: MinGW's order of types is none where one of them is local to a file.
+    using States = std::unordered_map<std::type_index, std::any>;
 
     template <class State>
     static State& stateIn(States& states) {

@@ -68,7 +68,6 @@ std::vector<std::string> lintIOR(std::string const& text, std::string const& ext
     for (std::string line; std::getline(in, line);) {
         ++number;
         if (line.ends_with('\r')) {
-            say("ends in CR LF; a three-column line that does is skipped");
             line.pop_back();
         }
         if (pairs && pastHeader && blank(line)) {

@@ -1,13 +1,24 @@
 # What only a Windows build has: version resources, and the libraries that programs need beside
 # them.
 
-# zsg_add_version_resource(<target> <description>): what the properties of the file show.
+# zsg_add_version_resource(<target> <description>): what the properties of the file show, and for
+# a program what it asks of the system.
 function(zsg_add_version_resource target description)
     if(NOT WIN32)
         return()
     endif()
     string(REPLACE . , numbers ${PROJECT_VERSION})
     set(resource ${CMAKE_CURRENT_BINARY_DIR}/${target}.rc)
+    set(manifest "")
+    get_target_property(type ${target} TYPE)
+    if(type STREQUAL "EXECUTABLE")
+        set(file ${PROJECT_SOURCE_DIR}/cmake/windows/program.manifest)
+        if(MSVC) # whose linker merges it with its own
+            target_sources(${target} PRIVATE ${file})
+        else()
+            set(manifest "CREATEPROCESS_MANIFEST_RESOURCE_ID RT_MANIFEST \"${file}\"")
+        endif()
+    endif()
     configure_file(${PROJECT_SOURCE_DIR}/cmake/windows/version.rc.in ${resource} @ONLY)
     target_sources(${target} PRIVATE ${resource})
 endfunction()

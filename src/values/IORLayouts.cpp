@@ -11,14 +11,22 @@ namespace {
 
 constexpr std::size_t longestTableLine = 99;
 
-/// Takes the next line off a text; false at the end. A last line needs no line feed.
+/// Takes the next line off a text; false at the end. A last line needs no line feed, and a CR
+/// before a line feed is part of the line's end, as it is for a stream in text mode.
 bool takeLine(std::string_view& text, std::string_view& line) {
     if (text.empty()) {
         return false;
     }
     std::size_t const end = text.find('\n');
     line = text.substr(0, end);
-    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    if (end == std::string_view::npos) {
+        text = {};
+        return true;
+    }
+    text.remove_prefix(end + 1);
+    if (line.ends_with('\r')) {
+        line.remove_suffix(1);
+    }
     return true;
 }
 

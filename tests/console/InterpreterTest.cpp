@@ -141,7 +141,7 @@ TEST(IORLint, EachKindOfTroubleIsNamedAtItsFirstPlace) {
                 ElementsAre(HasSubstr("line 4: is blank"), HasSubstr("line 5: has a number in sci"),
                             HasSubstr("line 6: ends in a semicolon")));
     EXPECT_THAT(app::lintIOR("wavelength,n,k\r\n0.4,1.5,0\r\n" + std::string(120, '1'), "csv"),
-                ElementsAre(HasSubstr("line 1: ends in CR LF"), HasSubstr("100 characters")));
+                ElementsAre(HasSubstr("100 characters")));
     EXPECT_THAT(app::lintIOR("0.4,1.5,0\n0.7,1.5,0\n", "csv"),
                 ElementsAre(HasSubstr("micrometres")));
     EXPECT_THAT(app::lintIOR("400,1.5,0\n", "csv"), ElementsAre());

@@ -20,6 +20,8 @@ events show off
 journal record on
 ior load metal "$spelled/gold.csv"
 ior show metal
+ior load pairs "$spelled/copper.nk"
+ior show pairs
 cmf load "$spelled/furniture.json"
 cmf show
 weave load cloth "$spelled/cloth.json"
@@ -34,7 +36,8 @@ scene save "$spelled/saved.json"
 scene load "$spelled/saved.json"
 scene
 EOT
-    [[ $variant != crlf ]] || sed -i 's/$/\r/' "$2"/*.{json,zsg}
+    [[ $variant != crlf ]] || sed -i 's/$/\r/' "$2"/*.{json,csv,nk,zsg}
+    [[ $variant != protected ]] || chmod a-w "$2"/*
     env "${environment[@]}" "${console[@]}" "$spelled/scene.json" --script "$spelled/session.zsg" >"$variant.raw" ||
         { printf '%s: the session failed\n' "$variant"; exit 1; }
     # A path is shown as the system writes it.
@@ -43,7 +46,7 @@ EOT
 }
 
 cp "$examples/scenes/showroom.json" plain/scene.json
-cp "$examples"/{data/gold.csv,cmf/good/furniture.json,brushes/leaves.json,brushes/leaf.png} plain
+cp "$examples"/{data/gold.csv,data/copper.nk,cmf/good/furniture.json,brushes/leaves.json,brushes/leaf.png} plain
 printf 'weave new cloth twill 2 1\nweave save cloth plain/cloth.json\n' |
     "${console[@]}" plain/scene.json >make.out
 cp -r plain original
@@ -51,12 +54,13 @@ session plain plain
 
 deep=$(printf '%0100d/' 1 2 3)deep # beyond the 260 characters that Windows once had
 mkdir -p "${deep%/*}"
-for folder in "Füße 漆" "$deep" crlf comma; do
+for folder in "Füße 漆" "$deep" crlf protected comma; do
     cp -r original "$folder"
 done
 session letters "Füße 漆"
 session deep "$deep"
 session crlf crlf
+session protected protected
 if [[ -n ${WINEPREFIX-} ]]; then # another drive, which Wine takes from a link
     ln -sfn "$work" "$WINEPREFIX/dosdevices/x:"
     cp -r original drive

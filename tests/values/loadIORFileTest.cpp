@@ -93,6 +93,9 @@ TEST_F(LoadIORFile, TablesSkipWhatDoesNotFit) {
 
     std::string const tooLong = "500" + std::string(93, ' ') + ",1,2"; // 100 characters
     EXPECT_EQ(load("a.csv", "1,2,3\n" + tooLong + "\n4,5,6\n").values, (FloatArray{1, 2, 3}));
+    // The end of a line is not counted, nor does it keep a line from being read.
+    EXPECT_EQ(load("a.csv", "n\r\n4,5,6\r\n" + tooLong.substr(0, 99) + "\r\n7,8,9\r").wavelengths(),
+              (std::vector<float>{4, 500}));
     EXPECT_EQ(load("a.csv", tooLong.substr(0, 99) + "\n4,5,6\n").wavelengths(),
               (std::vector<float>{500, 4}));
 }

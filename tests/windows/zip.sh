@@ -36,9 +36,21 @@ for licence in Qt6Core+libpng libgcc+libstdc++ libwinpthread zlib nlohmann-json 
 done
 x86_64-w64-mingw32-objdump -s -j .rsrc "${root}bin/zscenegraph.dll" | grep -q 'F.i.l.e.V.e' ||
     fail "zscenegraph.dll has no version resource"
+grep -q longPathAware "${root}bin/zsg-console.exe" || fail "zsg-console.exe has no manifest"
 
-scene=$source/examples/scenes/showroom.json
-"$wine" "${root}bin/zsg-console.exe" check "$scene"
+# A system that has never seen the project.
+export WINEPREFIX=$work/wine WINEDLLOVERRIDES='mscoree,mshtml='
+unset WINEPATH
+"$wine" wineboot --init
+console=("$wine" "${root}bin/zsg-console.exe")
+"${console[@]}" --version | grep -q '^zsg-console [0-9]' || fail "the console has no version"
+ln -s "$source/examples" examples
+scene=examples/scenes/showroom.json
+"${console[@]}" check "$scene"
+for script in colour-session demo-2-values; do
+    "${console[@]}" "$scene" --script "examples/scripts/$script.zsg" >"$script.out"
+    cmp "$script.out" "examples/scripts/$script.out"
+done
 mkdir application
 cp "$source/tests/windows/application.txt" application/CMakeLists.txt
 cp "$source/examples/programs/first_steps.cpp" application

@@ -1,5 +1,6 @@
 #include "nyxembedded/writeFile.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QString>
@@ -30,6 +31,12 @@ public:
         if (present.isDir()) {
             return failed("is a folder");
         }
+#ifdef Q_OS_WIN
+        // In the words of the other systems, as scripts compare them.
+        if (!present.absoluteDir().exists()) {
+            return failed("No such file or directory");
+        }
+#endif
         // A device or a pipe would be replaced by a file.
         if (present.exists() && !present.isFile()) {
             return failed("is not a regular file");
