@@ -16,10 +16,13 @@
 #include "zsg/core/ISceneGraph.h"
 
 #include <QCoreApplication>
+#include <QTemporaryDir>
 
 #include <malloc.h>
+#include <unistd.h>
 
 #include <array>
+#include <fstream>
 #include <memory>
 #include <random>
 #include <unordered_map>
@@ -157,6 +160,42 @@ void loading() {
     })->Unit(benchmark::kMillisecond);
 }
 
+/// What stays resident of the process once a scene file of a million named colours is loaded, told
+/// as seconds per gigabyte.
+void memoryAfterLoading() {
+    bench::contestant(
+        "0", "resident after loading 1 M colours (1 s: 1 GB)", bench::ours,
+        [](benchmark::State& state) {
+            QTemporaryDir const folder;
+            std::string const path = folder.filePath("scene.json").toStdString();
+            {
+                nyx::embedded::Renderer renderer;
+                for (int i = 0; i < 1'000'000; ++i) {
+                    renderer.colors().add("Colour " + std::to_string(i), {0, 0, 0, 1});
+                }
+                if (!renderer.saveScene(path).empty()) {
+                    state.SkipWithError("the scene cannot be saved");
+                    return;
+                }
+            }
+            auto const resident = [] {
+                malloc_trim(0); // of what earlier rows have freed
+                std::size_t whole = 0;
+                std::size_t pages = 0;
+                std::ifstream("/proc/self/statm") >> whole >> pages;
+                return static_cast<double>(pages) * static_cast<double>(sysconf(_SC_PAGESIZE));
+            };
+            for (auto _ : state) {
+                double const before = resident();
+                nyx::embedded::Host host;
+                benchmark::DoNotOptimize(host.loadScene(path));
+                state.SetIterationTime((resident() - before) / 1e9);
+            }
+        })
+        ->UseManualTime()
+        ->Iterations(1);
+}
+
 void drags() {
     for (bool const plain : {true, false}) {
         bench::contestant("growth",
@@ -241,6 +280,7 @@ void mixed() {
 bool const registered = [] {
     editToEvent();
     loading();
+    memoryAfterLoading();
     wholeEdit();
     drags();
     mixed();

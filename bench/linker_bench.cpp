@@ -113,6 +113,68 @@ void addOneByOne() {
     bench::target({"growth", workload(large), bench::ours, 16, workload(small)});
 }
 
+/// One more operation on two long multi-colours without a colour in common, or on one whose places
+/// a material has; each on a scene of its own.
+template <class Operation>
+void onLongLists(std::string const& what, Operation operation) {
+    auto const workload = [&](std::size_t size) { return what + ", " + std::to_string(size); };
+    for (std::size_t const size : {small, large}) {
+        bench::contestant("growth", workload(size), bench::ours,
+                          [size, operation](benchmark::State& state) {
+                              for (auto _ : state) {
+                                  state.PauseTiming();
+                                  auto shelf = std::make_unique<Shelf>(2 * size);
+                                  ColorId const* const first = shelf->colors.data();
+                                  auto& colors = shelf->host.renderer().colors();
+                                  ColorId const one = colors.addMulti("One", {first, size}, *first);
+                                  ColorId const other =
+                                      colors.addMulti("Other", {first + size, size}, first[size]);
+                                  state.ResumeTiming();
+                                  operation(shelf->host.root(), one, other);
+                                  state.PauseTiming();
+                                  shelf.reset();
+                                  state.ResumeTiming();
+                              }
+                          })
+            ->Unit(benchmark::kMillisecond);
+    }
+    bench::target({"growth", workload(large), bench::ours, 5, workload(small)});
+}
+
+void longLists() {
+    onLongLists("clone a multi-colour with its sub-colours",
+                [](zsg::ISceneGraph& root, ColorId one, ColorId) {
+                    benchmark::DoNotOptimize(root.colorDB()->cloneRecursively(one));
+                });
+    onLongLists("merge two multi-colours", [](zsg::ISceneGraph& root, ColorId one, ColorId other) {
+        Answer answer(Resolution::Link);
+        root.colorDB()->getColorLinker(root.colorController(), &answer)->mergeSubColors(one, other);
+    });
+    auto const linkAll = [](std::size_t size) {
+        return "link a colour of " + std::to_string(size) + " places to another";
+    };
+    for (std::size_t const size : {small, large}) {
+        bench::contestant("growth", linkAll(size), bench::ours, [size](benchmark::State& state) {
+            for (auto _ : state) {
+                state.PauseTiming();
+                auto shelf = std::make_unique<Shelf>(2);
+                nyx::embedded::Renderer& renderer = shelf->host.renderer();
+                nyx::MaterialId const material = renderer.materials().add("Places");
+                for (std::size_t i = 0; i < size; ++i) {
+                    renderer.materials().bindColor(material, static_cast<unsigned>(i), "colour",
+                                                   shelf->colors[0]);
+                }
+                state.ResumeTiming();
+                shelf->host.root().colorController()->linkColor(shelf->colors[0], shelf->colors[1]);
+                state.PauseTiming();
+                shelf.reset();
+                state.ResumeTiming();
+            }
+        })->Unit(benchmark::kMillisecond);
+    }
+    bench::target({"growth", linkAll(large), bench::ours, 5, linkAll(small)});
+}
+
 // The renderer's index of names, by what it answers: many holders of one name, and many numbers.
 void nameRows() {
     auto const workload = [](std::size_t size) {
@@ -160,6 +222,7 @@ bool const registered = [] {
     importRows("linked", Resolution::Link, 5);
     importRows("renamed", Resolution::Rename, 5);
     addOneByOne();
+    longLists();
     nameRows();
     return true;
 }();

@@ -53,10 +53,12 @@ public:
             if (!c.seconds.contains(contestant)) {
                 c.order.push_back(contestant);
             }
-            // What other threads do costs the waiting one no time of its own.
-            bool const byTheClock = run.run_name.time_type.ends_with("real_time");
+            // What other threads do costs the waiting one no time of its own; and what a row states
+            // itself, such as bytes, is no processor time.
+            std::string const& type = run.run_name.time_type;
+            bool const stated = type.ends_with("real_time") || type.ends_with("manual_time");
             c.seconds[contestant].push_back(
-                (byTheClock ? run.real_accumulated_time : run.cpu_accumulated_time) /
+                (stated ? run.real_accumulated_time : run.cpu_accumulated_time) /
                 static_cast<double>(run.iterations));
         }
     }
