@@ -7,16 +7,19 @@
 #include "workbench/scene/Panel.h"
 #include "workbench/scene/Scene.h"
 
+#include "nyxembedded/writeFile.h"
 #include "zcore/ZUndoStack.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
+#include <QBuffer>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPixmap>
 #include <QStatusBar>
 #include <QStyle>
 #include <QTabWidget>
@@ -83,6 +86,16 @@ QPixmap MainWindow::picture(QString const& panelName) {
     }
     QDockWidget* const dock = docks_.value(panelName);
     return dock ? dock->grab() : panels_.value(panelName)->grab();
+}
+
+std::string MainWindow::writePicture(QString const& path, QString const& panelName) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    if (!picture(panelName).save(&buffer, "PNG")) {
+        return path.toStdString() + ": there is nothing to draw";
+    }
+    return nyx::embedded::writeFile(path.toStdString(), bytes.toStdString());
 }
 
 void MainWindow::setPaletteKind(PaletteKind kind) {

@@ -4,6 +4,8 @@
 #include <QMap>
 #include <QString>
 
+#include <string>
+
 class QDockWidget;
 class QTabWidget;
 
@@ -38,6 +40,8 @@ public:
     bool showPanel(QString const& name);
     /// A picture of the window, or of one panel; null for an unknown panel.
     [[nodiscard]] QPixmap picture(QString const& panelName = {});
+    /// Writes that as a .png file, whole or not at all. Empty, or what went wrong.
+    [[nodiscard]] std::string writePicture(QString const& path, QString const& panelName = {});
 
     /// Of the whole program.
     static void setPaletteKind(PaletteKind kind);

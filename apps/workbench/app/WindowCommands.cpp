@@ -6,8 +6,6 @@
 
 #include "host/Arguments.h"
 
-#include <QPixmap>
-
 namespace workbench {
 
 namespace {
@@ -32,8 +30,9 @@ void grab(MainWindow& window, app::Arguments& arguments) {
         takePanel(window, arguments, &name);
     }
     arguments.done();
-    if (!window.picture(name).save(QString::fromStdString(path), "PNG")) {
-        throw app::CommandError(path + ": cannot be written");
+    std::string const message = window.writePicture(QString::fromStdString(path), name);
+    if (!message.empty()) {
+        throw app::CommandError(message);
     }
 }
 

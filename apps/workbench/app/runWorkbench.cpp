@@ -9,7 +9,6 @@
 #include "host/printable.h"
 
 #include <QApplication>
-#include <QPixmap>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -36,10 +35,8 @@ int runBatch(CommandLine const& line, MainWindow& window) {
         return fail("--panel: there is no \"" + line.panel.toStdString() + "\"; there are " +
                     window.panelNames().join(", ").toStdString());
     }
-    if (!window.picture(line.panel).save(line.screenshot, "PNG")) {
-        return fail(line.screenshot.toStdString() + ": cannot be written");
-    }
-    return 0;
+    std::string const message = window.writePicture(line.screenshot, line.panel);
+    return message.empty() ? 0 : fail(message);
 }
 
 } // namespace
