@@ -15,9 +15,12 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     std::ostringstream out;
     app::Host host(out);
     app::Interpreter interpreter(host);
-    std::istringstream script("raw color create Red 1 0 0\nraw color create Green 0 1 0\n"
-                              "raw multi create Cover Red Green\n" +
-                              std::string(reinterpret_cast<char const*>(data), size));
+    // Not among the lines below: these must not fail.
+    for (char const* const made : {"raw color new Red 1 0 0", "raw color new Green 0 1 0",
+                                   "raw multi new Cover Red Green"}) {
+        interpreter.run(made);
+    }
+    std::istringstream script(std::string(reinterpret_cast<char const*>(data), size));
     std::string line;
     for (int lines = 0; lines < 40 && std::getline(script, line) && !host.endRequested();) {
         if (!isHarmless(line)) {
