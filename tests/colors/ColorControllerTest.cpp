@@ -3,6 +3,7 @@
 
 #include <QLoggingCategory>
 
+#include <memory>
 #include <utility>
 
 using namespace zsg;
@@ -63,8 +64,10 @@ TEST_F(ColorControllerTest, AListenerCannotPushAndLeavesNothingBehind) {
     QLoggingCategory::setFilterRules("zcore.undo=false");
     std::string const before = renderer.dump();
     nyx::ColorwayId made;
+    std::unique_ptr<ScopedMacro> refused;
     reaction = [&](Event const&) {
         auto const once = std::exchange(reaction, nullptr);
+        refused = edit.getScopedMacro("Refused");
         edit.setColor(green, ZColor(1, 1, 1), mergeNot);
         edit.setDisplayName(winter, "Ice");
         EXPECT_FALSE(edit.removeSubColors(cover, ids(red)));
@@ -78,6 +81,9 @@ TEST_F(ColorControllerTest, AListenerCannotPushAndLeavesNothingBehind) {
     EXPECT_EQ(db->getColorParameters(green)->color().r, 0);
     EXPECT_EQ(db->colorwayName(winter), "Winter");
     EXPECT_EQ(stack.macroDepth(), 0);
+    auto const own = edit.getScopedMacro("Own");
+    refused.reset();
+    EXPECT_EQ(stack.macroDepth(), 1) << "what did not begin ends nobody else's";
     QLoggingCategory::setFilterRules({});
 }
 

@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <functional>
 #include <utility>
 #include <vector>
@@ -25,7 +26,7 @@ protected:
         make->begin_color();
         make->set_param("display_name", nyxScene_api::TypeText, name);
         nyxColor_record* const record = make->end_color();
-        if (record == nullptr) {
+        if (!record) {
             return {};
         }
         record->flags |= flags;
@@ -35,7 +36,7 @@ protected:
     std::string uniqueName(char const* name, nyx::Span<ColorId> ignored = {}) {
         char* const text =
             nyx_color_find_unique_name(scene(), name, ignored, nyxColor_extended::PlainColor);
-        std::string const result = text == nullptr ? "(null)" : text;
+        std::string const result = text ? text : "(null)";
         nyx_free(text);
         return result;
     }
@@ -89,6 +90,8 @@ TEST_F(RendererColors, UniqueNamesSplitTheNumberOffAndTakeTheSmallestFreeOne) {
         }
         EXPECT_EQ(uniqueName(row.asked), row.unique);
         EXPECT_EQ(uniqueName(row.asked, made), row.asked) << "none of them counts";
+        std::ranges::reverse(made);
+        EXPECT_EQ(uniqueName(row.asked, made), row.asked) << "in whatever order";
         for (ColorId const id : made) {
             renderer.colors().remove(id);
         }
