@@ -118,7 +118,7 @@ struct PlainList {
     void add() {
         int largest = 0;
         for (nyxLayerInfo const& layer : layers) {
-            if (layer.name != nullptr && std::strncmp(layer.name, "Layer ", 6) == 0) {
+            if (layer.name && std::strncmp(layer.name, "Layer ", 6) == 0) {
                 largest = std::max(largest, std::atoi(layer.name + 6));
             }
         }

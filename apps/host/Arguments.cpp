@@ -21,7 +21,7 @@ T parse(std::string const& word, char const* expected) {
     return value;
 }
 
-// "#", six or eight hex digits, and the end of the word.
+/// "#", six or eight hex digits, and the end of the word.
 bool isHexColor(std::string_view text) {
     std::size_t const digits =
         std::min(text.find_first_not_of("0123456789abcdefABCDEF", 1), text.size()) - 1;

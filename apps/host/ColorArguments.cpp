@@ -34,7 +34,7 @@ bool isNumber(std::string const& word) {
     return error == std::errc() && last == end;
 }
 
-// Whole numbers above 1 are meant as bytes, and taken for light they would be a lamp.
+/// Whole numbers above 1 are meant as bytes, and taken for light they would be a lamp.
 float takeLinear(Arguments& arguments, char const* expected) {
     bool const isWhole =
         !arguments.empty() && arguments.peek().find_first_not_of("0123456789") == std::string::npos;
@@ -47,7 +47,7 @@ float takeLinear(Arguments& arguments, char const* expected) {
     return static_cast<float>(value);
 }
 
-// The words up to the closing bracket, for blanks may stand in between.
+/// The words up to the closing bracket, for blanks may stand in between.
 std::string takeBracket(Arguments& arguments) {
     std::string text = arguments.word(waysToWrite);
     while (text.back() != ')' && !arguments.empty()) {
@@ -82,7 +82,7 @@ nyxColor_rgba fromBracket(std::string const& text) {
     return color;
 }
 
-// All ways but that of the linear numbers.
+/// All ways but that of the linear numbers.
 nyxColor_rgba takeWrittenColor(Host& host, Arguments& arguments) {
     if (!arguments.empty() &&
         (arguments.peek().starts_with("rgb(") || arguments.peek().starts_with("rgba("))) {

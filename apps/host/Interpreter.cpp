@@ -18,7 +18,7 @@ namespace app {
 
 namespace {
 
-// A block of the colour before each "#rrggbb", in the escape sequences of a terminal.
+/// A block of the colour before each "#rrggbb", in the escape sequences of a terminal.
 std::string withSwatches(std::string const& text) {
     constexpr std::string_view hex = "0123456789abcdef";
     std::string result;
@@ -37,7 +37,7 @@ std::string withSwatches(std::string const& text) {
     return result + text.substr(done);
 }
 
-// Without what a library puts in front for its own developers.
+/// Without what a library puts in front for its own developers.
 std::string message(std::exception const& error) {
     std::string text = error.what();
     std::size_t const begin = text.find("[json.exception.");

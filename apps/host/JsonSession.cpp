@@ -36,7 +36,7 @@ Json parse(std::string const& line) {
     }
 }
 
-// A word of a list: numbers and truths are written as people type them.
+/// A word of a list: numbers and truths are written as people type them.
 std::string wordOf(Json const& word) {
     if (word.is_boolean()) {
         return word.get<bool>() ? "on" : "off";
@@ -78,8 +78,8 @@ Json lines(std::string const& text) {
     return list;
 }
 
-// ASCII only: whoever reads it decodes the names, and a terminal obeys nothing in them. Names of a
-// scene are UTF-8; what is not is shown as the replacement character.
+/// ASCII only: whoever reads it decodes the names, and a terminal obeys nothing in them. Names of a
+/// scene are UTF-8; what is not is shown as the replacement character.
 void write(std::ostream& out, Json const& line) {
     out << line.dump(-1, ' ', true, Json::error_handler_t::replace) << std::endl;
 }

@@ -14,7 +14,7 @@ using zsg::Type;
 
 float takeFloat(Arguments& arguments) { return static_cast<float>(arguments.real("a number")); }
 
-// LABEL... [select N]; the ids count from 0.
+/// LABEL... [select N]; the ids count from 0.
 zsg::Enumerable takeEnumerable(Arguments& arguments) {
     zsg::Enumerable options;
     while (!arguments.empty()) {

@@ -27,7 +27,7 @@ std::vector<std::string> split(std::string_view text, char at) {
     return parts;
 }
 
-// "[X [Y...]]": brackets may be left out, dots repeat the place, or all that the bracket holds.
+/// "[X [Y...]]": brackets may be left out, dots repeat the place, or all that the bracket holds.
 std::vector<Place> placesOf(std::string_view text) {
     std::vector<Place> places;
     std::vector<std::size_t> open;
@@ -56,8 +56,8 @@ std::vector<Place> placesOf(std::string_view text) {
     return places;
 }
 
-// "NAME plain|twill N K|satin N STEP": where a small word follows a placeholder behind a bar, the
-// bar parts whole rows, as " | " does.
+/// "NAME plain|twill N K|satin N STEP": where a small word follows a placeholder behind a bar, the
+/// bar parts whole rows, as " | " does.
 std::vector<std::string> rowsOf(std::string_view arguments) {
     std::vector<std::string> rows;
     if (std::size_t const bar = arguments.find(" | "); bar != std::string_view::npos) {

@@ -8,7 +8,7 @@ namespace app {
 
 namespace {
 
-// Row by row of the usual table, of which the last two rows are kept.
+/// Row by row of the usual table, of which the last two rows are kept.
 std::size_t slips(std::string_view a, std::string_view b) {
     std::vector<std::size_t> before(b.size() + 1);
     std::vector<std::size_t> last(b.size() + 1);

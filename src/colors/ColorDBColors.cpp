@@ -202,7 +202,7 @@ void ColorDB::setColorEdit(ZColorExtEdit const* edit) {
     announce<ColorUpdatedEvent>(eventQueue_, id);
 }
 
-// Makes a record, under the caller's lock; unnamed when the name is empty.
+/// Makes a record, under the caller's lock; unnamed when the name is empty.
 nyx::ColorId ColorDB::createRecord(std::string const& name, bool multi) {
     nyxScene* const current = scene();
     nyxScene_api* const api = nyx_get_scene_api(current);
@@ -236,7 +236,7 @@ nyx::ColorId ColorDB::createUniqueColor(std::string const& name, bool multi) {
     return id;
 }
 
-// A new record with the values of `source`; `wrapped` makes it a multi-colour around the source.
+/// A new record with the values of `source`; `wrapped` makes it a multi-colour around the source.
 nyx::ColorId ColorDB::copyRecord(nyx::ColorId source, bool wrapped) {
     nyx::ColorId id;
     {

@@ -53,7 +53,7 @@ public:
         }
     }
 
-    // A name like `name` that nothing has; empty when there is none.
+    /// A name like `name` that nothing has; empty when there is none.
     std::string take(std::string const& name) {
         std::string candidate = linker_.uniqueColorName(name);
         if (!candidate.empty() && taken_.contains(candidate)) {
@@ -70,7 +70,7 @@ public:
     }
 
 private:
-    // Without the blank and number at the end.
+    /// Without the blank and number at the end.
     static std::string baseOf(std::string const& name) {
         std::size_t const blank = name.find_last_not_of("0123456789");
         bool const isNumbered =

@@ -63,9 +63,8 @@ TEST(Host, LoadingBringsANewRootOrChangesNothing) {
     nyx::ColorId const red = host.renderer().colors().add("Red", {1, 0, 0, 1});
     std::string watched;
     host.watchRoot([&](zsg::ISceneGraph* root) {
-        watched +=
-            root == nullptr ? "ended " + std::to_string(host.undoStack().count()) + ' ' : "built ";
-        EXPECT_TRUE(root == nullptr || root == &host.root());
+        watched += root ? "built " : "ended " + std::to_string(host.undoStack().count()) + ' ';
+        EXPECT_TRUE(!root || root == &host.root());
     });
     host.root().colorController()->setDisplayName(red, "Ruby");
     zsg::ISceneGraph* const before = &host.root();

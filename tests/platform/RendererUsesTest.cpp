@@ -100,7 +100,7 @@ public:
     [[nodiscard]] std::vector<ColorId> listed(std::string const* name, std::uint32_t multi) const {
         std::vector<ColorId> ids;
         for (auto const& color : colors_) {
-            if ((color.flags & 5) == multi && (name == nullptr || color.name == *name)) {
+            if ((color.flags & 5) == multi && (!name || color.name == *name)) {
                 ids.push_back(color.id);
             }
         }

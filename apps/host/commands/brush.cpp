@@ -64,7 +64,7 @@ void printValue(std::ostream& out, Parameter const& p) {
         break;
     }
     default:
-        out << (p.value<nyxShader*>().value_or(nullptr) == nullptr ? "none" : "a shader");
+        out << (p.value<nyxShader*>().value_or(nullptr) ? "a shader" : "none");
     }
 }
 

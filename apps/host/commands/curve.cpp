@@ -83,7 +83,7 @@ void remove(Host& host, Arguments& arguments) {
     curve.removeKey(index);
 }
 
-// The exchange format: letters, then in.x in.y pos.x pos.y out.x out.y of each key.
+/// The exchange format: letters, then in.x in.y pos.x pos.y out.x out.y of each key.
 void load(Host& host, Arguments& arguments) {
     AnimationCurve& curve = take(host, arguments);
     std::string const types = arguments.word("the letters of the keys");

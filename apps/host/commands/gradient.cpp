@@ -29,7 +29,7 @@ struct Stop {
     float slopeRight = 0;
 };
 
-// LOCATION RGBA [slopes LEFT RIGHT]
+/// LOCATION RGBA [slopes LEFT RIGHT]
 Stop takeStop(Host& host, Arguments& arguments) {
     Stop stop;
     stop.location = static_cast<float>(arguments.real("a location"));

@@ -29,7 +29,7 @@ void printRows(std::ostream& out,
     }
 }
 
-// "undo, redo": what the commands of a family begin with.
+/// "undo, redo": what the commands of a family begin with.
 std::string firstWords(Family const& family) {
     std::string words;
     std::string_view last;

@@ -67,8 +67,8 @@ void reflectance(Host& host, Arguments& arguments) {
                << std::setprecision(6) << '\n';
 }
 
-// A picture for a terminal: columns of equal width in wavelength, n and k to one scale and R to its
-// own.
+/// A picture for a terminal: columns of equal width in wavelength, n and k to one scale and R to
+/// its own.
 void plot(Host& host, Arguments& arguments) {
     std::vector<MetalSample> const list = metalSamples(take(host, arguments));
     arguments.done();

@@ -33,7 +33,7 @@ private:
     Resolution resolution_;
 };
 
-// NAME RGBA, or NAME = ELEMENT RGBA ELEMENT RGBA ... for a multi-colour.
+/// NAME RGBA, or NAME = ELEMENT RGBA ELEMENT RGBA ... for a multi-colour.
 ZColorExt takeForeign(Host& host, Arguments& arguments) {
     std::string const text = arguments.word("a name");
     ZColorExt value;

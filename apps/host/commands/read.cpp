@@ -9,7 +9,7 @@ namespace app {
 
 namespace {
 
-// A file that reads itself must end.
+/// A file that reads itself must end.
 constexpr int deepest = 16;
 
 struct Depth {

@@ -23,7 +23,7 @@ void print(Host& host, zsg::Variant const& value) {
     host.out() << "  " << zsg::typeName(value.type()) << ' ' << value << '\n';
 }
 
-// Numbers, texts and truths as such; of the other types what is printed.
+/// Numbers, texts and truths as such; of the other types what is printed.
 nlohmann::ordered_json valueResult(zsg::Variant const& value) {
     switch (value.type()) {
     case zsg::Type::Boolean:

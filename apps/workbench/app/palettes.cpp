@@ -12,7 +12,7 @@ struct Tones {
     QRgb window, base, alternate, button, text, dim, accent, onAccent, link;
 };
 
-// Greys without a hue: coloured surroundings change how the swatches between them look.
+/// Greys without a hue: coloured surroundings change how the swatches between them look.
 QPalette paletteOf(Tones const& tones) {
     QPalette palette;
     auto const set = [&](QPalette::ColorRole role, QRgb rgb) { palette.setColor(role, rgb); };

@@ -27,7 +27,7 @@ std::string lineAndColumn(std::string const& text, std::size_t bytesRead) {
 /// The parser's own words without its prefix and without the token it read last: that may be the
 /// rest of the file, and need not be valid UTF-8.
 std::string reason(Json::exception const& error) {
-    if (dynamic_cast<Json::out_of_range const*>(&error) != nullptr) {
+    if (dynamic_cast<Json::out_of_range const*>(&error)) {
         return "number out of range";
     }
     std::string text = error.what();

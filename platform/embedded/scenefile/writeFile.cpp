@@ -20,8 +20,8 @@
 namespace nyx::embedded {
 namespace {
 
-// QSaveFile's own commit() is not enough: it forgets a write that took only a part, and ignores
-// what synchronising the file says.
+/// QSaveFile's own commit() is not enough: it forgets a write that took only a part, and ignores
+/// what synchronising the file says.
 class DiskTarget final : public FileTarget {
 public:
     explicit DiskTarget(std::string const& path) : file_(QString::fromStdString(path)) {}
