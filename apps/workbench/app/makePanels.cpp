@@ -9,6 +9,8 @@
 #include "workbench/colors/MultiColorPanel.h"
 #include "workbench/events/EventsPanel.h"
 #include "workbench/history/HistoryPanel.h"
+#include "workbench/lights/LightLayersPanel.h"
+#include "workbench/lights/LightMatrixPanel.h"
 
 namespace workbench {
 
@@ -24,9 +26,16 @@ void makePanels(MainWindow& window) {
     QObject::connect(colours, &ColorsPanel::currentChanged, multi, &MultiColorPanel::setColor);
     QObject::connect(colours, &ColorsPanel::currentChanged, editor, &ColorEditor::setColor);
 
+    auto* const lightLayers = new LightLayersPanel(scene);
+    auto* const matrix = new LightMatrixPanel(scene);
+    QObject::connect(lightLayers, &LightLayersPanel::assignmentWanted, matrix,
+                     &LightMatrixPanel::assignSelected);
+
     // The first one of a place is in front.
     window.addPanel(Place::LeftUpper, "colours", tr("Colours"), colours);
     window.addPanel(Place::LeftLower, "multicolour", tr("Multi-Colour"), multi);
+    window.addPanel(Place::LeftLower, "lightlayers", tr("Light Layers"), lightLayers);
+    window.addPanel(Place::Center, "matrix", tr("Matrix"), matrix);
     window.addPanel(Place::RightUpper, "coloreditor", tr("Colour Editor"), editor);
     window.addPanel(Place::RightLower, "history", tr("History"), new HistoryPanel(scene));
     window.addPanel(Place::Bottom, "colorways", tr("Colorways"), new ColorwaysPanel(scene));
