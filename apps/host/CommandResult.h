@@ -28,6 +28,11 @@ void addResult(Host& host, Make const& make) {
     }
 }
 
+/// One event as data.
+inline nlohmann::ordered_json eventResult(EventLog::Entry const& event) {
+    return {{"id", event.id}, {"type", event.typeText}, {"payload", event.payload}};
+}
+
 /// The result is a list, empty for now.
 inline void beginResultList(Host& host) {
     giveResult(host, [] { return nlohmann::ordered_json::array(); });

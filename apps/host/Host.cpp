@@ -19,8 +19,12 @@ Host::Host(std::ostream& out) : out_(&out) {
         if (!root) {
             return;
         }
-        events_.emplace(*root->eventQueue(),
-                        [this](EventLog::Entry const& e) { eventPrinter_.add(e, *out_); });
+        events_.emplace(*root->eventQueue(), [this](EventLog::Entry const& e) {
+            eventPrinter_.add(e, *out_);
+            if (eventWatcher_) {
+                eventWatcher_(e);
+            }
+        });
         if (watcher_) {
             watcher_(root);
         }

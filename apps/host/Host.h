@@ -34,6 +34,12 @@ public:
     /// before one ends, when the undo stack is empty already. It must not throw; there is one.
     void watchRoot(std::function<void(zsg::ISceneGraph*)> watcher);
 
+    /// `watcher` is told of each event, of this root and those that follow, besides the log; there
+    /// is one, and an empty one ends the watch.
+    void watchEvents(std::function<void(EventLog::Entry const&)> watcher) {
+        eventWatcher_ = std::move(watcher);
+    }
+
     /// Delivers what the renderer has to say.
     void pump();
 
@@ -99,6 +105,7 @@ private:
     std::ostream* out_;
     std::string path_;
     std::function<void(zsg::ISceneGraph*)> watcher_;
+    std::function<void(EventLog::Entry const&)> eventWatcher_;
     EventPrinter eventPrinter_;
     End end_ = End::No;
     States states_;

@@ -20,6 +20,9 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+/// A client may talk for weeks, so that what nobody counts is forgotten.
+constexpr std::size_t mostEvents = 1'000'000;
+
 // Copying, writing and comparing a value go as deep as it is nested.
 Json parse(std::string const& line) {
     constexpr int deepest = 64;
@@ -99,14 +102,6 @@ Json undoState(ZUndoStack const& stack) {
             {"text", stack.index() > 0 ? stack.text(stack.index() - 1).toStdString() : ""}};
 }
 
-Json eventList(EventLog const& log) {
-    Json events = Json::array();
-    for (EventLog::Entry const& event : log.entries()) {
-        events.push_back({{"id", event.id}, {"type", event.typeText}, {"payload", event.payload}});
-    }
-    return events;
-}
-
 } // namespace
 
 int runJsonSession(Interpreter& interpreter, Host& host, std::istream& in, std::ostream& out) {
@@ -114,6 +109,9 @@ int runJsonSession(Interpreter& interpreter, Host& host, std::istream& in, std::
     host.showEvents(EventPrinter::Show::Nothing);
     auto& result = host.state<CommandResult>();
     result.isWanted = true;
+    Json events = Json::array();
+    host.watchEvents(
+        [&events](EventLog::Entry const& event) { events.push_back(eventResult(event)); });
     write(out, greeting(host));
     std::string line;
     while (!host.endRequested()) {
@@ -123,7 +121,7 @@ int runJsonSession(Interpreter& interpreter, Host& host, std::istream& in, std::
         }
         std::ostringstream output;
         host.setOut(output);
-        host.events().clear();
+        events.clear();
         result.value = nullptr;
         takeInterruption(); // of a command that had ended already
         Json answer = Json::object();
@@ -154,12 +152,16 @@ int runJsonSession(Interpreter& interpreter, Host& host, std::istream& in, std::
         }
         answer["output"] = lines(output.str());
         answer["undo"] = undoState(host.undoStack());
-        answer["events"] = eventList(host.events());
+        answer["events"] = events;
         write(out, answer);
+        if (host.events().entries().size() > mostEvents) {
+            host.events().clear();
+        }
         if (read == ReadResult::TooLong) {
             skipLine(in);
         }
     }
+    host.watchEvents({});
     result.isWanted = false;
     return failed ? 1 : 0;
 }

@@ -7,6 +7,8 @@
 #include "zsg/lightlayers/ILightLayerApi.h"
 #include "zsg/lightlayers/ILightLayerController.h"
 
+#include <nlohmann/json.hpp>
+
 namespace app {
 
 namespace {
@@ -87,6 +89,12 @@ std::string layerLine(Host& host, nyx::LightLayerId layer) {
     return std::to_string(layer.toUint()) + ' ' + api.layerName(layer) +
            (flags == 0 ? "" : ", flags " + std::to_string(flags)) +
            ((flags & 0x1) != 0 ? ", inverted" : "") + ((flags & 0x10) != 0 ? ", deleted" : "");
+}
+
+nlohmann::ordered_json layerResult(Host& host, nyx::LightLayerId layer) {
+    zsg::ILightLayerApi const& api = lightLayers(host);
+    return {
+        {"id", layer.toUint()}, {"name", api.layerName(layer)}, {"flags", api.flags(layer).bits()}};
 }
 
 std::string itemLine(Host& host, nyx::GroupItemId item) {

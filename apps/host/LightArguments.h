@@ -4,6 +4,8 @@
 
 #include "nyxrender/Ids.h"
 
+#include <nlohmann/json_fwd.hpp>
+
 #include <string>
 #include <vector>
 
@@ -31,6 +33,8 @@ zsg::ILightLayerController& lightLayerController(Host& host);
 
 /// "2 Accent", with the flags when there are any.
 std::string layerLine(Host& host, nyx::LightLayerId layer);
+/// The same as data: id, name, flags.
+nlohmann::ordered_json layerResult(Host& host, nyx::LightLayerId layer);
 /// "24 Key Light".
 std::string itemLine(Host& host, nyx::GroupItemId item);
 

@@ -1,10 +1,12 @@
 #include "host/BrushPreset.h"
 #include "host/Command.h"
+#include "host/CommandResult.h"
 #include "host/CurrentBrush.h"
 #include "host/Host.h"
 #include "host/InputFile.h"
 #include "host/OutputFile.h"
 #include "host/ValueText.h"
+#include "host/parameterResult.h"
 #include "host/pictures/BrushSheet.h"
 #include "host/pictures/PictureFile.h"
 #include "host/sRGB.h"
@@ -122,11 +124,14 @@ void show(Host& host, Arguments& arguments) {
     if (!arguments.empty()) {
         Parameter const parameter = take(host, arguments);
         arguments.done();
+        giveResult(host, [&] { return parameterResult(parameter); });
         return print(host.out(), parameter);
     }
     QList<Parameter> parameters = currentBrush(host).parameters();
     std::ranges::sort(parameters, {}, &Parameter::name);
+    beginResultList(host);
     for (Parameter const& parameter : parameters) {
+        addResult(host, [&] { return parameterResult(parameter); });
         print(host.out(), parameter);
     }
 }

@@ -2,6 +2,7 @@
 
 #include "host/CMFLint.h"
 #include "host/Command.h"
+#include "host/CommandResult.h"
 #include "host/Host.h"
 #include "host/InputFile.h"
 #include "host/OutputFile.h"
@@ -80,6 +81,16 @@ void show(Host& host, Arguments&) {
                    << printable(attribute.name.toStdString())
                    << (attribute.visible ? "" : " (hidden)") << '\n';
     }
+    giveResult(host, [&] {
+        auto attributes = nlohmann::ordered_json::array();
+        for (ZCMFAttribute const& attribute : schema.attributes) {
+            attributes.push_back({{"name", attribute.name.toStdString()},
+                                  {"kind", kindText(attribute.kind)},
+                                  {"visible", attribute.visible}});
+        }
+        return nlohmann::ordered_json{{"name", schema.schemaName.toStdString()},
+                                      {"attributes", attributes}};
+    });
 }
 
 QByteArray readBytes(std::string const& path) {

@@ -102,8 +102,15 @@ void show(Host& host, Arguments& arguments) {
     nyxArray<float> data;
     std::string types;
     curve.store(data, types);
+    beginResultList(host);
     for (std::size_t i = 0; i < types.size(); ++i) {
         float const* const f = data.data() + 6 * i;
+        addResult(host, [&] {
+            return nlohmann::ordered_json{{"type", std::string(1, types[i])},
+                                          {"in", {f[0], f[1]}},
+                                          {"pos", {f[2], f[3]}},
+                                          {"out", {f[4], f[5]}}};
+        });
         host.out() << "  " << types[i] << " in " << f[0] << ' ' << f[1] << " pos " << f[2] << ' '
                    << f[3] << " out " << f[4] << ' ' << f[5] << '\n';
     }

@@ -1,4 +1,5 @@
 #include "host/Command.h"
+#include "host/CommandResult.h"
 #include "host/Host.h"
 
 #include "zsg/core/EventType.h"
@@ -10,8 +11,10 @@ namespace app {
 namespace {
 
 void list(Host& host, Arguments&) {
+    beginResultList(host);
     for (EventLog::Entry const& event : host.events().entries()) {
         host.out() << eventLine(event) << '\n';
+        addResult(host, [&] { return eventResult(event); });
     }
 }
 
@@ -26,7 +29,12 @@ void show(Host& host, Arguments& arguments) {
 void clear(Host& host, Arguments&) { host.events().clear(); }
 
 void types(Host& host, Arguments&) {
+    beginResultList(host);
     for (zsg::EventType const type : zsg::allEventTypes) {
+        addResult(host, [&] {
+            return nlohmann::ordered_json{{"id", static_cast<std::uint32_t>(type)},
+                                          {"name", zsg::eventTypeString(type)}};
+        });
         host.out() << static_cast<std::uint32_t>(type) << ' ' << zsg::eventTypeString(type) << '\n';
     }
 }

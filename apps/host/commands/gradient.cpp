@@ -93,6 +93,17 @@ void show(Host& host, Arguments& arguments) {
         host.out() << '\n';
     }
     host.out() << (gradient.blend() ? "  blends\n" : "  does not blend\n");
+    giveResult(host, [&] {
+        auto stops = nlohmann::ordered_json::array();
+        for (ColorGradientStop const& stop : gradient.getStops()) {
+            nyxColor_rgba const c = stop.getColor();
+            stops.push_back({{"location", stop.getLocation()},
+                             {"srgb", hexColorWithAlpha(c)},
+                             {"linear", {c.r, c.g, c.b, c.a}},
+                             {"slopes", {stop.getSlopeLeft(), stop.getSlopeRight()}}});
+        }
+        return nlohmann::ordered_json{{"blend", gradient.blend()}, {"stops", stops}};
+    });
 }
 
 void save(Host& host, Arguments& arguments) {

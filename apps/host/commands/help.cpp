@@ -43,13 +43,17 @@ std::string firstWords(Family const& family) {
     return words;
 }
 
-void overview(std::ostream& out) {
+void overview(Host& host) {
     std::vector<std::pair<std::string, std::string_view>> rows;
     for (Family const& family : families()) {
         rows.emplace_back(firstWords(family), family.help);
+        addResult(host, [&] {
+            return nlohmann::ordered_json{{"name", rows.back().first}, {"help", family.help}};
+        });
     }
-    printRows(out, rows);
-    out << "\"help WORD\" lists the commands that begin with a word, \"help all\" lists all.\n";
+    printRows(host.out(), rows);
+    host.out()
+        << "\"help WORD\" lists the commands that begin with a word, \"help all\" lists all.\n";
 }
 
 void help(Host& host, Arguments& arguments) {
@@ -59,7 +63,7 @@ void help(Host& host, Arguments& arguments) {
     }
     beginResultList(host);
     if (wanted.empty()) {
-        return overview(host.out());
+        return overview(host);
     }
     // "color" means the word, not "colorway" too; "colo" means all that begin so.
     auto const hasWords = [&](Command const* command) {

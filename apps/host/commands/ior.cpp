@@ -41,7 +41,14 @@ void load(Host& host, Arguments& arguments) {
 void show(Host& host, Arguments& arguments) {
     FloatArray const& triples = take(host, arguments);
     arguments.done();
+    beginResultList(host);
     for (MetalSample const& s : metalSamples(triples)) {
+        addResult(host, [&] {
+            return nlohmann::ordered_json{{"wavelength", s.wavelength},
+                                          {"n", s.n},
+                                          {"k", s.k},
+                                          {"reflectance", s.reflectance()}};
+        });
         host.out() << "  " << s.wavelength << " nm  n " << s.n << "  k " << s.k << "  R "
                    << std::fixed << std::setprecision(2) << s.reflectance() << std::defaultfloat
                    << std::setprecision(6) << '\n';

@@ -30,19 +30,21 @@ void print(Host& host, nyxLayerInfo const& layer, unsigned index) {
     host.out() << (layer.visible ? "" : ", hidden") << (layer.deleted ? ", deleted" : "") << '\n';
 }
 
+nlohmann::ordered_json paintLayerResult(Host& host, nyxLayerInfo const& layer, unsigned index) {
+    return {{"index", index},
+            {"name", layer.name ? layer.name : ""},
+            {"blend", blendModeName(layer.blend_mode)},
+            {"background", hexColorWithAlpha(layer.background)},
+            {"visible", layer.visible},
+            {"deleted", layer.deleted},
+            {"edited", index == currentSurface(host).editLayer()}};
+}
+
 void list(Host& host, Arguments&) {
     unsigned index = 0;
     beginResultList(host);
     for (nyxLayerInfo const& layer : currentSurface(host).layers()) {
-        addResult(host, [&] {
-            return nlohmann::ordered_json{{"index", index},
-                                          {"name", layer.name ? layer.name : ""},
-                                          {"blend", blendModeName(layer.blend_mode)},
-                                          {"background", hexColorWithAlpha(layer.background)},
-                                          {"visible", layer.visible},
-                                          {"deleted", layer.deleted},
-                                          {"edited", index == currentSurface(host).editLayer()}};
-        });
+        addResult(host, [&] { return paintLayerResult(host, layer, index); });
         print(host, layer, index++);
     }
 }
@@ -52,6 +54,7 @@ void show(Host& host, Arguments& arguments) {
     arguments.done();
     auto const layers = currentSurface(host).layers();
     print(host, layers[layer], layer);
+    giveResult(host, [&] { return paintLayerResult(host, layers[layer], layer); });
 }
 
 void add(Host& host, Arguments& arguments) {

@@ -35,7 +35,9 @@ void list(Host& host, Arguments&) {
 }
 
 void layers(Host& host, Arguments& arguments) {
+    beginResultList(host);
     for (nyx::LightLayerId const id : lightLayers(host).layersOfItems(takeItems(host, arguments))) {
+        addResult(host, [&] { return layerResult(host, id); });
         host.out() << "  " << layerLine(host, id) << '\n';
     }
 }

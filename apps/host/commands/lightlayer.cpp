@@ -23,16 +23,25 @@ void printLayer(Host& host, nyx::LightLayerId layer) {
     host.out() << "  " << layerLine(host, layer) << '\n';
 }
 
+template <class Ids>
+nlohmann::ordered_json itemsResult(Host& host, Ids const& ids) {
+    auto list = nlohmann::ordered_json::array();
+    for (nyx::ObjectId const id : ids) {
+        auto const item = host.renderer().items().record(nyx::GroupItemId(id.toUint()));
+        list.push_back({{"id", id.toUint()}, {"name", item ? item->name : ""}});
+    }
+    return list;
+}
+
 void list(Host& host, Arguments&) {
     zsg::ILightLayerApi const& api = lightLayers(host);
     beginResultList(host);
     for (nyx::LightLayerId const id : api.layers()) {
         std::size_t const lights = api.lights(id).size();
         addResult(host, [&] {
-            return nlohmann::ordered_json{{"id", id.toUint()},
-                                          {"name", api.layerName(id)},
-                                          {"flags", api.flags(id).bits()},
-                                          {"lights", lights}};
+            auto result = layerResult(host, id);
+            result["lights"] = lights;
+            return result;
         });
         host.out() << "  " << layerLine(host, id) << ": " << lights
                    << (lights == 1 ? " light\n" : " lights\n");
@@ -42,17 +51,24 @@ void list(Host& host, Arguments&) {
 void show(Host& host, Arguments& arguments) {
     nyx::LightLayerId const layer = takeLayer(host, arguments);
     arguments.done();
-    zsg::ILightLayerApi const& api = lightLayers(host);
+    auto const lights = lightLayers(host).lights(layer);
     host.out() << "  " << layerLine(host, layer) << '\n';
-    for (nyx::ObjectId const light : api.lights(layer)) {
+    for (nyx::ObjectId const light : lights) {
         host.out() << "    " << itemLine(host, nyx::GroupItemId(light.toUint())) << '\n';
     }
+    giveResult(host, [&] {
+        auto result = layerResult(host, layer);
+        result["lights"] = itemsResult(host, lights);
+        return result;
+    });
 }
 
 void items(Host& host, Arguments& arguments) {
     nyx::LightLayerId const layer = takeLayer(host, arguments);
     arguments.done();
-    for (nyx::ObjectId const object : lightLayers(host).getLayerItems(layer)) {
+    auto const objects = lightLayers(host).getLayerItems(layer);
+    giveResult(host, [&] { return itemsResult(host, objects); });
+    for (nyx::ObjectId const object : objects) {
         host.out() << "  " << itemLine(host, nyx::GroupItemId(object.toUint())) << '\n';
     }
 }

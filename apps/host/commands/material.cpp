@@ -181,6 +181,21 @@ void describe(Host& host, Arguments& arguments) {
         table.add("items", items);
     }
     table.print(host.out());
+    giveResult(host, [&] {
+        nlohmann::ordered_json result = {{"id", id.toUint()},
+                                         {"name", handler(host).materialName(id).toStdString()},
+                                         {"draft", !holder},
+                                         {"values", nlohmann::ordered_json::object()},
+                                         {"metadata", descriptor.metadata()}};
+        for (auto const& [key, value] : descriptor.values()) {
+            result["values"][key] = value;
+        }
+        auto& items = result["items"] = nlohmann::ordered_json::array();
+        for (unsigned const item : descriptor.items()) {
+            items.push_back(item);
+        }
+        return result;
+    });
 }
 
 void set(Host& host, Arguments& arguments) {

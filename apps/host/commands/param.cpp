@@ -1,7 +1,9 @@
 #include "host/Command.h"
+#include "host/CommandResult.h"
 #include "host/DemoPanel.h"
 #include "host/Host.h"
 #include "host/ValueText.h"
+#include "host/parameterResult.h"
 
 #include "zsg/values/Parameter.h"
 #include "zsg/values/ParameterData.h"
@@ -27,7 +29,9 @@ Parameter take(Host& host, Arguments& arguments) {
 }
 
 void list(Host& host, Arguments&) {
+    beginResultList(host);
     for (Parameter const& parameter : host.state<DemoPanel>().parameters) {
+        addResult(host, [&] { return parameterResult(parameter); });
         host.out() << "  ";
         if (parameter.isValid()) {
             host.out() << parameter;
@@ -58,6 +62,7 @@ void show(Host& host, Arguments& arguments) {
     if (p.sliderRange(low, high)) {
         host.out() << "  slider " << low << " to " << high << '\n';
     }
+    giveResult(host, [&] { return parameterResult(p); });
 }
 
 void set(Host& host, Arguments& arguments) {

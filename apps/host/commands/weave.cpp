@@ -82,6 +82,9 @@ void show(Host& host, Arguments& arguments) {
                    << weave.width(type) << ", tension " << weave.tension(type) << ", "
                    << (weave.kind(type) == WeavePattern::Round ? "round" : "ribbon") << '\n';
     }
+    giveResult(host, [&] { // as a weave file has it
+        return nlohmann::ordered_json::parse(weave.toJson().toStdString());
+    });
 }
 
 void set(Host& host, Arguments& arguments) {
