@@ -34,11 +34,6 @@ constexpr std::array<std::string_view, 5> workedOut = {"basic_flow_value", "basi
                                                        "basic_opacity", "basic_pen_pressure_mode",
                                                        "color_selection"};
 
-bool isKept(Parameter const& parameter) {
-    return parameter.type() != Type::ShaderBase &&
-           std::ranges::find(workedOut, parameter.name().toStdString()) == workedOut.end();
-}
-
 /// With the fewest digits that make the same float.
 Json numberOf(float value) {
     double const shortest = QString::number(value, 'g', 6).toDouble();
@@ -143,11 +138,16 @@ void setValue(std::string const& key, Parameter p, Json const& value, QDir const
 
 } // namespace
 
+bool isBrushSetting(Parameter const& parameter) {
+    return parameter.type() != Type::ShaderBase &&
+           std::ranges::find(workedOut, parameter.name().toStdString()) == workedOut.end();
+}
+
 std::string brushPreset(zsg::IPainterBrush const& brush, std::string const& folder) {
     QDir const from(QString::fromStdString(folder));
     Json parameters = Json::object(); // in the order of the names
     for (Parameter const& parameter : brush.parameters()) {
-        if (isKept(parameter)) {
+        if (isBrushSetting(parameter)) {
             parameters[parameter.name().toStdString()] = valueOf(parameter, from);
         }
     }

@@ -4,9 +4,14 @@
 
 namespace zsg {
 class IPainterBrush;
-}
+class Parameter;
+} // namespace zsg
 
 namespace app {
+
+/// Whether a parameter of a brush is a setting of its own: applying works out the others anew, and
+/// a shader cannot be written.
+[[nodiscard]] bool isBrushSetting(zsg::Parameter const& parameter);
 
 /// The settings of a brush as a JSON text, {"version": 1, "parameters": {...}}: numbers, booleans,
 /// texts, the id of a choice, [r, g, b] of a colour. What applying works out anew and what cannot

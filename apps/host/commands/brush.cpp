@@ -3,7 +3,6 @@
 #include "host/CommandResult.h"
 #include "host/CurrentBrush.h"
 #include "host/Host.h"
-#include "host/InputFile.h"
 #include "host/OutputFile.h"
 #include "host/ValueText.h"
 #include "host/parameterResult.h"
@@ -170,22 +169,10 @@ void save(Host& host, Arguments& arguments) {
     writeOutputFile(path.toStdString(), text);
 }
 
-std::unique_ptr<zsg::IPainterBrush> loaded(Host& host, QString const& path) {
-    std::string const text = readInputFile(path.toStdString(), largestPreset);
-    auto brush = freshBrush(host);
-    try {
-        setBrushPreset(*brush, text, QFileInfo(path).path().toStdString());
-    } catch (CommandError const& error) {
-        throw CommandError(path.toStdString() + ": " + error.what());
-    }
-    brush->applyToNode();
-    return brush;
-}
-
 void load(Host& host, Arguments& arguments) {
-    QString const path = QString::fromStdString(arguments.word("a path"));
+    std::string const path = arguments.word("a path");
     arguments.done();
-    host.sceneState<CurrentBrush>().brush = loaded(host, path);
+    host.sceneState<CurrentBrush>().brush = presetBrush(host, path);
 }
 
 void sheet(Host& host, Arguments& arguments) {
@@ -202,7 +189,7 @@ void sheet(Host& host, Arguments& arguments) {
     }
     for (std::string const& word : arguments.rest()) {
         QString const preset = QString::fromStdString(word);
-        add(QFileInfo(preset).completeBaseName().toStdString(), *loaded(host, preset));
+        add(QFileInfo(preset).completeBaseName().toStdString(), *presetBrush(host, word));
     }
     file.write(brushSheet(brushes));
 }

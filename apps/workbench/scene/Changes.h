@@ -13,9 +13,11 @@ struct Changes {
     bool lightLayers = false; ///< a light layer, or what is in one
     std::vector<nyx::ColorId> colors;
     std::vector<nyx::ColorwayId> colorways;
+    std::vector<nyx::SurfaceId> surfaces; ///< painted ones whose layers have changed
 
     [[nodiscard]] bool isEmpty() const {
-        return !everything && !materials && !lightLayers && colors.empty() && colorways.empty();
+        return !everything && !materials && !lightLayers && colors.empty() && colorways.empty() &&
+               surfaces.empty();
     }
 };
 

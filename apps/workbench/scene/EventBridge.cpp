@@ -26,15 +26,18 @@ EventBridge::EventBridge(zsg::IEventQueue& queue, std::function<void()> onFirst)
     : onFirst_(std::move(onFirst)),
       subscription_(queue, *this,
                     {zsg::EventType::MaterialUpdated, zsg::EventType::MaterialDescriptionChanged,
-                     zsg::EventType::CMFSchemaChanged, zsg::EventType::ColorCreated,
-                     zsg::EventType::ColorIdChange, zsg::EventType::ColorUpdated,
-                     zsg::EventType::ColorSynced, zsg::EventType::ColorwaySynced,
-                     zsg::EventType::ColorwayUpdated, zsg::EventType::LightLayerUpdated,
-                     zsg::EventType::LightLayerSynced}) {}
+                     zsg::EventType::CMFSchemaChanged, zsg::EventType::PaintLayersUpdated,
+                     zsg::EventType::ColorCreated, zsg::EventType::ColorIdChange,
+                     zsg::EventType::ColorUpdated, zsg::EventType::ColorSynced,
+                     zsg::EventType::ColorwaySynced, zsg::EventType::ColorwayUpdated,
+                     zsg::EventType::LightLayerUpdated, zsg::EventType::LightLayerSynced}) {}
 
 void EventBridge::onEvent(zsg::Event const* event) {
     bool const isFirst = changes_.isEmpty();
     switch (event->type()) {
+    case zsg::EventType::PaintLayersUpdated:
+        changes_.surfaces.push_back(as<zsg::PaintLayersUpdatedEvent>(event).surfaceId());
+        break;
     case zsg::EventType::ColorCreated:
         changes_.colors.push_back(as<zsg::ColorEvent>(event).colorId());
         break;
@@ -69,6 +72,7 @@ void EventBridge::onEvent(zsg::Event const* event) {
 Changes EventBridge::take() {
     makeSet(changes_.colors);
     makeSet(changes_.colorways);
+    makeSet(changes_.surfaces);
     return std::exchange(changes_, {});
 }
 
