@@ -2,12 +2,13 @@
 
 #include <QCoreApplication>
 
+#include <nlohmann/json.hpp>
+
 #if defined(__GLIBC__)
     #include <malloc.h>
 #endif
 
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -26,12 +27,10 @@ std::vector<Target>& targets() {
 
 namespace {
 
-// A machine that also does other things is noisier than the targets are sharp.
-constexpr double noise = 1.15;
-
 struct Case {
     std::vector<std::string> order;
     std::map<std::string, std::vector<double>> seconds;
+    bool isBytes = false; ///< "seconds" that a row states itself are gigabytes
 };
 
 class Collector : public benchmark::ConsoleReporter {
@@ -56,7 +55,8 @@ public:
             // What other threads do costs the waiting one no time of its own; and what a row states
             // itself, such as bytes, is no processor time.
             std::string const& type = run.run_name.time_type;
-            bool const stated = type.ends_with("real_time") || type.ends_with("manual_time");
+            c.isBytes = type.ends_with("manual_time");
+            bool const stated = c.isBytes || type.ends_with("real_time");
             c.seconds[contestant].push_back(
                 (stated ? run.real_accumulated_time : run.cpu_accumulated_time) /
                 static_cast<double>(run.iterations));
@@ -71,66 +71,30 @@ double median(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
-std::string time(double seconds) {
-    char const* const units[] = {"s", "ms", "us", "ns"};
-    int unit = 0;
-    while (unit < 3 && seconds < 1) {
-        seconds *= 1000;
-        ++unit;
-    }
-    char text[32];
-    std::snprintf(text, sizeof text, "%.3g %s", seconds, units[unit]);
-    return text;
-}
-
-void writeTables(Collector const& collector, std::filesystem::path const& path) {
-    std::ofstream out(path);
-    out << "| row | workload | contestant | median | ours / it | target | holds |\n"
-           "|---|---|---|---|---|---|---|\n";
+/// The medians of each case, and its targets:
+/// [{"row", "workload", "isBytes", "seconds": [{"name", "median"}], "targets": [{"against",
+/// "workload", "atMost"}]}]; bench/report.py makes tables and pictures of it.
+void writeResults(Collector const& collector, std::filesystem::path const& path) {
+    auto results = nlohmann::ordered_json::array();
     for (auto const& [key, c] : collector.cases) {
-        auto const& [row, workload] = key;
-        auto const ours = c.seconds.find(bench::ours);
-        if (ours == c.seconds.end()) {
-            continue;
-        }
-        double const mine = median(ours->second);
-        auto const line = [&](std::string const& name, double theirs, double atMost) {
-            char ratio[32] = "";
-            char target[32] = "";
-            std::snprintf(ratio, sizeof ratio, "%.3g", mine / theirs);
-            char const* holds = "";
-            if (atMost > 0) {
-                std::snprintf(target, sizeof target, "<= %.3g", atMost);
-                holds = mine / theirs <= atMost * noise ? "yes" : "**no**";
-            }
-            out << "| " << row << " | " << workload << " | " << name << " | " << time(theirs)
-                << " | " << ratio << " | " << target << " | " << holds << " |\n";
-        };
-        out << "| " << row << " | " << workload << " | ours | " << time(mine) << " | | | |\n";
+        auto seconds = nlohmann::ordered_json::array();
         for (std::string const& name : c.order) {
-            if (name == bench::ours) {
-                continue;
-            }
-            double atMost = 0;
-            for (bench::Target const& t : bench::targets()) {
-                if (t.row == row && t.workload == workload && t.against == name &&
-                    t.otherWorkload.empty()) {
-                    atMost = t.atMost;
-                }
-            }
-            line(name, median(c.seconds.at(name)), atMost);
+            seconds.push_back({{"name", name}, {"median", median(c.seconds.at(name))}});
         }
+        auto targets = nlohmann::ordered_json::array();
         for (bench::Target const& t : bench::targets()) {
-            if (t.row != row || t.workload != workload || t.otherWorkload.empty()) {
-                continue;
-            }
-            auto const other = collector.cases.find({row, t.otherWorkload});
-            if (other != collector.cases.end() && other->second.seconds.contains(t.against)) {
-                line(t.against + ": " + t.otherWorkload,
-                     median(other->second.seconds.at(t.against)), t.atMost);
+            if (t.row == key.first && t.workload == key.second) {
+                targets.push_back(
+                    {{"against", t.against}, {"workload", t.otherWorkload}, {"atMost", t.atMost}});
             }
         }
+        results.push_back({{"row", key.first},
+                           {"workload", key.second},
+                           {"isBytes", c.isBytes},
+                           {"seconds", seconds},
+                           {"targets", targets}});
     }
+    std::ofstream(path) << results.dump(1) << '\n';
 }
 
 } // namespace
@@ -140,13 +104,13 @@ int main(int argc, char** argv) {
 #if defined(__GLIBC__)
     mallopt(M_TRIM_THRESHOLD, -1); // what a row has freed stays warm for the next
 #endif
-    std::filesystem::path table;
+    std::filesystem::path results;
     std::vector<char*> rest;
     for (int i = 0; i < argc; ++i) {
-        constexpr std::string_view option = "--table=";
+        constexpr std::string_view option = "--results=";
         if (std::string_view(argv[i]).starts_with(option)) {
             // Qt knows the spelling of the command line on each system.
-            table = QCoreApplication::arguments().at(i).mid(option.size()).toStdU16String();
+            results = QCoreApplication::arguments().at(i).mid(option.size()).toStdU16String();
         } else {
             rest.push_back(argv[i]);
         }
@@ -158,8 +122,8 @@ int main(int argc, char** argv) {
     }
     Collector collector;
     benchmark::RunSpecifiedBenchmarks(&collector);
-    if (!table.empty()) {
-        writeTables(collector, table);
+    if (!results.empty()) {
+        writeResults(collector, results);
     }
     return 0;
 }
