@@ -5,6 +5,7 @@
 #include "host/Host.h"
 #include "host/Interpreter.h"
 #include "host/JsonSession.h"
+#include "host/counted.h"
 #include "host/installTranslation.h"
 #include "host/printable.h"
 #include "zsg/colors/ColorDB.h"
@@ -87,9 +88,12 @@ std::optional<int> readOptions(Options& options) {
 /// What the scene holds, in one line.
 int check(app::Host& host, std::string const& path) {
     zsg::ColorDB& colors = *host.root().colorDB();
-    std::cout << app::printable(path) << ": " << colors.colors().size() << " colours, "
-              << colors.multiColors().size() << " multi-colours, " << colors.colorways().size()
-              << " colorways, " << host.renderer().materials().ids().size() << " materials\n";
+    std::cout << app::printable(path) << ": "
+              << app::counted(colors.colors().size(), "colour", "colours") << ", "
+              << app::counted(colors.multiColors().size(), "multi-colour", "multi-colours") << ", "
+              << app::counted(colors.colorways().size(), "colorway", "colorways") << ", "
+              << app::counted(host.renderer().materials().ids().size(), "material", "materials")
+              << '\n';
     return std::cout.flush() ? 0 : 1;
 }
 

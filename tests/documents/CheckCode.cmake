@@ -82,6 +82,9 @@ file(WRITE ${WORK_DIR}/script "cmf lint schema.json\nbrush load brush.json\n"
     "weave load shown weave.json\nweave json shown\n")
 run(printed ${CONSOLE} scene.json --script script)
 must_hold("the weave of docs/formats.md" "${printed}" "${weave}")
+run(printed ${CONSOLE} check scene.json)
+must_hold("the console, which counts one and many" "${printed}"
+    "scene.json: 2 colours, 1 multi-colour, 1 colorway, 1 material\n")
 
 # Every option that a program names has its place in its manual page.
 foreach(program IN LISTS PROGRAMS)

@@ -6,6 +6,7 @@
 #include "host/Host.h"
 #include "host/InputFile.h"
 #include "host/OutputFile.h"
+#include "host/counted.h"
 #include "host/printable.h"
 
 #include "zsg/core/ISceneGraph.h"
@@ -131,10 +132,11 @@ void lint(Host& host, Arguments& arguments) {
                    << finding.place << ": " << (finding.isFault ? "" : "(note) ")
                    << printable(finding.text) << '\n';
     }
-    auto const faults = std::ranges::count(findings, true, &CMFFinding::isFault);
+    auto const faults =
+        static_cast<std::size_t>(std::ranges::count(findings, true, &CMFFinding::isFault));
     if (faults > 0) {
-        throw CommandError(path + ": " + std::to_string(faults) +
-                           (faults == 1 ? " fault" : " faults") + "; it cannot be loaded");
+        throw CommandError(path + ": " + counted(faults, "fault", "faults") +
+                           "; it cannot be loaded");
     }
     host.out() << (findings.empty() ? "  nothing to complain of\n" : "  it can be loaded\n");
 }

@@ -2,6 +2,7 @@
 #include "host/Command.h"
 #include "host/CommandResult.h"
 #include "host/Host.h"
+#include "host/counted.h"
 #include "host/pictures/PictureFile.h"
 #include "host/pictures/colorCards.h"
 #include "host/printable.h"
@@ -34,8 +35,9 @@ void list(Host& host, Arguments&) {
                                               {"deleted", edit->isDeleted()}};
             });
             host.out() << (edit->isActive() ? "  * " : "    ") << id.toUint() << ' '
-                       << printable(edit->displayName()) << ", " << edit->multiColors().size()
-                       << " multi-colours" << (edit->isDeleted() ? ", deleted" : "") << '\n';
+                       << printable(edit->displayName()) << ", "
+                       << counted(edit->multiColors().size(), "multi-colour", "multi-colours")
+                       << (edit->isDeleted() ? ", deleted" : "") << '\n';
         }
     }
 }

@@ -2,6 +2,7 @@
 #include "host/IORLint.h"
 #include "host/InputFile.h"
 #include "host/NamedValues.h"
+#include "host/counted.h"
 #include "host/metalSamples.h"
 #include "host/pictures/PictureFile.h"
 #include "host/pictures/metalPlot.h"
@@ -35,7 +36,8 @@ void load(Host& host, Arguments& arguments) {
         throw CommandError(path + ": holds no samples");
     }
     keepNamed(host, name, triples);
-    host.out() << "  " << triples.size() / 3 << " samples\n";
+    host.out() << "  " << counted(static_cast<std::size_t>(triples.size()) / 3, "sample", "samples")
+               << '\n';
 }
 
 void show(Host& host, Arguments& arguments) {

@@ -2,6 +2,7 @@
 #include "host/CommandResult.h"
 #include "host/Host.h"
 #include "host/LightArguments.h"
+#include "host/counted.h"
 #include "host/pictures/LightMatrix.h"
 #include "host/pictures/Picture.h"
 #include "host/pictures/PictureFile.h"
@@ -43,8 +44,8 @@ void list(Host& host, Arguments&) {
             result["lights"] = lights;
             return result;
         });
-        host.out() << "  " << layerLine(host, id) << ": " << lights
-                   << (lights == 1 ? " light\n" : " lights\n");
+        host.out() << "  " << layerLine(host, id) << ": " << counted(lights, "light", "lights")
+                   << '\n';
     }
 }
 

@@ -4,6 +4,7 @@
 #include "host/CommandResult.h"
 #include "host/Host.h"
 #include "host/PaintState.h"
+#include "host/counted.h"
 #include "host/printable.h"
 
 #include "nyxembedded/Painting.h"
@@ -35,7 +36,7 @@ void list(Host& host, Arguments&) {
             host.out() << ' ' << printable(info->name) << (info->name.empty() ? "" : ", ")
                        << info->resolution << " x " << info->resolution;
         }
-        host.out() << ", " << surface->layers().size() << " layers"
+        host.out() << ", " << counted(surface->layers().size(), "layer", "layers")
                    << (surface->deleted() ? ", deleted" : "") << '\n';
     }
 }

@@ -2,6 +2,7 @@
 
 #include "host/Arguments.h"
 #include "host/Host.h"
+#include "host/counted.h"
 #include "host/pictures/swatch.h"
 #include "host/printable.h"
 #include "host/sRGB.h"
@@ -21,10 +22,6 @@ constexpr double titleHeight = 40;
 constexpr double nameSize = 13;
 
 zsg::ColorDB& db(Host& host) { return *host.root().colorDB(); }
-
-std::string counted(std::size_t n, char const* one, char const* many) {
-    return std::to_string(n) + ' ' + (n == 1 ? one : many);
-}
 
 std::string shownName(std::string const& name) {
     return name.empty() ? "(unnamed)" : printable(name);
