@@ -99,7 +99,16 @@ if(TARGET zsg-workbench)
 endif()
 
 set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc/libzscenegraph-doc)
-install(FILES README.md CHANGELOG.md DESTINATION ${doc_dir} COMPONENT documentation)
+install(FILES README.md DESTINATION ${doc_dir} COMPONENT documentation)
+if(ZSG_DEBIAN_LAYOUT)
+    execute_process(COMMAND gzip -9nc ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+        OUTPUT_FILE changelog.gz WORKING_DIRECTORY ${PROJECT_BINARY_DIR}
+        COMMAND_ERROR_IS_FATAL ANY)
+    install(FILES ${PROJECT_BINARY_DIR}/changelog.gz DESTINATION ${doc_dir}
+        COMPONENT documentation)
+else()
+    install(FILES CHANGELOG.md DESTINATION ${doc_dir} COMPONENT documentation)
+endif()
 install(DIRECTORY docs DESTINATION ${doc_dir} COMPONENT documentation
     PATTERN Doxyfile EXCLUDE
     PATTERN CMakeLists.txt EXCLUDE)

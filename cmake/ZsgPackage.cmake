@@ -5,7 +5,9 @@ set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
 set(CPACK_VERBATIM_VARIABLES ON)
 set(CPACK_SOURCE_GENERATOR TGZ)
 set(CPACK_SOURCE_PACKAGE_FILE_NAME zscenegraph-${PROJECT_VERSION})
-set(CPACK_SOURCE_IGNORE_FILES "/build/" "/\\.git/" "/compile_commands\\.json$" "\\.user$")
+string(REGEX REPLACE "([][+.*()^$?|\\])" "\\\\\\1" source_folder "${PROJECT_SOURCE_DIR}")
+set(CPACK_SOURCE_IGNORE_FILES
+    "^${source_folder}/build" "/\\.git/" "/compile_commands\\.json$" "\\.user$")
 set(CPACK_PACKAGE_FILE_NAME
     zscenegraph-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR})
 
@@ -33,6 +35,17 @@ function(zsg_debian_package component package section depends text)
     install(FILES packaging/debian/copyright DESTINATION ${folder} COMPONENT ${component})
     install(FILES ${PROJECT_BINARY_DIR}/changelog.Debian.gz DESTINATION ${folder}
         COMPONENT ${component})
+    # What lintian finds and is meant, each with its reason.
+    set(overrides "")
+    foreach(file IN ITEMS lintian-overrides lintian-overrides-${component})
+        if(EXISTS ${PROJECT_SOURCE_DIR}/packaging/debian/${file})
+            file(READ packaging/debian/${file} text)
+            string(APPEND overrides "${text}")
+        endif()
+    endforeach()
+    file(CONFIGURE OUTPUT overrides/${package} CONTENT "${overrides}" @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/overrides/${package} COMPONENT ${component}
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides)
 endfunction()
 
 if(ZSG_DEBIAN_LAYOUT)

@@ -2,23 +2,24 @@
 # The gates behind ./dev check. Every gate runs, also after one failed; the last line sums up.
 set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. cmake/run-steps.sh
 
 jobs=$(nproc 2>/dev/null || echo 2)
 sources() { git ls-files -- '*.h' '*.cpp'; }
 
 workflow() { cmake --workflow --preset "$1"; }
 
-gate_format() { sources | xargs clang-format-14 --dry-run --Werror; }
+do_format() { sources | xargs clang-format-14 --dry-run --Werror; }
 
 # Which folder may include which: the table stands in the script.
-gate_layering() { cmake/layering.py; }
+do_layering() { cmake/layering.py; }
 
-gate_dev() { workflow dev; }
+do_dev() { workflow dev; }
 
 # Both readings of clang in one: its own warnings come out of clang-tidy as well. Nothing is
 # compiled: the asan gate builds and links everything with clang. No precompiled headers here, so
 # that a source which leans on somebody else's includes is found.
-gate_clang() {
+do_clang() {
     cmake --preset clang >/dev/null || return 1
     local tidy=(clang-tidy-14 --quiet -p build/clang '--warnings-as-errors=*')
     # What only Windows compiles is not in the compilation database.
@@ -28,16 +29,16 @@ gate_clang() {
         xargs -P "$jobs" -n 4 "${tidy[@]}" --checks='-*,clang-diagnostic-*,misc-unused-using-decls'
 }
 
-gate_headers() {
+do_headers() {
     cmake --preset dev >/dev/null &&
         cmake --build --preset dev -j "$jobs" --target all_verify_interface_header_sets
 }
 
 # With clang: this one build also has the libFuzzer targets, so that nothing is compiled twice.
-gate_asan() { workflow asan; }
+do_asan() { workflow asan; }
 
 # Where threads meet, and the application that links static libraries.
-gate_tsan() {
+do_tsan() {
     cmake --preset tsan >/dev/null &&
         cmake --build --preset tsan -j "$jobs" \
             --target zsg_nyxembedded_test zsg_zcore_test zsg_nyxrender_test zsg_values_test \
@@ -45,7 +46,7 @@ gate_tsan() {
         ctest --preset tsan
 }
 
-gate_fuzz() {
+do_fuzz() {
     cmake --preset asan >/dev/null && cmake --build --preset asan -j "$jobs" --target fuzzers ||
         return 1
     local seconds=${ZSG_FUZZ_SECONDS:-20}
@@ -69,14 +70,14 @@ gate_fuzz() {
 
 # All sources for Windows, against the headers of a Qt that is configured there and not built: that
 # and the tests are for ./dev windows.
-gate_windows-compile() {
+do_windows-compile() {
     cmake/windows/dependencies.sh headers && cmake --preset mingw-compile &&
         cmake --build --preset mingw-compile --target zsg_precompiled_library &&
         cmake/windows/compile.py build/mingw-compile
 }
 
 # Every text that users read stands in the catalogues, and every one of the German one in German.
-gate_translations() {
+do_translations() {
     local folder=build/translations language
     mkdir -p "$folder" && cp i18n/*.ts "$folder" &&
         /usr/lib/qt6/bin/lupdate -silent -locations none -no-obsolete src platform/embedded \
@@ -90,31 +91,12 @@ gate_translations() {
     ! grep -B3 'type="unfinished"' i18n/zscenegraph_de.ts
 }
 
-gate_docs() {
+do_docs() {
     mkdir -p build/docs && doxygen docs/Doxyfile
 }
 
 all=(format layering translations dev headers clang asan tsan fuzz windows-compile docs)
 wanted=("$@")
 ((${#wanted[@]})) || wanted=("${all[@]}")
-failed=()
-mkdir -p build
-for name in "${wanted[@]}"; do
-    declare -F "gate_$name" >/dev/null || {
-        printf 'check: no gate named %s (there are: %s)\n' "$name" "${all[*]}" >&2
-        exit 1
-    }
-    start=$SECONDS
-    printf '\n== check: %s\n' "$name"
-    if "gate_$name" >"build/check-$name.log" 2>&1; then
-        printf 'ok (%d s)\n' $((SECONDS - start))
-    else
-        tail -n 60 "build/check-$name.log"
-        printf 'FAILED (%d s), all of it in build/check-%s.log\n' $((SECONDS - start)) "$name"
-        failed+=("$name")
-    fi
-done
-printf '\n'
-((${#failed[@]})) && printf 'check: failed gates: %s\n' "${failed[*]}"
-printf '%d passed, %d failed\n' $((${#wanted[@]} - ${#failed[@]})) ${#failed[@]}
-exit $((${#failed[@]} > 0))
+must_know check "${wanted[@]}"
+run_steps check "${wanted[@]}"

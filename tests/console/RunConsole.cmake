@@ -32,6 +32,8 @@ endif()
 
 function(compare what found wanted_file)
     file(READ ${wanted_file} wanted)
+    # Of which version the console says it is.
+    string(REGEX REPLACE "\"version\":\"[0-9.]+\"" "\"version\":\"VERSION\"" found "${found}")
     if(EMULATOR) # the other system's separators of paths
         string(REPLACE "\\" / wanted "${wanted}")
         string(REPLACE "\\" / found "${found}")
