@@ -11,6 +11,7 @@
 
 class LineEditor::Impl {};
 
+// As the other editor takes it. NOLINTNEXTLINE(performance-unnecessary-value-param)
 LineEditor::LineEditor(Complete) {}
 
 LineEditor::~LineEditor() = default;

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <set>
+#include <utility>
 
 namespace app {
 
@@ -108,7 +109,9 @@ void addPairs(Host& host, Candidates& candidates, Words const& words, std::strin
     }
     std::string const multi = begun.substr(0, colon);
     for (std::string const& sub : wordsFor(host, "SUB", {multi})) {
-        candidates.insert({multi + ':' + sub});
+        std::string pair = multi;
+        pair.append(1, ':').append(sub);
+        candidates.insert({std::move(pair)});
     }
 }
 
