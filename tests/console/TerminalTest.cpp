@@ -6,7 +6,6 @@
 
 #include <gmock/gmock.h>
 
-#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
@@ -17,6 +16,7 @@
 #include <poll.h>
 #include <pty.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 
 namespace {
@@ -27,7 +27,12 @@ using testing::Not;
 
 class TerminalTest : public testing::Test {
 protected:
-    ~TerminalTest() override { stop(); }
+    ~TerminalTest() override {
+        if (process > 0) {
+            kill(process, SIGKILL);
+            end();
+        }
+    }
 
     void start() {
         winsize const size{24, 100, 0, 0};
@@ -58,7 +63,19 @@ protected:
         return before;
     }
 
+    // Keys count when a line is being edited: what comes before goes through the system's own.
     std::string type(std::string const& keys, std::string const& wanted) {
+        termios mode{};
+        for (int tries = 0; tries < longest; ++tries) {
+            if (tcgetattr(terminal, &mode) == 0 && (mode.c_lflag & ICANON) == 0) {
+                break;
+            }
+            usleep(1000);
+        }
+        return send(keys, wanted);
+    }
+
+    std::string send(std::string const& keys, std::string const& wanted) {
         EXPECT_EQ(write(terminal, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
         return expect(wanted);
     }
@@ -67,7 +84,13 @@ protected:
     int end() {
         while (readMore()) {}
         int status = -1;
-        waitpid(std::exchange(process, -1), &status, 0);
+        for (int tries = 0; waitpid(process, &status, WNOHANG) == 0; ++tries) {
+            usleep(1000);
+            if (tries == longest) {
+                kill(process, SIGKILL);
+            }
+        }
+        process = -1;
         close(terminal);
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
@@ -82,7 +105,6 @@ protected:
 
 private:
     bool readMore() {
-        constexpr int longest = 60'000; // milliseconds; a test machine may be slow
         pollfd source{terminal, POLLIN, 0};
         char block[4096];
         if (poll(&source, 1, longest) <= 0) {
@@ -93,12 +115,7 @@ private:
         return count > 0; // at its end Linux says that the device is broken
     }
 
-    void stop() {
-        if (process > 0) {
-            kill(process, SIGKILL);
-            end();
-        }
-    }
+    static constexpr int longest = 60'000; // milliseconds; a machine may be slow
 
     int terminal = -1;
     pid_t process = -1;
@@ -109,7 +126,7 @@ TEST_F(TerminalTest, CtrlCEndsACommandOrALineButNotTheProcess) {
     type("color name Teal Nev\x03", "^C");
     expect("zsg> ");
     type("color drag Teal #ff0000 in 100000\n", "100000\r\n"); // which would take a while
-    type("\x03", "color drag: interrupted");
+    send("\x03", "color drag: interrupted");
     expect("zsg> ");
     EXPECT_THAT(type("color list multi\n", "Stage"), Not(HasSubstr("Nev")));
     type("quit!\n", "quit!");
