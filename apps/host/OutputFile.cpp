@@ -5,8 +5,9 @@
 
 namespace app {
 
-void writeOutputFile(std::string const& path, std::string_view bytes) {
-    std::string const problem = nyx::embedded::writeFile(path, bytes);
+void writeOutputFile(std::string const& path, std::string_view bytes, int failingStep) {
+    auto const target = nyx::embedded::failingTarget(nyx::embedded::diskTarget(path), failingStep);
+    std::string const problem = nyx::embedded::writeFile(*target, path, bytes);
     if (!problem.empty()) {
         throw CommandError(problem);
     }

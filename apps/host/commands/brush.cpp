@@ -166,7 +166,7 @@ void save(Host& host, Arguments& arguments) {
     QString const path = QString::fromStdString(arguments.word("a path"));
     arguments.done();
     std::string const text = brushPreset(brush, QFileInfo(path).absolutePath().toStdString());
-    writeOutputFile(path.toStdString(), text);
+    writeOutputFile(path.toStdString(), text, host.renderer().faults().failSaveStep);
 }
 
 void load(Host& host, Arguments& arguments) {
@@ -176,7 +176,7 @@ void load(Host& host, Arguments& arguments) {
 }
 
 void sheet(Host& host, Arguments& arguments) {
-    PictureFile const file = PictureFile::take(arguments);
+    PictureFile const file = PictureFile::take(host, arguments);
     std::vector<NamedBrush> brushes;
     auto const add = [&](std::string const& name, zsg::IPainterBrush const& brush) {
         if (auto settings =

@@ -120,7 +120,8 @@ void save(Host& host, Arguments& arguments) {
     QTextStream out(&bytes, QIODevice::WriteOnly);
     manager(host).schema().save(out);
     out.flush();
-    writeOutputFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    writeOutputFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())},
+                    host.renderer().faults().failSaveStep);
 }
 
 void lint(Host& host, Arguments& arguments) {

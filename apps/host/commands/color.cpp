@@ -207,7 +207,7 @@ void uses(Host& host, Arguments& arguments) {
 }
 
 void card(Host& host, Arguments& arguments) {
-    PictureFile const file = PictureFile::take(arguments);
+    PictureFile const file = PictureFile::take(host, arguments);
     arguments.done();
     file.write(paletteCard(host));
 }

@@ -131,7 +131,7 @@ void restore(Host& host, Arguments& arguments) {
 }
 
 void board(Host& host, Arguments& arguments) {
-    PictureFile const file = PictureFile::take(arguments);
+    PictureFile const file = PictureFile::take(host, arguments);
     arguments.done();
     file.write(colorwayBoard(host));
 }

@@ -118,7 +118,7 @@ void show(Host& host, Arguments& arguments) {
 
 void save(Host& host, Arguments& arguments) {
     AnimationCurve const& curve = take(host, arguments);
-    PictureFile const file = PictureFile::take(arguments);
+    PictureFile const file = PictureFile::take(host, arguments);
     arguments.done();
     file.write(curvePlot(curve));
 }

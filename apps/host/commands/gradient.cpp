@@ -108,7 +108,7 @@ void show(Host& host, Arguments& arguments) {
 
 void save(Host& host, Arguments& arguments) {
     ColorGradient const& gradient = take(host, arguments);
-    PictureFile const file = PictureFile::take(arguments);
+    PictureFile const file = PictureFile::take(host, arguments);
     arguments.done();
     file.write(gradientStrip(gradient));
 }

@@ -115,7 +115,7 @@ void plot(Host& host, Arguments& arguments) {
 
 void save(Host& host, Arguments& arguments) {
     std::vector<MetalSample> const list = metalSamples(take(host, arguments));
-    PictureFile const file = PictureFile::take(arguments);
+    PictureFile const file = PictureFile::take(host, arguments);
     arguments.done();
     file.write(metalPlot(list));
 }

@@ -127,7 +127,7 @@ void dump(Host& host, Arguments&) {
 void matrix(Host& host, Arguments&) { host.out() << LightMatrix(host).text(); }
 
 void save(Host& host, Arguments& arguments) {
-    PictureFile const file = PictureFile::take(arguments);
+    PictureFile const file = PictureFile::take(host, arguments);
     arguments.done();
     file.write(LightMatrix(host).picture());
 }

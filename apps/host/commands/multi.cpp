@@ -103,7 +103,7 @@ void unlink(Host& host, Arguments& arguments) {
 }
 
 void card(Host& host, Arguments& arguments) {
-    PictureFile const file = PictureFile::take(arguments);
+    PictureFile const file = PictureFile::take(host, arguments);
     arguments.done();
     file.write(multiColorCard(host));
 }

@@ -41,7 +41,8 @@ void save(Host& host, Arguments& arguments) {
     if (!path.ends_with(".png")) {
         throw CommandError("expected a path that ends in .png");
     }
-    writeOutputFile(path, rasterPng(raster(composite(host))));
+    writeOutputFile(path, rasterPng(raster(composite(host))),
+                    host.renderer().faults().failSaveStep);
 }
 
 void checksum(Host& host, Arguments&) {

@@ -182,10 +182,10 @@ void equal(Host& host, Arguments& arguments) {
 
 void save(Host& host, Arguments& arguments) {
     WeavePattern const& weave = take(host, arguments);
-    PictureFile const file = PictureFile::take(arguments);
+    PictureFile const file = PictureFile::take(host, arguments);
     arguments.done();
     if (file.path.ends_with(".json") && !file.dark) {
-        return writeOutputFile(file.path, weave.toJson().toStdString());
+        return writeOutputFile(file.path, weave.toJson().toStdString(), file.failingStep);
     }
     file.write(weaveDraft(weave));
 }
