@@ -11,8 +11,6 @@
 #include <memory>
 #include <string>
 
-#define WIN32_LEAN_AND_MEAN
-#define NOMINMAX
 #include <windows.h>
 
 namespace {

@@ -20,7 +20,7 @@ cmake -E tar xf zscenegraph-*.zip
 rm -rf _CPack_Packages
 root=$(echo "$work"/zscenegraph-*/)
 
-system='^(KERNEL32|msvcrt|USER32|ADVAPI32|ole32|SHELL32|WS2_32|NETAPI32|VERSION|WINMM|MPR|USERENV|ntdll|AUTHZ|bcrypt)\.dll$'
+system='^(KERNEL32|msvcrt|USER32|ADVAPI32|ole32|SHELL32|WS2_32|NETAPI32|VERSION|WINMM|MPR|USERENV|ntdll|AUTHZ|bcrypt|api-ms-win-[a-z0-9-]+)\.dll$'
 for file in "$root"bin/*.{dll,exe}; do
     while read -r import; do
         [[ -e ${root}bin/$import ]] || grep -qiE "$system" <<<"$import" ||
@@ -47,10 +47,14 @@ console=("$wine" "${root}bin/zsg-console.exe")
 ln -s "$source/examples" examples
 scene=examples/scenes/showroom.json
 "${console[@]}" check "$scene"
-for script in colour-session demo-2-values; do
-    "${console[@]}" "$scene" --script "examples/scripts/$script.zsg" >"$script.out"
-    cmp "$script.out" "examples/scripts/$script.out"
-done
+session() { # SCRIPT [OPTION ...]
+    local script=$source/$1
+    "${console[@]}" "$scene" --script "$script.zsg" "${@:2}" >found.out
+    cmp found.out "$script.out"
+}
+session examples/scripts/colour-session
+session examples/scripts/demo-2-values
+session tests/console/calls/german --lang de
 mkdir application
 cp "$source/tests/windows/application.txt" application/CMakeLists.txt
 cp "$source/examples/programs/first_steps.cpp" application

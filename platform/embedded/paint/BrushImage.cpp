@@ -1,5 +1,6 @@
 #include "paint/BrushImage.h"
 
+#include <QString>
 #include <png.h>
 
 #include <cerrno>
@@ -28,6 +29,14 @@ File openToRead(std::filesystem::path const& path) {
 
 } // namespace
 
+std::filesystem::path brushImagePath(std::string const& text) {
+#if defined(_WIN32)
+    return QString::fromStdString(text).toStdWString(); // a path throws where this is no UTF-8
+#else
+    return text;
+#endif
+}
+
 std::shared_ptr<BrushImage const> readBrushImage(std::string const& path, std::string& message) {
     /// The reader's state, freed on every way out.
     struct Reader : png_image {
@@ -38,9 +47,9 @@ std::shared_ptr<BrushImage const> readBrushImage(std::string const& path, std::s
     } png;
     // Opening what is no plain file may wait for ever.
     std::error_code error;
-    auto const file = std::filesystem::path(reinterpret_cast<char8_t const*>(path.c_str()));
+    std::filesystem::path const file = brushImagePath(path);
     if (!std::filesystem::is_regular_file(file, error)) {
-        message = path + ": " + (error ? error.message() : "not a file");
+        message = path + ": " + (error ? error.default_error_condition().message() : "not a file");
         return nullptr;
     }
     File const open = openToRead(file);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -24,6 +25,9 @@ struct BrushImage {
 
 /// The largest number of pixels that readBrushImage() takes: 8192 x 8192.
 inline constexpr std::uint64_t mostBrushImagePixels = std::uint64_t(8192) * 8192;
+
+/// The path that UTF-8 text names. Other text names a file on some systems and none on the others.
+[[nodiscard]] std::filesystem::path brushImagePath(std::string const& text);
 
 /// Reads a PNG file at a UTF-8 path. When that is impossible the result is null and `message` says
 /// why.

@@ -36,7 +36,7 @@ void BrushGraph::loadFile(BrushNode::Param& param, char const* path) {
 
 std::shared_ptr<BrushImage const> BrushGraph::image(std::string const& path) {
     std::error_code error;
-    auto const file = std::filesystem::path(reinterpret_cast<char8_t const*>(path.c_str()));
+    std::filesystem::path const file = brushImagePath(path);
     auto const time = std::filesystem::last_write_time(file, error);
     auto const bytes = error ? 0 : std::filesystem::file_size(file, error);
     if (!error) {
