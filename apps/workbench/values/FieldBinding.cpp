@@ -26,9 +26,11 @@ FieldBinding::FieldBinding(Scene& scene, ValueField& field, ParameterItems items
       writer_(std::move(writer)) {
     connect(&field, &ValueField::pressed, this, &FieldBinding::begin);
     connect(&field, &ValueField::moved, this, [this] {
-        take();
-        if (drag_) {
+        if (drag_ && drag_->isActive()) {
+            take();
             drag_->move();
+        } else { // it ended under the pointer
+            refresh();
         }
     });
     connect(&field, &ValueField::released, this, &FieldBinding::end);

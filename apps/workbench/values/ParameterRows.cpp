@@ -4,6 +4,7 @@
 #include "workbench/values/ParameterRow.h"
 
 #include <QGridLayout>
+#include <QScrollBar>
 
 #include <utility>
 
@@ -33,7 +34,8 @@ void ParameterRows::setRows(std::vector<ParameterItems> const& rows) {
     }
     layout->setRowStretch(layout->rowCount(), 1);
     setWidget(inside); // the one before ends here, and with it what it edits
-    setMinimumWidth(inside->minimumSizeHint().width());
+    inside->show();
+    setMinimumWidth(inside->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width());
 }
 
 void ParameterRows::setItems(ParameterItems const& items) { setRows(commonParameters({items})); }

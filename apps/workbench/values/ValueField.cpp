@@ -12,6 +12,13 @@ namespace workbench {
 
 using zsg::Type;
 
+ValueField::~ValueField() {
+    // A part that has the focus says that it is finished when it goes.
+    for (QObject* const part : findChildren<QObject*>()) {
+        part->disconnect(this);
+    }
+}
+
 ValueField* makeField(zsg::Parameter const& parameter, QWidget* parent) {
     switch (parameter.type()) {
     case Type::Boolean:

@@ -16,6 +16,7 @@ class ValueField : public QWidget {
 
 public:
     using QWidget::QWidget;
+    ~ValueField() override;
 
     /// Never causes a signal. The value has the type that the field was made for.
     virtual void showValue(zsg::Variant const& value) = 0;
