@@ -1,5 +1,7 @@
 #include "workbench/app/Document.h"
 
+#include "host/NamedValues.h"
+
 #include "zcore/ZUndoStack.h"
 
 #include <QFileInfo>
@@ -17,6 +19,17 @@ namespace {
 std::ostream& nowhere() {
     static std::ostream stream(nullptr);
     return stream;
+}
+
+template <class T>
+std::map<std::string, T>& named(app::Host& host) {
+    return host.state<app::NamedValues<T>>().byName;
+}
+
+ValueStore::Maps namedValues(app::Host& host) {
+    return {named<zsg::WeavePattern>(host), named<zsg::ColorGradient>(host),
+            named<zsg::AnimationCurve>(host), named<zsg::FloatArray>(host),
+            named<std::shared_ptr<zsg::Variant>>(host)};
 }
 
 /// The log of a host keeps every event for scripts that ask; nobody does between two of them.
@@ -48,7 +61,10 @@ private:
 };
 
 Document::Document(QString const& autosaveFolder)
-    : host_(nowhere()), scene_(host_.undoStack(), &contents_), autosave_(autosaveFolder) {
+    : host_(nowhere()),
+      scene_(host_.undoStack(), &contents_),
+      values_(scene_, namedValues(host_)),
+      autosave_(autosaveFolder) {
     host_.watchRoot([this](zsg::ISceneGraph* root) { takeOver(root); });
     connect(&scene_, &Scene::historyChanged, this, [this] {
         changedSinceAutosave_ = true;

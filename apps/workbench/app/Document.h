@@ -3,6 +3,7 @@
 #include "workbench/app/Autosave.h"
 #include "workbench/app/EmbeddedContents.h"
 #include "workbench/scene/Scene.h"
+#include "workbench/values/ValueStore.h"
 
 #include "host/Host.h"
 #include "host/Interpreter.h"
@@ -27,6 +28,8 @@ public:
 
     [[nodiscard]] app::Host& host() { return host_; }
     [[nodiscard]] Scene& scene() { return scene_; }
+    /// What commands and people have given a name, in this program.
+    [[nodiscard]] ValueStore& values() { return values_; }
     [[nodiscard]] app::Interpreter& interpreter() { return interpreter_; }
 
     /// Replaces the scene by that of a file; on failure all stays as it was.
@@ -66,6 +69,7 @@ private:
     app::Interpreter interpreter_{host_};
     EmbeddedContents contents_{host_};
     Scene scene_;
+    ValueStore values_;
     Autosave autosave_;
     QTimer autosaveTimer_;
     int roots_ = 0; ///< so many have begun or ended

@@ -41,7 +41,6 @@ void expectRows(MainWindow& window, app::Arguments& arguments) {
     Panel const& panel = takePanel(window, arguments);
     int const expected = arguments.integer("a number of rows");
     arguments.done();
-    window.document().scene().flush();
     if (panel.rowCount() != expected) {
         throw app::CommandError("expected " + std::to_string(expected) + " rows, there are " +
                                 std::to_string(panel.rowCount()));
@@ -54,6 +53,9 @@ bool runWindowCommand(MainWindow& window, std::vector<std::string> const& words)
     if (words[0] != "window") {
         return false;
     }
+    // What the commands before have done is to be seen.
+    window.document().scene().flush();
+    window.document().scene().noteCommands();
     app::Arguments arguments({words.begin() + 1, words.end()});
     std::string const what = arguments.oneOf({"show", "select", "grab", "expect"});
     if (what == "grab") {
@@ -69,7 +71,6 @@ bool runWindowCommand(MainWindow& window, std::vector<std::string> const& words)
         Panel& panel = takePanel(window, arguments);
         std::string const text = arguments.word("the text of a row");
         arguments.done();
-        window.document().scene().flush();
         if (!panel.select(QString::fromStdString(text))) {
             throw app::CommandError("there is no row \"" + text + '"');
         }
