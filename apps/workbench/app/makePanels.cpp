@@ -11,6 +11,9 @@
 #include "workbench/history/HistoryPanel.h"
 #include "workbench/lights/LightLayersPanel.h"
 #include "workbench/lights/LightMatrixPanel.h"
+#include "workbench/values/ParametersPanel.h"
+
+#include "host/DemoPanel.h"
 
 namespace workbench {
 
@@ -18,7 +21,6 @@ void makePanels(MainWindow& window) {
     using Place = MainWindow::Place;
     Document& document = window.document();
     Scene& scene = document.scene();
-    auto const tr = [](char const* text) { return MainWindow::tr(text); };
 
     auto* const colours = new ColorsPanel(scene);
     auto* const multi = new MultiColorPanel(scene);
@@ -32,15 +34,22 @@ void makePanels(MainWindow& window) {
                      &LightMatrixPanel::assignSelected);
 
     // The first one of a place is in front.
-    window.addPanel(Place::LeftUpper, "colours", tr("Colours"), colours);
-    window.addPanel(Place::LeftLower, "multicolour", tr("Multi-Colour"), multi);
-    window.addPanel(Place::LeftLower, "lightlayers", tr("Light Layers"), lightLayers);
-    window.addPanel(Place::Center, "matrix", tr("Matrix"), matrix);
-    window.addPanel(Place::RightUpper, "coloreditor", tr("Colour Editor"), editor);
-    window.addPanel(Place::RightLower, "history", tr("History"), new HistoryPanel(scene));
-    window.addPanel(Place::Bottom, "colorways", tr("Colorways"), new ColorwaysPanel(scene));
-    window.addPanel(Place::Bottom, "console", tr("Console"), new ConsolePanel(document));
-    window.addPanel(Place::Bottom, "events", tr("Events"), new EventsPanel(scene));
+    window.addPanel(Place::LeftUpper, "colours", MainWindow::tr("Colours"), colours);
+    window.addPanel(Place::LeftLower, "multicolour", MainWindow::tr("Multi-Colour"), multi);
+    window.addPanel(Place::LeftLower, "lightlayers", MainWindow::tr("Light Layers"), lightLayers);
+    window.addPanel(Place::Center, "matrix", MainWindow::tr("Matrix"), matrix);
+    window.addPanel(Place::RightUpper, "coloreditor", MainWindow::tr("Colour Editor"), editor);
+    auto const& settings = document.host().state<app::DemoPanel>().parameters;
+    window.addPanel(Place::RightUpper, "parameters", MainWindow::tr("Parameters"),
+                    new ParametersPanel(scene, document.values(), MainWindow::tr("Demonstration"),
+                                        {settings.begin(), settings.end()}));
+    window.addPanel(Place::RightLower, "history", MainWindow::tr("History"),
+                    new HistoryPanel(scene));
+    window.addPanel(Place::Bottom, "colorways", MainWindow::tr("Colorways"),
+                    new ColorwaysPanel(scene));
+    window.addPanel(Place::Bottom, "console", MainWindow::tr("Console"),
+                    new ConsolePanel(document));
+    window.addPanel(Place::Bottom, "events", MainWindow::tr("Events"), new EventsPanel(scene));
 }
 
 } // namespace workbench

@@ -1,0 +1,208 @@
+#include "workbench/WindowScene.h"
+
+#include "workbench/colors/ChannelSlider.h"
+#include "workbench/values/FieldBinding.h"
+#include "workbench/values/NumberSpin.h"
+#include "workbench/values/ParameterRows.h"
+#include "workbench/values/valueText.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <set>
+
+using namespace workbench;
+
+namespace {
+
+class ParametersTest : public WindowScene {
+protected:
+    void SetUp() override {
+        WindowScene::SetUp();
+        window.showPanel("parameters");
+        settle();
+    }
+
+    QWidget& field(char const* name) { return find<QWidget>(name); }
+    NumberSpin& spin(char const* name) { return *field(name).findChild<NumberSpin*>(); }
+    ChannelSlider* bar(char const* name) { return field(name).findChild<ChannelSlider*>(); }
+    /// What the console sees.
+    std::string shown(std::string const& name) { return run("value show " + name); }
+
+    void type(NumberSpin& spin, QString const& text) {
+        spin.setFocus();
+        spin.selectAll();
+        QTest::keyClicks(&spin, text);
+        QTest::keyClick(&spin, Qt::Key_Return);
+        settle();
+    }
+};
+
+} // namespace
+
+TEST_F(ParametersTest, HintsLimitsAndFlagsMakeTheFields) {
+    struct Row {
+        char const* name;
+        double atEnd; ///< what the far end of the bar gives; 0 for a plain field
+        char const* suffix;
+    };
+    Row const rows[] = {
+        {"size", 10, ""},       {"opacity", 100, ""},         {"steps", 8, ""},
+        {"broken", 0, ""},      {"temperature", 12000, " K"}, {"angle", 0, "°"},
+        {"percent", 100, " %"},
+    };
+    for (Row const& row : rows) {
+        ChannelSlider* const slider = bar(row.name);
+        EXPECT_EQ(slider != nullptr, row.atEnd != 0) << row.name;
+        EXPECT_EQ(spin(row.name).suffix(), QString(row.suffix)) << row.name;
+        if (slider) {
+            slider->setFocus();
+            QTest::keyClick(slider, Qt::Key_End);
+            QTest::qWait(1);
+            EXPECT_EQ(spin(row.name).value(), row.atEnd) << row.name;
+        }
+    }
+    EXPECT_FALSE(field("locked").isEnabled());
+    EXPECT_EQ(window.panel("parameters")->rowCount(), 14);
+    scene().endDrags();
+    EXPECT_EQ(history(), "Set Size;Set Opacity;Set Steps;Set Temperature;Set Percent;|");
+    EXPECT_NE(run("param list").find("Float 12000"), std::string::npos);
+}
+
+TEST_F(ParametersTest, AnEditIsOneEntryAndOnlyAnEditIsOne) {
+    NumberSpin& size = spin("size");
+    QTest::mouseClick(bar("size"), Qt::LeftButton, {}, QPoint(50, 5));
+    type(size, size.text());
+    EXPECT_EQ(history(), "|") << "a press, and the same number again";
+    QTest::mousePress(bar("size"), Qt::LeftButton, {}, QPoint(5, 5));
+    for (int x = 10; x < 60; x += 5) {
+        QTest::mouseMove(bar("size"), QPoint(x, 5));
+        QTest::qWait(4);
+    }
+    QTest::mouseRelease(bar("size"), Qt::LeftButton, {}, QPoint(60, 5));
+    EXPECT_EQ(history(), "Set Size;|");
+    type(size, "123.25");
+    EXPECT_NE(run("param list").find("'size', Float 123.25"), std::string::npos) << "beyond limits";
+    EXPECT_EQ(history(), "Set Size;Set Size;|") << "the drag took nothing more in";
+    find<QAction>("undo").trigger();
+    find<QAction>("undo").trigger();
+    settle();
+    EXPECT_EQ(size.value(), 0);
+    EXPECT_EQ(bar("size")->value(), 0) << "the field follows the history";
+
+    // By its name, and given up.
+    QLabel* label = nullptr;
+    for (QLabel* const candidate : window.panel("parameters")->findChildren<QLabel*>()) {
+        label = candidate->text() == "Opacity" ? candidate : label;
+    }
+    ASSERT_NE(label, nullptr);
+    QTest::mousePress(label, Qt::LeftButton, {}, QPoint(2, 5));
+    QTest::mouseMove(label, QPoint(40, 5));
+    QTest::qWait(40);
+    EXPECT_GT(spin("opacity").value(), 0);
+    QTest::keyClick(label, Qt::Key_Escape);
+    settle();
+    EXPECT_EQ(spin("opacity").value(), 0);
+    EXPECT_EQ(history(), "|") << "as if it had never been";
+    QTest::mouseRelease(label, Qt::LeftButton);
+
+    size.clearFocus();
+    QWheelEvent wheel(QPointF(5, 5), size.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, 120), {}, {},
+                      Qt::NoScrollPhase, false);
+    wheel.ignore();
+    QCoreApplication::sendEvent(&size, &wheel);
+    EXPECT_FALSE(wheel.isAccepted()) << "without the focus the panel scrolls";
+
+    type(size, "2.5");
+    auto* const binding = field("size").findChild<FieldBinding*>();
+    EXPECT_TRUE(binding->isChanged());
+    binding->reset();
+    EXPECT_EQ(size.value(), 0);
+    EXPECT_FALSE(binding->isChanged());
+}
+
+TEST_F(ParametersTest, SeveralValuesAreEditedAsOne) {
+    run("value new first Float 1.5");
+    run("value new second Float 2");
+    run("value new third Boolean on");
+    auto& subjects = find<QListWidget>("parameterSubjects");
+    subjects.clearSelection();
+    for (int const row : {1, 2}) {
+        subjects.item(row)->setSelected(true);
+    }
+    EXPECT_EQ(spin("value").text(), "mixed");
+    scene().endDrags();
+    EXPECT_EQ(history(), "|") << "looking is no edit";
+    type(spin("value"), "7.125");
+    EXPECT_EQ(history(), "Set first;|");
+    EXPECT_EQ(shown("first") + shown("second"), "  Float 7.125\n  Float 7.125\n");
+    stack().undo();
+    EXPECT_EQ(shown("first") + shown("second"), "  Float 1.5\n  Float 2\n");
+    EXPECT_EQ(spin("value").text(), "mixed");
+    subjects.item(3)->setSelected(true);
+    EXPECT_EQ(window.panel("parameters")->rowCount(), 0) << "a truth has nothing in common";
+    run("value set first 9");
+    subjects.item(3)->setSelected(false);
+    subjects.item(2)->setSelected(false);
+    EXPECT_EQ(spin("value").value(), 9);
+    run("value delete first");
+    EXPECT_EQ(subjects.findItems("first", Qt::MatchExactly).size(), 0);
+}
+
+TEST(ValueText, EveryTypeHasATextThatGivesItBack) {
+    zsg::AnimationCurve curve;
+    curve.insertKey(0.1F);
+    curve.insertKey(1.0F / 3);
+    zsg::ColorGradient gradient;
+    gradient.addColorStop({0.1F, 5, -1, 0.5F}, 0.7F, 1, 2);
+    gradient.setBlend(true);
+    zsg::Enumerable choice{{3, "three"}, {9, "nine"}};
+    choice.setSelection(9);
+    std::unique_ptr<zsg::Variant> values[] = {
+        makeValue(true),
+        makeValue(-17),
+        makeValue(QList<int>{1, -2}),
+        makeValue(0.1F),
+        makeValue(nyxVector2f{1e-7F, -3}),
+        makeValue(nyxVectorf{0.1F, 1e20F, 3}),
+        makeValue(1.0 / 3),
+        makeValue(nyxVector{0.1, 0.2, -1e300}),
+        makeValue(QString(" a text ")),
+        makeValue(QList<QString>{"one", "", "two words"}),
+        makeValue(zsg::FilePath("a b.png")),
+        makeValue(nyxMatrix{{1, 2, 3, 4, 5, 6, 7, 8, 9, 0.1, 11, 12, 13, 14, 15, 16}}),
+        makeValue(ZColorExt(0.25F, 4, 0.1F, 1)),
+        makeValue(ZColorExtAlpha(0, 0.5F, 1, 0.25F)),
+        makeValue(zsg::FloatArray{0.1F, 2}),
+        makeValue(gradient),
+        makeValue(curve),
+        makeValue(zsg::AxaltaColor({1, 2, 3}, {4, 5, 6}, {0.1F, 8, 9})),
+        makeValue(zsg::WeavePattern::makeTwill(5, 2)),
+        makeValue(choice),
+    };
+    std::set<zsg::Type> types;
+    for (auto const& value : values) {
+        types.insert(value->type());
+        auto const present = value->type() == zsg::Type::Enumerable
+                                 ? makeValue(zsg::Enumerable{{3, "three"}, {9, "nine"}})
+                                 : std::unique_ptr<zsg::Variant>(zsg::makeVariant(value->type()));
+        auto const back = valueFromText(valueText(*value), *present);
+        EXPECT_TRUE(back && isSame(*back, *value)) << zsg::typeName(value->type());
+        if (zsg::tryGet<QString>(*value) || zsg::tryGet<zsg::FilePath>(*value) ||
+            zsg::tryGet<QList<QString>>(*value)) {
+            continue; // any text will do
+        }
+        for (char const* const wrong : {"neither", "1 2 x", "{", "#12", "blend\n1", "UT 1 2"}) {
+            EXPECT_EQ(valueFromText(wrong, *value), nullptr)
+                << zsg::typeName(value->type()) << ' ' << wrong;
+        }
+    }
+    EXPECT_EQ(types.size(), std::size(values));
+    EXPECT_EQ(valueFromText("2147483648", *makeValue(1)), nullptr);
+    auto const half = valueFromText("#FF8000", *makeValue(ZColorExtAlpha(0, 0, 0, 0.5F)));
+    EXPECT_EQ(zsg::tryGet<ZColorExtAlpha>(*half)->rgba().a, 0.5F) << "no alpha was typed";
+}
