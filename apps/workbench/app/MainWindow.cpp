@@ -59,6 +59,7 @@ MainWindow::~MainWindow() {
     // The panels end what they edit while everything they stand on is still there.
     document_.scene().endDrags();
     qDeleteAll(std::exchange(docks_, {}));
+    delete takeCentralWidget();
 }
 
 Panel* MainWindow::panel(QString const& name) const { return panels_.value(name); }

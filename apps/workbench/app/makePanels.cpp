@@ -2,6 +2,7 @@
 
 #include "workbench/app/ConsolePanel.h"
 #include "workbench/app/Document.h"
+#include "workbench/app/HostCanvas.h"
 #include "workbench/app/MainWindow.h"
 #include "workbench/colors/ColorEditor.h"
 #include "workbench/colors/ColorsPanel.h"
@@ -11,6 +12,9 @@
 #include "workbench/history/HistoryPanel.h"
 #include "workbench/lights/LightLayersPanel.h"
 #include "workbench/lights/LightMatrixPanel.h"
+#include "workbench/painting/BrushPanel.h"
+#include "workbench/painting/LayersPanel.h"
+#include "workbench/painting/PicturePanel.h"
 #include "workbench/values/ParametersPanel.h"
 
 #include "host/DemoPanel.h"
@@ -28,16 +32,23 @@ void makePanels(MainWindow& window) {
     QObject::connect(colours, &ColorsPanel::currentChanged, multi, &MultiColorPanel::setColor);
     QObject::connect(colours, &ColorsPanel::currentChanged, editor, &ColorEditor::setColor);
 
+    auto* const canvas = new HostCanvas(document.host(), scene, &window);
+    QObject::connect(&scene, &Scene::commandsRan, canvas, &HostCanvas::noteCommands);
+
     auto* const lightLayers = new LightLayersPanel(scene);
     auto* const matrix = new LightMatrixPanel(scene);
     QObject::connect(lightLayers, &LightLayersPanel::assignmentWanted, matrix,
                      &LightMatrixPanel::assignSelected);
 
     // The first one of a place is in front.
+    window.addPanel(Place::Center, "picture", MainWindow::tr("Picture"),
+                    new PicturePanel(scene, *canvas));
+    window.addPanel(Place::Center, "matrix", MainWindow::tr("Matrix"), matrix);
     window.addPanel(Place::LeftUpper, "colours", MainWindow::tr("Colours"), colours);
     window.addPanel(Place::LeftLower, "multicolour", MainWindow::tr("Multi-Colour"), multi);
     window.addPanel(Place::LeftLower, "lightlayers", MainWindow::tr("Light Layers"), lightLayers);
-    window.addPanel(Place::Center, "matrix", MainWindow::tr("Matrix"), matrix);
+    window.addPanel(Place::LeftLower, "brush", MainWindow::tr("Brush"),
+                    new BrushPanel(scene, *canvas));
     window.addPanel(Place::RightUpper, "coloreditor", MainWindow::tr("Colour Editor"), editor);
     auto const& settings = document.host().state<app::DemoPanel>().parameters;
     window.addPanel(Place::RightUpper, "parameters", MainWindow::tr("Parameters"),
@@ -45,6 +56,8 @@ void makePanels(MainWindow& window) {
                                         {settings.begin(), settings.end()}));
     window.addPanel(Place::RightLower, "history", MainWindow::tr("History"),
                     new HistoryPanel(scene));
+    window.addPanel(Place::RightLower, "layers", MainWindow::tr("Paint Layers"),
+                    new LayersPanel(scene, *canvas));
     window.addPanel(Place::Bottom, "colorways", MainWindow::tr("Colorways"),
                     new ColorwaysPanel(scene));
     window.addPanel(Place::Bottom, "console", MainWindow::tr("Console"),

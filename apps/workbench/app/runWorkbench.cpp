@@ -25,9 +25,12 @@ int fail(std::string const& message) {
 
 /// What a batch run does between loading and the end; 0 when all of it succeeded.
 int runBatch(CommandLine const& line, MainWindow& window) {
-    // Two turns of the event loop: what the first one lays out, the second one draws.
-    QCoreApplication::processEvents();
-    QCoreApplication::processEvents();
+    // What the first turns of the event loop lay out, the next draw; and what is painted comes from
+    // the render thread.
+    for (int turn = 0; turn < 3; ++turn) {
+        window.document().host().taskQueue().waitIdle();
+        QCoreApplication::processEvents();
+    }
     if (line.screenshot.isEmpty()) {
         return 0;
     }

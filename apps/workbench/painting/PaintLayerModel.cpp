@@ -25,7 +25,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto quiet = 300ms; ///< after the last change, before small pictures are drawn again
+constexpr auto quiet = 300ms; ///< in a stroke, before small pictures are drawn again
 QString const rowMime = QStringLiteral("application/x-zscenegraph-paint-layer-row");
 
 /// In the order of the enumeration.
@@ -53,7 +53,6 @@ int thumbnailSide() { return 2 * QFontMetrics(QGuiApplication::font()).height();
 PaintLayerModel::PaintLayerModel(Scene& scene, Canvas& canvas, QObject* parent)
     : QAbstractTableModel(parent), scene_(scene), canvas_(canvas) {
     idle_.setSingleShot(true);
-    idle_.setInterval(quiet);
     connect(&idle_, &QTimer::timeout, this, &PaintLayerModel::drawThumbnails);
     connect(&scene, &Scene::changed, this, &PaintLayerModel::follow);
     connect(&scene, &Scene::rootEnding, this, [this] {
@@ -66,7 +65,7 @@ PaintLayerModel::PaintLayerModel(Scene& scene, Canvas& canvas, QObject* parent)
     connect(&canvas, &Canvas::surfaceChanged, this, &PaintLayerModel::update);
     connect(&canvas, &Canvas::pictureChanged, this, [this](Canvas::Picture const& picture) {
         if (!picture.parts.empty()) {
-            idle_.start();
+            idle_.start(canvas_.isStroking() ? quiet : 0ms);
         }
     });
     update();
@@ -374,7 +373,7 @@ void PaintLayerModel::update() {
     if (!rows_.empty()) {
         emit dataChanged(index(0, 0), index(rowCount() - 1, columns - 1));
     }
-    idle_.start();
+    idle_.start(0ms);
     emit updated();
 }
 
