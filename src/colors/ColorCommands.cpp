@@ -98,12 +98,12 @@ ZActivateColorwayCommand::ZActivateColorwayCommand(ColorDB* colorDB, nyx::Colorw
 bool ZActivateColorwayCommand::undo() {
     auto const start = std::exchange(interrupted_, std::nullopt);
     if (!start) {
-        return switchTo(undoSubs_, false);
+        return switchTo(undoSubs_, false, true);
     }
     // What an interrupted redo() has not reached is as it was, and nothing else would tell the
     // settings again which colorway is active.
     FirstException thrown;
-    thrown.keep([&] { switchTo(undoSubs_, start->wasActive); });
+    thrown.keep([&] { switchTo(undoSubs_, start->wasActive, true); });
     ColorDB* const colorDB = colorDB_.get();
     if (ZColorSettingsEdit* const settings =
             colorDB ? colorDB->getColorSettingsParameters() : nullptr) {
@@ -121,12 +121,13 @@ bool ZActivateColorwayCommand::redo() {
         ZColorwayEdit const* const edit = colorDB->getColorwayParameters(colorway_);
         interrupted_ = {edit && edit->isActive(), colorDB->activeColorwayId()};
     }
-    bool const done = switchTo(redoSubs_, true);
+    bool const done = switchTo(redoSubs_, true, false);
     interrupted_.reset();
     return done;
 }
 
-bool ZActivateColorwayCommand::switchTo(std::vector<MultiColorPair> const& pairs, bool isActive) {
+bool ZActivateColorwayCommand::switchTo(std::vector<MultiColorPair> const& pairs, bool isActive,
+                                        bool areOthersActive) {
     ColorDB* const colorDB = colorDB_.get();
     if (!colorDB) {
         return false;
@@ -149,7 +150,7 @@ bool ZActivateColorwayCommand::switchTo(std::vector<MultiColorPair> const& pairs
     };
     setActive(colorway_, isActive);
     for (nyx::ColorwayId const other : otherActive_) {
-        setActive(other, !isActive);
+        setActive(other, areOthersActive);
     }
     thrown.pass();
     return true;

@@ -66,7 +66,7 @@ private:
         nyx::ColorwayId named; ///< by the settings
     };
 
-    bool switchTo(std::vector<MultiColorPair> const& pairs, bool isActive);
+    bool switchTo(std::vector<MultiColorPair> const& pairs, bool isActive, bool areOthersActive);
 
     GuardedPointer<ColorDB> colorDB_;
     std::vector<MultiColorPair> undoSubs_;

@@ -69,10 +69,35 @@ private:
     std::string before;
 };
 
+/// Two colorways are active, and the renderer names the one that a switch back names first.
+struct Wardrobe final : ControllerScene {
+    Wardrobe() {
+        queue.unsubscribe(this);
+        db->getColorwayParameters(winter)->setActive(true);
+        db->pushColorway(winter);
+        db->getColorSettingsParameters()->setActiveColorwayId(summer);
+        db->getColorSettingsParameters()->commit(false);
+        before = renderer.dump();
+    }
+    ~Wardrobe() override { TearDown(); }
+    void TestBody() override {}
+    IEventQueue& events() { return queue; }
+    Mishaps::Operations operations() {
+        return {[this] { edit.applyColorway(way); }, [this] { edit.applyColorway(summer); }};
+    }
+    void check(std::size_t) { EXPECT_EQ(since(before), ""); }
+
+private:
+    ColorwayId const way = renderer.colorways().add("Both", {{cover, green}});
+    std::string before;
+};
+
 } // namespace
 
 // All that was lent is back, and nothing stays that no entry of the history stands for.
 TEST(ColorMishaps, WhateverGoesWrongNothingIsLost) { Mishaps::inTurn<Studio>(); }
+
+TEST(ColorMishaps, ASwitchLeavesEveryColorwayAsActiveAsItWas) { Mishaps::inTurn<Wardrobe>(); }
 
 using ColorAllocationCounts = ControllerScene;
 
