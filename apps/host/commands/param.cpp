@@ -16,7 +16,6 @@ namespace app {
 namespace {
 
 using zsg::Parameter;
-using zsg::Type;
 
 Parameter take(Host& host, Arguments& arguments) {
     QString const name = QString::fromStdString(arguments.word("a parameter"));
