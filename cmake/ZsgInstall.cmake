@@ -96,6 +96,19 @@ if(TARGET zsg-console)
 endif()
 if(TARGET zsg-workbench)
     zsg_install_program(zsg-workbench workbench)
+    set(desktop ${CMAKE_CURRENT_SOURCE_DIR}/apps/workbench/desktop/zsg-workbench)
+    if(TARGET zsg_translations)
+        get_target_property(catalogues zsg_translations WORKBENCH_CATALOGUES)
+        install(FILES ${catalogues}
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/zscenegraph/translations COMPONENT workbench)
+    endif()
+    foreach(file IN ITEMS
+            desktop:applications svg:icons/hicolor/scalable/apps xml:mime/packages)
+        string(REGEX REPLACE ":.*" "" ending ${file})
+        string(REGEX REPLACE ".*:" "" folder ${file})
+        install(FILES ${desktop}.${ending} DESTINATION ${CMAKE_INSTALL_DATADIR}/${folder}
+            COMPONENT workbench)
+    endforeach()
 endif()
 
 set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc/libzscenegraph-doc)

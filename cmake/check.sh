@@ -76,19 +76,26 @@ do_windows-compile() {
         cmake/windows/compile.py build/mingw-compile
 }
 
-# Every text that users read stands in the catalogues, and every one of the German one in German.
+# Every text that users read stands in the catalogues, and every one of the German ones in German.
 do_translations() {
-    local folder=build/translations language
-    mkdir -p "$folder" && cp i18n/*.ts "$folder" &&
-        /usr/lib/qt6/bin/lupdate -silent -locations none -no-obsolete src platform/embedded \
-            -ts "$folder"/*.ts || return 1
+    catalogue_is_complete zscenegraph src platform/embedded &&
+        catalogue_is_complete workbench apps/workbench
+}
+
+# catalogue_is_complete NAME FOLDER...
+catalogue_is_complete() {
+    local folder=build/translations language file
+    mkdir -p "$folder" && cp i18n/"$1"_*.ts "$folder" &&
+        /usr/lib/qt6/bin/lupdate -silent -locations none -no-obsolete -I apps "${@:2}" \
+            -ts "$folder/$1"_*.ts || return 1
     for language in en de; do
-        diff -u "i18n/zscenegraph_$language.ts" "$folder/zscenegraph_$language.ts" || {
-            echo 'texts have changed: run the lupdate line of cmake/check.sh on i18n/*.ts'
+        file=$1_$language.ts
+        diff -u "i18n/$file" "$folder/$file" || {
+            echo 'texts have changed: run the lupdate line of cmake/check.sh on the catalogue'
             return 1
         }
     done
-    ! grep -B3 'type="unfinished"' i18n/zscenegraph_de.ts
+    ! grep -B3 'type="unfinished"' "i18n/$1_de.ts"
 }
 
 do_docs() {

@@ -11,8 +11,6 @@ namespace app {
 
 namespace {
 
-QString const prefix = QStringLiteral("zscenegraph_");
-
 QString folder() {
     return QCoreApplication::applicationDirPath() +
            QStringLiteral("/../share/zscenegraph/translations");
@@ -25,8 +23,9 @@ bool isLanguage(QString const& text) {
 
 } // namespace
 
-std::string installTranslation(std::string const& language) {
+std::string installTranslation(std::string const& language, std::string const& catalogue) {
     auto const wanted = QString::fromStdString(language);
+    QString const prefix = QString::fromStdString(catalogue) + u'_';
     if (wanted == u"en" || wanted.startsWith(u"en_")) {
         return {}; // the texts themselves
     }

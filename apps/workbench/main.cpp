@@ -1,4 +1,5 @@
 #include "workbench/app/CommandLine.h"
+#include "workbench/app/installLanguage.h"
 #include "workbench/app/runWorkbench.h"
 
 #include <QApplication>
@@ -21,6 +22,11 @@ int main(int argc, char** argv) {
     QApplication::setStyle("Fusion");
     QCoreApplication::setOrganizationName("zscenegraph");
     QCoreApplication::setApplicationName("zsg-workbench");
+    QGuiApplication::setDesktopFileName("zsg-workbench");
     QApplication const application(argc, argv);
+    if (std::string const why = workbench::installLanguage(*result.line); !why.empty()) {
+        std::cerr << why << '\n';
+        return 1;
+    }
     return workbench::runWorkbench(*result.line);
 }

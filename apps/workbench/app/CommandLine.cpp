@@ -35,8 +35,9 @@ CommandLineResult readCommandLine(QStringList const& arguments) {
     QCommandLineOption const size("size", "of the window, in units of the screen", "WxH");
     QCommandLineOption const scale("scale", "pixels per unit of the screen, 0.5 to 4", "FACTOR");
     QCommandLineOption const palette("palette", "dark or light", "NAME");
+    QCommandLineOption const lang("lang", "language of the window, as de", "LANGUAGE");
     QCommandLineOption const quit("quit", "end when the script has run");
-    parser.addOptions({help, version, script, screenshot, panel, size, scale, palette, quit});
+    parser.addOptions({help, version, script, screenshot, panel, size, scale, palette, lang, quit});
     if (!parser.parse(arguments)) {
         return wrong(parser.errorText());
     }
@@ -56,6 +57,7 @@ CommandLineResult readCommandLine(QStringList const& arguments) {
     line.screenshot = parser.value(screenshot);
     line.panel = parser.value(panel);
     line.palette = parser.value(palette);
+    line.language = parser.value(lang);
     line.quit = parser.isSet(quit);
     if (parser.isSet(size)) {
         auto const read = readSize(parser.value(size));

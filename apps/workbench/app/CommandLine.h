@@ -17,6 +17,7 @@ struct CommandLine {
     QSize size{1280, 800};
     double scale = 0; ///< device pixels per unit of size; 0 as the screen has it
     QString palette;  ///< "dark", "light", or empty for the system's
+    QString language; ///< of the window, as "de"; empty: that of the system
     bool quit = false;
 
     /// Whether nobody is there to be asked.
