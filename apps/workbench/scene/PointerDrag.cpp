@@ -8,8 +8,9 @@
 
 namespace workbench {
 
-PointerDrag::PointerDrag(QWidget& widget, std::function<bool(QPointF const& at)> mayBegin)
-    : QObject(&widget), mayBegin_(std::move(mayBegin)) {
+PointerDrag::PointerDrag(QWidget& widget, std::function<bool(QPointF const& at)> mayBegin,
+                         Qt::MouseButton button)
+    : QObject(&widget), mayBegin_(std::move(mayBegin)), button_(button) {
     widget.installEventFilter(this);
 }
 
@@ -18,7 +19,7 @@ bool PointerDrag::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick: { // a second press soon after the first one is one as well
         auto const* const mouse = static_cast<QMouseEvent*>(event);
-        return mouse->button() == Qt::LeftButton && press(mouse->position());
+        return mouse->button() == button_ && press(mouse->position());
     }
     case QEvent::MouseMove: {
         if (!active_) {
@@ -32,7 +33,7 @@ bool PointerDrag::eventFilter(QObject* watched, QEvent* event) {
         return true;
     }
     case QEvent::MouseButtonRelease:
-        if (active_ && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+        if (active_ && static_cast<QMouseEvent*>(event)->button() == button_) {
             end(true);
             return true;
         }

@@ -9,7 +9,7 @@ class QWidget;
 
 namespace workbench {
 
-/// The left button on a widget, from press to release: what everything that is dragged within one
+/// One button on a widget, from press to release: what everything that is dragged within one
 /// widget has in common. A press alone is no move, Escape gives up, and losing the pointer is a
 /// release. Positions are the widget's.
 class PointerDrag final : public QObject {
@@ -17,7 +17,8 @@ class PointerDrag final : public QObject {
 
 public:
     /// `mayBegin` says whether there is something to drag at a place; it can remember what.
-    PointerDrag(QWidget& widget, std::function<bool(QPointF const& at)> mayBegin);
+    PointerDrag(QWidget& widget, std::function<bool(QPointF const& at)> mayBegin,
+                Qt::MouseButton button = Qt::LeftButton);
 
     [[nodiscard]] bool isActive() const { return active_; }
 
@@ -35,6 +36,7 @@ private:
     void end(bool given);
 
     std::function<bool(QPointF const&)> mayBegin_;
+    Qt::MouseButton button_;
     QPointF pressedAt_;
     bool active_ = false;
     bool moved_ = false;
