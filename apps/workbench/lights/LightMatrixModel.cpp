@@ -178,9 +178,10 @@ QVariant LightMatrixModel::headerData(int section, Qt::Orientation orientation, 
         return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::ButtonText);
     }
     constexpr int deepest = 8;
-    return role == Qt::DisplayRole ? QString(2 * std::min(row.depth, deepest), ' ') + row.name
-           : isText                ? row.name
-                                   : QVariant();
+    return role == Qt::DisplayRole
+               ? QString(qsizetype{2} * std::min(row.depth, deepest), ' ') + row.name
+           : isText ? row.name
+                    : QVariant();
 }
 
 Qt::ItemFlags LightMatrixModel::flags(QModelIndex const& index) const {
