@@ -12,6 +12,8 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <tuple>
+#include <utility>
 
 namespace {
 
@@ -114,6 +116,13 @@ TEST_F(BrushNodes, PaintWithWhatTheRendererWasToldOf) {
     param(root, "basic").value.node = nullptr;
     api()->update_brush_node(root);
     EXPECT_EQ(settings().opacity, 1.0f) << "without the node it is the default";
+
+    sceneApi().begin_brush_node("nyx.painter.stamp.color.shader", -1);
+    sceneApi().set_param("color", nyxScene_api::TypeColor, nyxColor{0.25f, 0.5f, 0.75f});
+    param(root, "color").value.node = sceneApi().end_brush_node();
+    api()->update_brush_node(root);
+    auto const [r, g, b] = settings().color;
+    EXPECT_EQ(std::tuple(r, g, b), std::tuple(0.25f, 0.5f, 0.75f));
 
     // Nodes outlive the contents of the scene, and belong to one scene.
     EXPECT_EQ(renderer.loadSceneText(renderer.saveSceneText()), "");
