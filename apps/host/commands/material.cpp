@@ -4,6 +4,7 @@
 #include "host/CommandResult.h"
 #include "host/DescribeMaterialCommand.h"
 #include "host/Host.h"
+#include "host/cmfAttributeKey.h"
 #include "host/printable.h"
 
 #include "zcore/ZUndoStack.h"
@@ -11,7 +12,6 @@
 #include "zsg/materials/ICMFManager.h"
 #include "zsg/materials/IMaterialHandler.h"
 #include "zsg/materials/ZCMFSchema.h"
-#include "zsg/materials/cmfFieldKey.h"
 
 #include <nlohmann/json.hpp>
 
@@ -83,17 +83,6 @@ IMaterialDescriptor& draft(Host& host, nyx::MaterialId id) {
     return *entry;
 }
 
-/// The key under which this program keeps an attribute's value: the field's for the attributes of
-/// the built-in schema, and its own name for others.
-std::string keyOf(std::string const& attribute) {
-    static std::map<std::string, int> const fields = {
-        {"Name", 0},   {"Color", 1}, {"Material", 2},        {"Finish", 3},
-        {"Vendor", 4}, {"Notes", 5}, {"Reference Image", 6},
-    };
-    auto const found = fields.find(attribute);
-    return found == fields.end() ? attribute : zsg::cmfFieldKey(found->second);
-}
-
 nlohmann::json readValue(std::string const& text) {
     constexpr int deepest = 64; // copying and writing a value go as deep as it is nested
     auto const checkDepth = [](int depth, nlohmann::json::parse_event_t, nlohmann::json&) {
@@ -158,7 +147,7 @@ void describe(Host& host, Arguments& arguments) {
     Table table;
     std::set<std::string> shown;
     for (zsg::ZCMFAttribute const& attribute : host.root().cmfManager()->schema().attributes) {
-        std::string const key = keyOf(attribute.name.toStdString());
+        std::string const key = cmfAttributeKey(attribute.name.toStdString());
         shown.insert(key);
         if (attribute.visible) {
             table.add(attribute.name.toStdString(),
@@ -200,7 +189,7 @@ void describe(Host& host, Arguments& arguments) {
 
 void set(Host& host, Arguments& arguments) {
     nyx::MaterialId const id = takeMaterial(host, arguments);
-    std::string const key = keyOf(arguments.word("an attribute or a key"));
+    std::string const key = cmfAttributeKey(arguments.word("an attribute or a key"));
     std::string const value = arguments.word("a value");
     arguments.done();
     if (key.empty()) {
@@ -212,7 +201,7 @@ void set(Host& host, Arguments& arguments) {
 void remove(Host& host, Arguments& arguments) {
     nyx::MaterialId const id = takeMaterial(host, arguments);
     std::string const word = arguments.word("an attribute or a key");
-    std::string const key = keyOf(word);
+    std::string const key = cmfAttributeKey(word);
     arguments.done();
     std::unique_ptr<IMaterialDescriptor> holder;
     if (!current(host, id, holder).hasValue(key)) {
