@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QTreeWidget>
+
+#include <nlohmann/json.hpp>
+
+namespace workbench {
+
+/// JSON as a tree whose single values may be edited: what was a text stays one, else the new text
+/// is read as JSON, and taken as a text when it is none.
+class MetadataTree final : public QTreeWidget {
+    Q_OBJECT
+
+public:
+    explicit MetadataTree(QWidget* parent = nullptr);
+
+    /// Null is an empty tree.
+    void show(nlohmann::json const& metadata);
+    /// Adds a member to the whole, which must be an object or null, or takes the current value out.
+    void add(QString const& key);
+    void removeCurrent();
+
+signals:
+    void edited(nlohmann::json const& metadata);
+
+private:
+    void fill(QTreeWidgetItem& parent, nlohmann::json const& value,
+              nlohmann::json::json_pointer const& place);
+    void take(QTreeWidgetItem* item);
+
+    nlohmann::json metadata_;
+    bool filling_ = false;
+};
+
+} // namespace workbench
