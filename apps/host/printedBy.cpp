@@ -5,23 +5,24 @@
 
 namespace app {
 
-std::string printedBy(std::function<void()> const& print) {
+std::string printedBy(std::function<void()> const& print, std::ostream& stream) {
     std::ostringstream text;
     struct Redirection {
-        explicit Redirection(std::streambuf* to) : before(std::cout.rdbuf(to)) {
-            format.copyfmt(std::cout);
+        Redirection(std::ostream& from, std::streambuf* to) : stream(from), before(from.rdbuf(to)) {
+            format.copyfmt(stream);
         }
         Redirection(Redirection const&) = delete;
         Redirection& operator=(Redirection const&) = delete;
         ~Redirection() {
-            std::cout.rdbuf(before);
-            std::cout.copyfmt(format);
+            stream.rdbuf(before);
+            stream.copyfmt(format);
         }
+        std::ostream& stream;
         std::streambuf* before;
         std::ios format{nullptr};
     };
     {
-        Redirection const redirection(text.rdbuf());
+        Redirection const redirection(stream, text.rdbuf());
         print();
     }
     return text.str();

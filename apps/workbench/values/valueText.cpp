@@ -23,6 +23,8 @@ namespace {
 
 using Value = std::unique_ptr<zsg::Variant>;
 
+constexpr QLatin1String noKeys("none"); // the text of a curve without keys
+
 template <class Number>
 void append(QString& text, Number number) {
     char digits[64];
@@ -50,7 +52,7 @@ QString curveText(zsg::AnimationCurve const& curve) {
     nyxArray<float> numbers;
     std::string letters;
     curve.store(numbers, letters);
-    QString text = QString::fromStdString(letters);
+    QString text = letters.empty() ? QString(noKeys) : QString::fromStdString(letters);
     for (float const number : numbers) {
         append(text, number);
     }
@@ -131,19 +133,26 @@ Value weaveValue(QString const& text) {
     }
 }
 
+/// Also of fewer keys than the renderer takes.
 Value curveValue(QString const& text) {
     auto const space = text.indexOf(' ');
-    auto const numbers = numbersOf(text.mid(space + 1));
-    std::string const letters = text.left(space).toStdString();
-    if (space < 1 || !numbers || letters.size() < 2 || numbers->size() != 6 * letters.size()) {
+    QString const letters = text == noKeys ? QString() : text.left(space);
+    auto const numbers = numbersOf(text == noKeys ? QString() : text.mid(space + 1));
+    auto const count = static_cast<std::size_t>(letters.size());
+    if ((space < 1 && text != noKeys) || !numbers || numbers->size() != 6 * count) {
         return nullptr;
     }
-    nyxArray<float> array;
-    for (double const number : *numbers) {
-        array.push_back(static_cast<float>(number));
+    std::vector<nyx::AnimationKey> keys;
+    for (std::size_t i = 0; i < count; ++i) {
+        auto const at = [&](std::size_t place) {
+            return static_cast<float>((*numbers)[6 * i + place]);
+        };
+        keys.push_back({{at(2), at(3)},
+                        {at(0), at(1)},
+                        {at(4), at(5)},
+                        zsg::keyTypeOf(letters[static_cast<qsizetype>(i)].toLatin1())});
     }
-    zsg::AnimationCurve curve;
-    return curve.load(array, letters.c_str()) ? makeValue(curve) : nullptr;
+    return makeValue(zsg::AnimationCurve(std::move(keys)));
 }
 
 Value gradientValue(QString const& text) {
