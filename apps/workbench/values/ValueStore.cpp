@@ -217,6 +217,10 @@ bool ValueStore::rename(Key const& key, std::string const& name) {
     return true;
 }
 
+void ValueStore::put(Key const& key, zsg::Variant const& value) {
+    shelf(key.kind).put(key.name, &value);
+}
+
 std::string ValueStore::freeName(Kind kind, std::string const& wanted) const {
     std::string name = wanted;
     for (int number = 2; contains({kind, name}); ++number) {

@@ -50,6 +50,8 @@ public:
     void remove(Key const& key);
     /// The same false as add().
     bool rename(Key const& key, std::string const& name);
+    /// As add() without the history, for what was kept; an existing value of the name is replaced.
+    void put(Key const& key, zsg::Variant const& value);
     /// A name that is free: the text itself, or with a number behind it.
     [[nodiscard]] std::string freeName(Kind kind, std::string const& wanted) const;
 
