@@ -20,6 +20,7 @@
 #include <array>
 #include <cmath>
 #include <exception>
+#include <optional>
 #include <utility>
 
 namespace workbench {
@@ -30,8 +31,6 @@ using nyx::embedded::GrowingStroke;
 using nyx::embedded::LayerPixels;
 
 namespace {
-
-constexpr int newBrushPercent = 5; ///< of a surface
 
 QImage imageOf(LayerPixels const& pixels, QSize const& size) {
     QImage image(size, QImage::Format_RGBA8888_Premultiplied);

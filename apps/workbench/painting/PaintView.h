@@ -6,6 +6,7 @@
 #include <QPointF>
 #include <QWidget>
 
+#include <memory>
 #include <optional>
 
 namespace workbench {
