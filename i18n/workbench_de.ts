@@ -111,6 +111,22 @@
         <source>Put %2 Lights into Layer (%1)</source>
         <translation>%2 Lichter in Ebene legen (%1)</translation>
     </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>An attribute needs a name.</source>
+        <translation>Ein Attribut braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>A name cannot hold vertical bars: schema files lose them.</source>
+        <translation>Ein Name kann keine senkrechten Striche enthalten: Schemadateien verlieren sie.</translation>
+    </message>
+    <message>
+        <source>There is an attribute %1 already.</source>
+        <translation>Ein Attribut %1 gibt es schon.</translation>
+    </message>
 </context>
 <context>
     <name>Swatch</name>
@@ -185,6 +201,17 @@
     <message>
         <source>The preset is kept.</source>
         <translation>Die Vorgabe ist gesichert.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::CMFForm</name>
+    <message>
+        <source>&lt;b&gt;Other&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Weiteres&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>What the material stores and the schema does not know</source>
+        <translation>Was das Material speichert und das Schema nicht kennt</translation>
     </message>
 </context>
 <context>
@@ -715,6 +742,29 @@
     </message>
 </context>
 <context>
+    <name>workbench::ImageField</name>
+    <message>
+        <source>…</source>
+        <translation>…</translation>
+    </message>
+    <message>
+        <source>Choose a picture</source>
+        <translation>Bild wählen</translation>
+    </message>
+    <message>
+        <source>Drop a picture here</source>
+        <translation>Ein Bild hierher ziehen</translation>
+    </message>
+    <message>
+        <source>%1: no picture</source>
+        <translation>%1: kein Bild</translation>
+    </message>
+    <message>
+        <source>Choose a Picture</source>
+        <translation>Bild wählen</translation>
+    </message>
+</context>
+<context>
     <name>workbench::LayersPanel</name>
     <message>
         <source>New</source>
@@ -974,6 +1024,128 @@
     <message>
         <source>Demonstration</source>
         <translation>Vorführung</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::MaterialPanel</name>
+    <message>
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadaten</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>&amp;Load Schema…</source>
+        <translation>Schema &amp;laden …</translation>
+    </message>
+    <message>
+        <source>Load a CMF Schema</source>
+        <translation>CMF-Schema laden</translation>
+    </message>
+    <message>
+        <source>CMF schemas (*.json)</source>
+        <translation>CMF-Schemata (*.json)</translation>
+    </message>
+    <message>
+        <source>&amp;Save Schema…</source>
+        <translation>Schema &amp;speichern …</translation>
+    </message>
+    <message>
+        <source>&amp;Add Attribute…</source>
+        <translation>Attribut &amp;hinzufügen …</translation>
+    </message>
+    <message>
+        <source>&amp;Rename Attribute…</source>
+        <translation>Attribut &amp;umbenennen …</translation>
+    </message>
+    <message>
+        <source>Move Attribute &amp;Up</source>
+        <translation>Attribut nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move Attribute &amp;Down</source>
+        <translation>Attribut nach &amp;unten</translation>
+    </message>
+    <message>
+        <source>&amp;Take Attribute Out</source>
+        <translation>Attribut &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>Add &amp;Metadata…</source>
+        <translation>&amp;Metadaten hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add Metadata</source>
+        <translation>Metadaten hinzufügen</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>Take M&amp;etadata Out</source>
+        <translation>Me&amp;tadaten entfernen</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>%1 of node %2</source>
+        <translation>%1 von Knoten %2</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>CMF Schema</source>
+        <translation>CMF-Schema</translation>
+    </message>
+    <message>
+        <source>Save the CMF Schema</source>
+        <translation>CMF-Schema speichern</translation>
+    </message>
+    <message>
+        <source>Add an Attribute</source>
+        <translation>Attribut hinzufügen</translation>
+    </message>
+    <message>
+        <source>Rename the Attribute</source>
+        <translation>Attribut umbenennen</translation>
+    </message>
+    <message>
+        <source>Choose the field of an attribute first.</source>
+        <translation>Zuerst das Feld eines Attributs wählen.</translation>
+    </message>
+    <message>
+        <source>A schema needs an attribute.</source>
+        <translation>Ein Schema braucht ein Attribut.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::MetadataTree</name>
+    <message>
+        <source>Key</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>(all of it)</source>
+        <translation>(alles)</translation>
     </message>
 </context>
 <context>
@@ -1278,6 +1450,13 @@
     <message>
         <source>Rename Light Layer (%1)</source>
         <translation>Lichtebene umbenennen (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ReplaceSchema</name>
+    <message>
+        <source>CMF Schema (%1)</source>
+        <translation>CMF-Schema (%1)</translation>
     </message>
 </context>
 <context>

@@ -111,6 +111,22 @@
         <source>Put %2 Lights into Layer (%1)</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An attribute needs a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A name cannot hold vertical bars: schema files lose them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is an attribute %1 already.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Swatch</name>
@@ -184,6 +200,17 @@
     </message>
     <message>
         <source>The preset is kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::CMFForm</name>
+    <message>
+        <source>&lt;b&gt;Other&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the material stores and the schema does not know</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -715,6 +742,29 @@
     </message>
 </context>
 <context>
+    <name>workbench::ImageField</name>
+    <message>
+        <source>…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drop a picture here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: no picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a Picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>workbench::LayersPanel</name>
     <message>
         <source>New</source>
@@ -973,6 +1023,128 @@
     </message>
     <message>
         <source>Demonstration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::MaterialPanel</name>
+    <message>
+        <source>Material</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Load Schema…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load a CMF Schema</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CMF schemas (*.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save Schema…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add Attribute…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rename Attribute…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Attribute &amp;Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Attribute &amp;Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Take Attribute Out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add &amp;Metadata…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Metadata</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take M&amp;etadata Out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of node %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CMF Schema</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the CMF Schema</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add an Attribute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename the Attribute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the field of an attribute first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A schema needs an attribute.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::MetadataTree</name>
+    <message>
+        <source>Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(all of it)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1276,6 +1448,13 @@
     <name>workbench::RenameLightLayer</name>
     <message>
         <source>Rename Light Layer (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ReplaceSchema</name>
+    <message>
+        <source>CMF Schema (%1)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -12,6 +12,7 @@
 #include "workbench/history/HistoryPanel.h"
 #include "workbench/lights/LightLayersPanel.h"
 #include "workbench/lights/LightMatrixPanel.h"
+#include "workbench/materials/MaterialPanel.h"
 #include "workbench/painting/BrushPanel.h"
 #include "workbench/painting/LayersPanel.h"
 #include "workbench/painting/PicturePanel.h"
@@ -35,6 +36,8 @@ void makePanels(MainWindow& window) {
     auto* const canvas = new HostCanvas(document.host(), scene, &window);
     QObject::connect(&scene, &Scene::commandsRan, canvas, &HostCanvas::noteCommands);
 
+    auto* const material = new MaterialPanel(scene);
+    QObject::connect(material, &MaterialPanel::colorWanted, colours, &ColorsPanel::setCurrent);
     auto* const lightLayers = new LightLayersPanel(scene);
     auto* const matrix = new LightMatrixPanel(scene);
     QObject::connect(lightLayers, &LightLayersPanel::assignmentWanted, matrix,
@@ -50,6 +53,7 @@ void makePanels(MainWindow& window) {
     window.addPanel(Place::LeftLower, "brush", MainWindow::tr("Brush"),
                     new BrushPanel(scene, *canvas));
     window.addPanel(Place::RightUpper, "coloreditor", MainWindow::tr("Colour Editor"), editor);
+    window.addPanel(Place::RightUpper, "material", MainWindow::tr("Material"), material);
     auto const& settings = document.host().state<app::DemoPanel>().parameters;
     window.addPanel(Place::RightUpper, "parameters", MainWindow::tr("Parameters"),
                     new ParametersPanel(scene, document.values(), MainWindow::tr("Demonstration"),

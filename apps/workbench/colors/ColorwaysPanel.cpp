@@ -13,24 +13,11 @@
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QMenu>
-#include <QPainter>
 #include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 namespace workbench {
-
-namespace {
-
-QIcon swatchIcon(Swatch const& swatch, int side) {
-    QPixmap pixmap(side, side);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    paintSwatch(painter, pixmap.rect(), swatch);
-    return pixmap;
-}
-
-} // namespace
 
 ColorwaysPanel::ColorwaysPanel(Scene& scene, QWidget* parent)
     : Panel(parent),

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QPainter>
+#include <QPixmap>
 
 #include <algorithm>
 
@@ -115,6 +116,14 @@ void paintSwatch(QPainter& painter, QRect const& rect, Swatch const& swatch) {
         painter.fillRect(inside.left(), inside.bottom() - height + 1, inside.width(), height, ink);
     }
     painter.restore();
+}
+
+QIcon swatchIcon(Swatch const& swatch, int side) {
+    QPixmap pixmap(side, side);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    paintSwatch(painter, pixmap.rect(), swatch);
+    return pixmap;
 }
 
 } // namespace workbench

@@ -4,6 +4,7 @@
 #include "nyxrender/nyxColor.h"
 
 #include <QColor>
+#include <QIcon>
 #include <QRect>
 #include <QString>
 
@@ -44,5 +45,8 @@ struct Swatch {
 /// row of dots for sub-colours, a bar at the foot when it is in use. The frame is neutral whatever
 /// the palette, because the surroundings change how a colour looks.
 void paintSwatch(QPainter& painter, QRect const& rect, Swatch const& swatch);
+
+/// The same as a square of so many pixels, for menus and lists.
+[[nodiscard]] QIcon swatchIcon(Swatch const& swatch, int side);
 
 } // namespace workbench

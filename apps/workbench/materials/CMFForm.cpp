@@ -59,6 +59,7 @@ void CMFForm::build() {
     }
     page_ = new QWidget(this);
     auto* const form = new QFormLayout(page_);
+    form->setRowWrapPolicy(QFormLayout::WrapAllRows); // names are long, and docks are narrow
     bool isOther = false;
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         Row const& row = rows_[i];
