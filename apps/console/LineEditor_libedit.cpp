@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cwchar>
+#include <exception>
 
 #include <histedit.h>
 #include <unistd.h>
@@ -154,7 +155,12 @@ private:
     static unsigned char complete(EditLine* edit, int) {
         LineInfo const* const info = el_line(edit);
         std::string const line(info->buffer, info->cursor);
-        app::Completion const found = of(edit).complete_(line);
+        app::Completion found;
+        try {
+            found = of(edit).complete_(line);
+        } catch (std::exception const&) { // it must not pass through a library in C
+            return CC_ERROR;
+        }
         if (found.choices.empty()) {
             return CC_ERROR;
         }

@@ -29,6 +29,38 @@ bool isHexColor(std::string_view text) {
     return (digits == 6 || digits == 8) && (end == text.size() || isBlank(text[end]));
 }
 
+// What stands behind a backslash at `i`, which goes behind it.
+void takeEscaped(std::string_view line, std::size_t& i, std::string& word) {
+    char const letter = line[i++];
+    std::size_t const digits = letter == 'x' ? 2 : letter == 'u' ? 4 : 0;
+    unsigned number = 0;
+    if (digits == 0) {
+        word += letter == 'n' ? '\n' : letter;
+        return;
+    }
+    char const* const begin = line.data() + i;
+    auto const [end, error] =
+        std::from_chars(begin, begin + std::min(digits, line.size() - i), number, 16);
+    bool const isSurrogate = number >= 0xD800 && number <= 0xDFFF;
+    if (error != std::errc() || end != begin + digits || isSurrogate) {
+        throw CommandError(std::string("expected ") + (digits == 2 ? "two" : "four") +
+                               " hex digits of a character behind \\" + letter +
+                               "; a backslash itself is \\\\",
+                           "usage");
+    }
+    i += digits;
+    if (number >= 0x800) {
+        word += static_cast<char>(0xE0 | number >> 12);
+        word += static_cast<char>(0x80 | (number >> 6 & 0x3F));
+        word += static_cast<char>(0x80 | (number & 0x3F));
+    } else if (number >= 0x80) {
+        word += static_cast<char>(0xC0 | number >> 6);
+        word += static_cast<char>(0x80 | (number & 0x3F));
+    } else {
+        word += static_cast<char>(number);
+    }
+}
+
 } // namespace
 
 std::vector<std::string> splitWords(std::string_view line) {
@@ -52,11 +84,10 @@ std::vector<std::string> splitWords(std::string_view line) {
             while (i < line.size() && line[i] != '"') {
                 if (line[i] == '\\' && i + 1 < line.size()) {
                     ++i;
-                    word += line[i] == 'n' ? '\n' : line[i];
+                    takeEscaped(line, i, word);
                 } else {
-                    word += line[i];
+                    word += line[i++];
                 }
-                ++i;
             }
             if (i == line.size()) {
                 throw CommandError("a double quote is not closed", "usage");

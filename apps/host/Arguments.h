@@ -22,7 +22,8 @@ private:
 };
 
 /// Splits a line into words at blanks. Double quotes keep blanks together; inside them \" \\ \n
-/// stand for themselves and a line feed. A # at the start of a word begins a comment,
+/// stand for themselves and a line feed, and \x1b \u202e for the character of that number, which is
+/// how printable() shows what a terminal would obey. A # at the start of a word begins a comment,
 /// unless it is a colour behind the first word: six or eight hex digits and a blank. Throws
 /// CommandError for an open quote.
 [[nodiscard]] std::vector<std::string> splitWords(std::string_view line);

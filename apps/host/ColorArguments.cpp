@@ -17,11 +17,13 @@ namespace app {
 namespace {
 
 nyx::ColorId colorOf(Host& host, std::string const& word) {
-    return idOf<nyx::ColorId>(word, "colour", [&](std::string const& name, nyx::ColorId id) {
-        return id.isValid() && host.renderer().colors().record(id)
-                   ? id
-                   : host.renderer().colors().find(name);
-    });
+    auto const& colors = host.renderer().colors();
+    return idOf<nyx::ColorId>(
+        word, "colour",
+        [&](std::string const& name, nyx::ColorId id) {
+            return id.isValid() && colors.record(id) ? id : colors.find(name);
+        },
+        [&] { return recordNames(colors); });
 }
 
 constexpr char waysToWrite[] =
@@ -95,7 +97,8 @@ nyxColor_rgba takeWrittenColor(Host& host, Arguments& arguments) {
     nyx::ColorId const id =
         word.starts_with('=') ? colorOf(host, word) : host.renderer().colors().find(word);
     if (!host.renderer().colors().record(id)) {
-        throw CommandError("expected " + std::string(waysToWrite) + "; found \"" + word + "\"");
+        throw CommandError("expected " + std::string(waysToWrite) + "; found \"" + word + '"' +
+                           didYouMean(word, recordNames(host.renderer().colors())));
     }
     return host.root().colorDB()->colorFromId(id).rgba();
 }
@@ -107,12 +110,13 @@ nyx::ColorId takeColor(Host& host, Arguments& arguments, char const* expected) {
 }
 
 nyx::ColorwayId takeColorway(Host& host, Arguments& arguments) {
-    return idOf<nyx::ColorwayId>(arguments.word("a colorway"), "colorway",
-                                 [&](std::string const& name, nyx::ColorwayId id) {
-                                     return id.isValid() && host.renderer().colorways().record(id)
-                                                ? id
-                                                : host.renderer().colorways().find(name);
-                                 });
+    auto const& colorways = host.renderer().colorways();
+    return idOf<nyx::ColorwayId>(
+        arguments.word("a colorway"), "colorway",
+        [&](std::string const& name, nyx::ColorwayId id) {
+            return id.isValid() && colorways.record(id) ? id : colorways.find(name);
+        },
+        [&] { return recordNames(colorways); });
 }
 
 std::vector<nyx::ColorId> takeColors(Host& host, Arguments& arguments) {

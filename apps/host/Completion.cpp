@@ -178,12 +178,18 @@ Completion completionOf(Host& host, std::string_view line) {
     Completion result;
     result.start = lastWordAt(line);
     result.text = line.substr(result.start);
-    Words words = splitWords(std::string(line.substr(0, result.start)) + '.');
+    Words words;
+    std::string begun;
+    try {
+        words = splitWords(std::string(line.substr(0, result.start)) + '.');
+        begun = meaningOf(result.text);
+    } catch (CommandError const&) { // half of a "\\u202e"
+        return result;
+    }
     if (words.empty() || !words.back().ends_with('.')) {
         return result; // in a comment
     }
     words.pop_back();
-    std::string const begun = meaningOf(result.text);
     bool mayGoOn = false;
     for (Candidate const& candidate : candidatesFor(host, words, begun)) {
         if (folded(candidate.word).startsWith(folded(begun))) {

@@ -92,7 +92,7 @@ Json greeting(Host& host) {
             {"version", zsg::version()},
             {"protocol", 1},
             {"scene", host.path()},
-            {"capabilities", {"events", "numbers", "result", "undo"}}};
+            {"capabilities", {"events", "interrupt", "numbers", "result", "undo"}}};
 }
 
 Json undoState(ZUndoStack const& stack) {

@@ -2,6 +2,7 @@
 
 #include "host/Host.h"
 #include "host/idArgument.h"
+#include "host/printable.h"
 
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/lightlayers/ILightLayerApi.h"
@@ -14,12 +15,13 @@ namespace app {
 namespace {
 
 nyx::GroupItemId itemOf(Host& host, std::string const& word, char const* expected) {
-    return idOf<nyx::GroupItemId>(word, expected,
-                                  [&](std::string const& name, nyx::GroupItemId id) {
-                                      return id.isValid() && host.renderer().items().record(id)
-                                                 ? id
-                                                 : host.renderer().items().find(name);
-                                  });
+    auto const& items = host.renderer().items();
+    return idOf<nyx::GroupItemId>(
+        word, expected,
+        [&](std::string const& name, nyx::GroupItemId id) {
+            return id.isValid() && items.record(id) ? id : items.find(name);
+        },
+        [&] { return recordNames(items); });
 }
 
 std::vector<std::string> takeWords(Arguments& arguments, char const* expected) {
@@ -48,19 +50,26 @@ nyx::LightLayerId takeLayer(Host& host, Arguments& arguments) {
     constexpr unsigned most = 32;
     zsg::ILightLayerApi& api = lightLayers(host);
     auto const exists = [](nyx::LightLayerId id) { return id.toUint() - 1 < most; };
-    return idOf<nyx::LightLayerId>(arguments.word("a light layer"), "light layer",
-                                   [&](std::string const& name, nyx::LightLayerId id) {
-                                       if (exists(id) && !api.layerName(id).empty()) {
-                                           return id;
-                                       }
-                                       for (unsigned number = 1; number <= most; ++number) {
-                                           if (api.layerName(nyx::LightLayerId(number)) == name &&
-                                               !name.empty()) {
-                                               return nyx::LightLayerId(number);
-                                           }
-                                       }
-                                       return nyx::LightLayerId();
-                                   });
+    return idOf<nyx::LightLayerId>(
+        arguments.word("a light layer"), "light layer",
+        [&](std::string const& name, nyx::LightLayerId id) {
+            if (exists(id) && !api.layerName(id).empty()) {
+                return id;
+            }
+            for (unsigned number = 1; number <= most; ++number) {
+                if (api.layerName(nyx::LightLayerId(number)) == name && !name.empty()) {
+                    return nyx::LightLayerId(number);
+                }
+            }
+            return nyx::LightLayerId();
+        },
+        [&] {
+            std::vector<std::string> names;
+            for (nyx::LightLayerId const id : api.layers()) {
+                names.push_back(api.layerName(id));
+            }
+            return names;
+        });
 }
 
 std::vector<nyx::GroupItemId> takeItems(Host& host, Arguments& arguments) {
@@ -86,7 +95,7 @@ std::vector<nyx::ObjectId> takeLights(Host& host, Arguments& arguments) {
 std::string layerLine(Host& host, nyx::LightLayerId layer) {
     zsg::ILightLayerApi const& api = lightLayers(host);
     unsigned const flags = api.flags(layer).bits();
-    return std::to_string(layer.toUint()) + ' ' + api.layerName(layer) +
+    return std::to_string(layer.toUint()) + ' ' + printable(api.layerName(layer)) +
            (flags == 0 ? "" : ", flags " + std::to_string(flags)) +
            ((flags & 0x1) != 0 ? ", inverted" : "") + ((flags & 0x10) != 0 ? ", deleted" : "");
 }
@@ -99,7 +108,7 @@ nlohmann::ordered_json layerResult(Host& host, nyx::LightLayerId layer) {
 
 std::string itemLine(Host& host, nyx::GroupItemId item) {
     auto const info = host.renderer().items().record(item);
-    return std::to_string(item.toUint()) + ' ' + (info ? info->name : "(no such item)");
+    return std::to_string(item.toUint()) + ' ' + (info ? printable(info->name) : "(no such item)");
 }
 
 } // namespace app

@@ -3,11 +3,13 @@
 #include "host/Arguments.h"
 #include "host/CommandResult.h"
 #include "host/Host.h"
+#include "host/didYouMean.h"
 #include "host/printable.h"
 
 #include <map>
 #include <ostream>
 #include <string>
+#include <vector>
 
 namespace app {
 
@@ -24,7 +26,11 @@ T& takeNamed(Host& host, Arguments& arguments, char const* what) {
     auto& values = host.state<NamedValues<T>>().byName;
     auto const found = values.find(name);
     if (found == values.end()) {
-        throw CommandError("there is no \"" + name + "\"");
+        std::vector<std::string> names;
+        for (auto const& entry : values) {
+            names.push_back(entry.first);
+        }
+        throw CommandError("there is no \"" + name + '"' + didYouMean(name, names));
     }
     return found->second;
 }

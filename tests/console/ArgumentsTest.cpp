@@ -25,11 +25,15 @@ TEST(Arguments, LinesSplitIntoWords) {
              Row{R"(name "two words" "")", {"name", "two words", ""}},
              Row{R"("a\"b\\c\nd")", {"a\"b\\c\nd"}},
              Row{R"(Rug:"Warm Sand")", {"Rug:Warm Sand"}},
+             Row{R"("\x1b[31m \u202e\xe4\u20ac")", {"\x1B[31m \u202e\u00e4\u20ac"}},
          }) {
         EXPECT_EQ(splitWords(row.line), row.words) << row.line;
     }
     EXPECT_THROW((void)splitWords("say \"never closed"), CommandError);
-    EXPECT_THROW((void)splitWords("\"ends in a backslash\\"), CommandError);
+    for (char const* const line : {R"("ends in a backslash\)", R"("\x1")", R"("\x1g")",
+                                   R"("\u20a")", R"("C:\users")", R"("\ud800")"}) {
+        EXPECT_THROW((void)splitWords(line), CommandError) << line;
+    }
 }
 
 TEST(Arguments, Utf8IsCheckedToTheByte) {

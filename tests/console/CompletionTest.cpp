@@ -88,6 +88,7 @@ TEST(Completion, FollowsTheCommandAndItsArguments) {
         {"scene load \"in here/.", "scene load \"in here/.hidden\" |"},
         {"scene load nowhere/", "scene load nowhere/|"},
         {"color show # Te", "color show # Te|"},
+        {"color show \"\\x1", "color show \"\\x1|"},
         {"nonsense ", "nonsense |"},
     };
     for (Row const& row : rows) {

@@ -15,6 +15,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 class InterpreterTest : public testing::Test {
@@ -87,6 +88,11 @@ TEST_F(InterpreterTest, NamesReachTheTerminalAsTextAndColoursAsBlocks) {
     EXPECT_EQ(out.str().find('\x1B'), std::string::npos);
     EXPECT_THAT(out.str(), HasSubstr("\n  29 #008080 \\x1b[2J\\nevent 7 ColorCreated 1\n"));
     EXPECT_THAT(out.str(), HasSubstr("Set Color name (\\x1b[2J\\nevent 7 ColorCreated 1)\n"));
+    interpreter.run({"lightlayer", "name", "Accent", "one\nundo"});
+    interpreter.run({"lightlayer", "show", "2"});
+    interpreter.run({"light", "show", "29"});
+    interpreter.run("lightlayer matrix");
+    EXPECT_THAT(out.str(), Not(HasSubstr("\nundo")));
     try {
         interpreter.run({"color", "show", "\x1B[0m"});
         ADD_FAILURE();
@@ -97,6 +103,21 @@ TEST_F(InterpreterTest, NamesReachTheTerminalAsTextAndColoursAsBlocks) {
     out.str("");
     EXPECT_EQ(script("color name 28 \"#12 #12345g\"\ncolor show 28\n"), 0) << errors.str();
     EXPECT_THAT(out.str(), StartsWith("  28 \x1B[48;2;46;139;87m   \x1B[0m #2e8b57 #12 #12345g\n"));
+}
+
+TEST_F(InterpreterTest, WhatMayHaveBeenMeantIsSaid) {
+    EXPECT_EQ(
+        script("color show teal\nlight show Key\nmaterial show Seat\ncolor set Teal SteelBlu\n"
+               "colorway apply Autum\nlight assign accent 24\nweave new denim plain\n"
+               "weave show denm\nhelp colour\nhelp color lst\ncolor show Nobody\n",
+               true),
+        10);
+    std::string const text = errors.str();
+    for (char const* const meant : {"Teal", "Key Light", "Seat Fabric", "SteelBlue", "Autumn",
+                                    "Accent", "denim", "color", "color list"}) {
+        EXPECT_THAT(text, HasSubstr("; did you mean \"" + std::string(meant) + "\"?\n"));
+    }
+    EXPECT_THAT(text, HasSubstr("no colour \"Nobody\"\n"));
 }
 
 TEST_F(InterpreterTest, ARequestThatIsNestedTooDeeplyIsRefused) {

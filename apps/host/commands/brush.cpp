@@ -8,6 +8,7 @@
 #include "host/parameterResult.h"
 #include "host/pictures/BrushSheet.h"
 #include "host/pictures/PictureFile.h"
+#include "host/printable.h"
 #include "host/sRGB.h"
 
 #include "zsg/core/ISceneGraph.h"
@@ -50,7 +51,7 @@ void printValue(std::ostream& out, Parameter const& p) {
         out << *p.value<float>();
         break;
     case Type::String:
-        out << '"' << p.value<QString>()->toStdString() << '"';
+        out << '"' << printable(p.value<QString>()->toStdString()) << '"';
         break;
     case Type::Color: {
         out << hexColor(p.getColor().rgba());

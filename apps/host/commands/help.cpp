@@ -1,6 +1,7 @@
 #include "host/CommandResult.h"
 #include "host/CommandTable.h"
 #include "host/Host.h"
+#include "host/didYouMean.h"
 #include "host/printable.h"
 
 #include <algorithm>
@@ -90,7 +91,13 @@ void help(Host& host, Arguments& arguments) {
         host.out() << "  for example: " << (*exact)->example << '\n';
     }
     if (rows.empty()) {
-        throw CommandError("no command begins with \"" + printable(wanted, longestWord) + "\"");
+        std::vector<std::string> names;
+        for (Command const* const command : allCommands()) {
+            names.emplace_back(command->name.substr(0, command->name.find(' ')));
+            names.emplace_back(command->name);
+        }
+        throw CommandError("no command begins with \"" + printable(wanted, longestWord) + '"' +
+                           didYouMean(wanted, names));
     }
 }
 

@@ -2,6 +2,7 @@
 #include "host/CommandResult.h"
 #include "host/Host.h"
 #include "host/LightArguments.h"
+#include "host/printable.h"
 
 #include "zsg/lightlayers/ILightLayerApi.h"
 #include "zsg/lightlayers/ILightLayerController.h"
@@ -26,7 +27,9 @@ void list(Host& host, Arguments&) {
                     {"unlisted", item->unlisted}};
             });
             host.out() << "  " << itemLine(host, id)
-                       << (item->parent.isValid() ? " in " + items.record(item->parent)->name : "")
+                       << (item->parent.isValid()
+                               ? " in " + printable(items.record(item->parent)->name)
+                               : "")
                        << ", layer "
                        << layerLine(host, items.lightLayer(nyx::ObjectId(id.toUint())))
                        << (item->unlisted ? ", unlisted" : "") << '\n';

@@ -5,6 +5,7 @@
 #include "host/DescribeMaterialCommand.h"
 #include "host/Host.h"
 #include "host/cmfAttributeKey.h"
+#include "host/idArgument.h"
 #include "host/printable.h"
 
 #include "zcore/ZUndoStack.h"
@@ -51,7 +52,8 @@ nyx::MaterialId takeMaterial(Host& host, Arguments& arguments) {
     }
     nyx::MaterialId const id = host.renderer().materials().find(word);
     if (!id.isValid()) {
-        throw CommandError("the scene has no material \"" + word + "\"");
+        throw CommandError("the scene has no material \"" + word + '"' +
+                           didYouMean(word, recordNames(host.renderer().materials())));
     }
     return id;
 }

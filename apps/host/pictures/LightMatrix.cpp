@@ -3,6 +3,7 @@
 #include "host/Host.h"
 #include "host/LightArguments.h"
 #include "host/pictures/Picture.h"
+#include "host/printable.h"
 
 #include "zsg/lightlayers/ILightLayerApi.h"
 
@@ -51,7 +52,7 @@ LightMatrix::LightMatrix(Host& host) {
         return std::vector<nyx::LightLayerId>(ids.begin(), ids.end());
     }();
     for (nyx::LightLayerId const layer : layers) {
-        columns_.push_back(cut(api.layerName(layer)));
+        columns_.push_back(cut(printable(api.layerName(layer))));
     }
     std::map<nyx::GroupItemId, std::vector<nyx::GroupItemId>> below;
     std::set<nyx::GroupItemId> leading; // to a light
@@ -78,7 +79,7 @@ LightMatrix::LightMatrix(Host& host) {
         auto const item = items.record(id);
         if (item->isLight() || leading.contains(id)) {
             Row& row = rows_.emplace_back();
-            row.name = cut(item->name);
+            row.name = cut(printable(item->name));
             row.depth = std::min(depth, deepest);
             row.isLight = item->isLight();
             for (nyx::LightLayerId const layer : layers) {
