@@ -1,14 +1,18 @@
+#include "documents/documentText.h"
 #include "host/CommandTable.h"
 #include "host/Host.h"
 #include "host/Interpreter.h"
 #include "support/sourceDir.h"
 
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <set>
 #include <sstream>
+#include <string>
 
 namespace {
 
@@ -43,6 +47,37 @@ TEST(CommandExamples, ThoseOfTheHelpWorkInTheShowroom) {
         }
     }
     std::filesystem::current_path(before);
+}
+
+// The page of the console says which verb goes with which kinds of things.
+TEST(CommandExamples, TheVerbsOfThePageAreThoseOfTheProgram) {
+    QString const page = documents::read("docs/console.md");
+    QString const table = page.section("| Verb |", 1).section("\n\n", 0, 0);
+    std::set<std::string> said;
+    std::set<QString> verbs;
+    for (QStringList const& row :
+         documents::all("(?m)^\\| (`.*`) \\| [^|]* \\| ([^|]*) \\|$", table)) {
+        QString const kinds = QString(row[1]).remove(QRegularExpression("\\([^)]*\\)"));
+        for (QString const& part : kinds.split(';')) { // "layer, cmf; `save` also gradient"
+            QString const& where = part.contains('`') ? part : row[0];
+            for (QStringList const& verb : documents::all("`([a-z]+)", where)) {
+                verbs.insert(verb[0]);
+                for (QString const& kind : part.section("also", -1).split(',')) {
+                    said.insert((kind.trimmed() + ' ' + verb[0]).toStdString());
+                }
+            }
+        }
+    }
+    std::set<std::string> there;
+    for (app::Command const* const command : app::allCommands()) {
+        QStringList const words = QString::fromStdString(std::string(command->name)).split(' ');
+        bool const isOther = words[0] == "events" || words[0] == "renderer"; // not things
+        if (words.size() == 2 && verbs.contains(words[1]) && !isOther) {
+            there.insert(std::string(command->name));
+        }
+    }
+    EXPECT_EQ(said, there);
+    EXPECT_GT(said.size(), 80u);
 }
 
 } // namespace
