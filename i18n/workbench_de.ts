@@ -33,6 +33,13 @@
     </message>
 </context>
 <context>
+    <name>KeptValues</name>
+    <message>
+        <source>The values of the last time could not be read; they are in %1.</source>
+        <translation>Die Werte vom letzten Mal ließen sich nicht lesen; sie sind in %1.</translation>
+    </message>
+</context>
+<context>
     <name>NameValue</name>
     <message>
         <source>New Value %1</source>
@@ -155,6 +162,45 @@
     </message>
 </context>
 <context>
+    <name>WeaveEditor</name>
+    <message>
+        <source>Plain</source>
+        <translation>Leinwand</translation>
+    </message>
+    <message>
+        <source>Twill</source>
+        <translation>Köper</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Grat</translation>
+    </message>
+    <message>
+        <source>Satin</source>
+        <translation>Atlas</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Steigung</translation>
+    </message>
+    <message>
+        <source>Basket</source>
+        <translation>Panama</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>Block</translation>
+    </message>
+    <message>
+        <source>Herringbone</source>
+        <translation>Fischgrat</translation>
+    </message>
+</context>
+<context>
     <name>ZLayerBackgroundCommand</name>
     <message>
         <source>3D Paint change layer background</source>
@@ -166,6 +212,21 @@
     <message>
         <source>3D Paint move layer</source>
         <translation>3D-Malen: Ebene verschieben</translation>
+    </message>
+</context>
+<context>
+    <name>loadValue</name>
+    <message>
+        <source>%1 holds no samples.</source>
+        <translation>%1 enthält keine Messwerte.</translation>
+    </message>
+    <message>
+        <source>%1 holds no weave.</source>
+        <translation>%1 enthält kein Gewebe.</translation>
+    </message>
+    <message>
+        <source>%1 holds no value.</source>
+        <translation>%1 enthält keinen Wert.</translation>
     </message>
 </context>
 <context>
@@ -490,6 +551,88 @@
     </message>
 </context>
 <context>
+    <name>workbench::CurveEditor</name>
+    <message>
+        <source>How the curve goes on from the key</source>
+        <translation>Wie die Kurve vom Schlüssel aus weitergeht</translation>
+    </message>
+    <message>
+        <source>U: smooth</source>
+        <translation>U: glatt</translation>
+    </message>
+    <message>
+        <source>T: smooth</source>
+        <translation>T: glatt</translation>
+    </message>
+    <message>
+        <source>s: step at the next key</source>
+        <translation>s: Stufe am nächsten Schlüssel</translation>
+    </message>
+    <message>
+        <source>S: step at this key</source>
+        <translation>S: Stufe an diesem Schlüssel</translation>
+    </message>
+    <message>
+        <source>L: straight</source>
+        <translation>L: gerade</translation>
+    </message>
+    <message>
+        <source>&amp;X</source>
+        <translation>&amp;X</translation>
+    </message>
+    <message>
+        <source>&amp;Y</source>
+        <translation>&amp;Y</translation>
+    </message>
+    <message>
+        <source>Add Key</source>
+        <translation>Schlüssel hinzufügen</translation>
+    </message>
+    <message>
+        <source>A double click in the plot makes one, too</source>
+        <translation>Ein Doppelklick im Bild macht auch einen</translation>
+    </message>
+    <message>
+        <source>Remove Key</source>
+        <translation>Schlüssel entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::CurvePlot</name>
+    <message>
+        <source>Keys of the curve</source>
+        <translation>Schlüssel der Kurve</translation>
+    </message>
+    <message>
+        <source>incoming handle</source>
+        <translation>eingehender Griff</translation>
+    </message>
+    <message>
+        <source>key</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>outgoing handle</source>
+        <translation>ausgehender Griff</translation>
+    </message>
+    <message>
+        <source>No keys</source>
+        <translation>Keine Schlüssel</translation>
+    </message>
+    <message>
+        <source>Key %1 of %2, %3, x %4, y %5</source>
+        <translation>Schlüssel %1 von %2, %3, x %4, y %5</translation>
+    </message>
+    <message>
+        <source>A handle has to stay on its side of the key.</source>
+        <translation>Ein Griff muss auf seiner Seite des Schlüssels bleiben.</translation>
+    </message>
+    <message>
+        <source>A key has to stay between its neighbors.</source>
+        <translation>Ein Schlüssel muss zwischen seinen Nachbarn bleiben.</translation>
+    </message>
+</context>
+<context>
     <name>workbench::DeleteLightLayer</name>
     <message>
         <source>Delete Light Layer (%1)</source>
@@ -674,6 +817,52 @@
     <message>
         <source>Another program has changed %1. Load it?</source>
         <translation>Ein anderes Programm hat %1 geändert. Laden?</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::GradientEditor</name>
+    <message>
+        <source>&amp;Blend between stops</source>
+        <translation>Zwischen den Stopps &amp;mischen</translation>
+    </message>
+    <message>
+        <source>Add Stop</source>
+        <translation>Stopp hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove Stop</source>
+        <translation>Stopp entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Location</source>
+        <translation>&amp;Ort</translation>
+    </message>
+    <message>
+        <source>&amp;Color</source>
+        <translation>&amp;Farbe</translation>
+    </message>
+    <message>
+        <source>Slope on the l&amp;eft</source>
+        <translation>Steigung &amp;links</translation>
+    </message>
+    <message>
+        <source>Slope on the &amp;right</source>
+        <translation>Steigung &amp;rechts</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::GradientStrip</name>
+    <message>
+        <source>Stops of the gradient</source>
+        <translation>Stopps des Verlaufs</translation>
+    </message>
+    <message>
+        <source>No stops</source>
+        <translation>Keine Stopps</translation>
+    </message>
+    <message>
+        <source>Stop %1 of %2 at %3</source>
+        <translation>Stopp %1 von %2 bei %3</translation>
     </message>
 </context>
 <context>
@@ -1029,6 +1218,10 @@
         <source>Material</source>
         <translation>Material</translation>
     </message>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
 </context>
 <context>
     <name>workbench::MaterialPanel</name>
@@ -1136,6 +1329,18 @@
         <source>A schema needs an attribute.</source>
         <translation>Ein Schema braucht ein Attribut.</translation>
     </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
 </context>
 <context>
     <name>workbench::MetadataTree</name>
@@ -1146,6 +1351,48 @@
     <message>
         <source>(all of it)</source>
         <translation>(alles)</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::MetalPlot</name>
+    <message>
+        <source>n, k and the reflectance over the wavelength</source>
+        <translation>n, k und die Reflexion über der Wellenlänge</translation>
+    </message>
+    <message>
+        <source>No samples</source>
+        <translation>Keine Messwerte</translation>
+    </message>
+    <message>
+        <source>Samples: %1, from %2 to %3 nm</source>
+        <translation>Messwerte: %1, von %2 bis %3 nm</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw.</source>
+        <translation>Es gibt nichts zu zeichnen.</translation>
+    </message>
+    <message>
+        <source>%1 nm</source>
+        <translation>%1 nm</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::MetalView</name>
+    <message>
+        <source>Samples</source>
+        <translation>Messwerte</translation>
+    </message>
+    <message>
+        <source>nm</source>
+        <translation>nm</translation>
+    </message>
+    <message>
+        <source>What was said of the file</source>
+        <translation>Was zu der Datei zu sagen war</translation>
     </message>
 </context>
 <context>
@@ -1502,19 +1749,17 @@
         <source>%1 × %2 crossings</source>
         <translation>%1 × %2 Kreuzungen</translation>
     </message>
-    <message numerus="yes">
-        <source>%n stop(s)</source>
-        <translation>
-            <numerusform>%n Stützfarbe</numerusform>
-            <numerusform>%n Stützfarben</numerusform>
-        </translation>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
     </message>
-    <message numerus="yes">
-        <source>%n key(s)</source>
-        <translation>
-            <numerusform>%n Schlüssel</numerusform>
-            <numerusform>%n Schlüssel</numerusform>
-        </translation>
+    <message>
+        <source>stops: %1</source>
+        <translation>Stopps: %1</translation>
+    </message>
+    <message>
+        <source>keys: %1</source>
+        <translation>Schlüssel: %1</translation>
     </message>
 </context>
 <context>
@@ -1552,6 +1797,191 @@
     <message>
         <source>mixed</source>
         <translation>gemischt</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ValuesPanel</name>
+    <message>
+        <source>weave</source>
+        <translation>Gewebe</translation>
+    </message>
+    <message>
+        <source>gradient</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>curve</source>
+        <translation>Kurve</translation>
+    </message>
+    <message>
+        <source>metal</source>
+        <translation>Metall</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Make a value, or select one.</source>
+        <translation>Legen Sie einen Wert an, oder wählen Sie einen.</translation>
+    </message>
+    <message>
+        <source>New %1</source>
+        <translation>Neu: %1</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Laden</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>There is a %1 of that name already, or the name is empty.</source>
+        <translation>Der Name ist leer oder schon vergeben (%1).</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no %1.</source>
+        <translation>In der Zwischenablage ist nichts Passendes (%1).</translation>
+    </message>
+    <message>
+        <source>Load a Value</source>
+        <translation>Einen Wert laden</translation>
+    </message>
+    <message>
+        <source>Values (*.json *.nk *.ior *.csv *.txt);;All files (*)</source>
+        <translation>Werte (*.json *.nk *.ior *.csv *.txt);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Save the Value</source>
+        <translation>Den Wert speichern</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::WeaveEditor</name>
+    <message>
+        <source>Three repeats each way</source>
+        <translation>Drei Rapporte in jeder Richtung</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Tension</source>
+        <translation>Spannung</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Schnitt</translation>
+    </message>
+    <message>
+        <source>Left button: weft on top. Right button: warp on top.</source>
+        <translation>Linke Taste: Schuss oben. Rechte Taste: Kette oben.</translation>
+    </message>
+    <message>
+        <source>Kind of weave</source>
+        <translation>Bindung</translation>
+    </message>
+    <message>
+        <source>Make</source>
+        <translation>Anlegen</translation>
+    </message>
+    <message>
+        <source>Warps</source>
+        <translation>Kettfäden</translation>
+    </message>
+    <message>
+        <source>Wefts</source>
+        <translation>Schussfäden</translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation>Umkehren</translation>
+    </message>
+    <message>
+        <source>&amp;Size</source>
+        <translation>&amp;Größe</translation>
+    </message>
+    <message>
+        <source>Warp</source>
+        <translation>Kette</translation>
+    </message>
+    <message>
+        <source>Weft</source>
+        <translation>Schuss</translation>
+    </message>
+    <message>
+        <source>Ribbon</source>
+        <translation>Flach</translation>
+    </message>
+    <message>
+        <source>Round</source>
+        <translation>Rund</translation>
+    </message>
+    <message>
+        <source>%1: width</source>
+        <translation>%1: Breite</translation>
+    </message>
+    <message>
+        <source>%1: tension</source>
+        <translation>%1: Spannung</translation>
+    </message>
+    <message>
+        <source>%1: section</source>
+        <translation>%1: Schnitt</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::WeaveGrid</name>
+    <message>
+        <source>Crossings</source>
+        <translation>Kreuzungen</translation>
+    </message>
+    <message>
+        <source>Column %1, row %2: %3 on top</source>
+        <translation>Spalte %1, Zeile %2: %3 oben</translation>
+    </message>
+    <message>
+        <source>warp</source>
+        <translation>Kette</translation>
+    </message>
+    <message>
+        <source>weft</source>
+        <translation>Schuss</translation>
     </message>
 </context>
 </TS>

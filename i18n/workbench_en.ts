@@ -33,6 +33,13 @@
     </message>
 </context>
 <context>
+    <name>KeptValues</name>
+    <message>
+        <source>The values of the last time could not be read; they are in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>NameValue</name>
     <message>
         <source>New Value %1</source>
@@ -155,6 +162,45 @@
     </message>
 </context>
 <context>
+    <name>WeaveEditor</name>
+    <message>
+        <source>Plain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Twill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Satin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Basket</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Herringbone</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ZLayerBackgroundCommand</name>
     <message>
         <source>3D Paint change layer background</source>
@@ -165,6 +211,21 @@
     <name>ZMoveLayerCommand</name>
     <message>
         <source>3D Paint move layer</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>loadValue</name>
+    <message>
+        <source>%1 holds no samples.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 holds no weave.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 holds no value.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -490,6 +551,88 @@
     </message>
 </context>
 <context>
+    <name>workbench::CurveEditor</name>
+    <message>
+        <source>How the curve goes on from the key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>U: smooth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>T: smooth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>s: step at the next key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S: step at this key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>L: straight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A double click in the plot makes one, too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::CurvePlot</name>
+    <message>
+        <source>Keys of the curve</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>incoming handle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>outgoing handle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key %1 of %2, %3, x %4, y %5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A handle has to stay on its side of the key.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A key has to stay between its neighbors.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>workbench::DeleteLightLayer</name>
     <message>
         <source>Delete Light Layer (%1)</source>
@@ -673,6 +816,52 @@
     </message>
     <message>
         <source>Another program has changed %1. Load it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::GradientEditor</name>
+    <message>
+        <source>&amp;Blend between stops</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slope on the l&amp;eft</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slope on the &amp;right</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::GradientStrip</name>
+    <message>
+        <source>Stops of the gradient</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No stops</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop %1 of %2 at %3</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1029,6 +1218,10 @@
         <source>Material</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Values</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>workbench::MaterialPanel</name>
@@ -1136,6 +1329,18 @@
         <source>A schema needs an attribute.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Colours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>workbench::MetadataTree</name>
@@ -1145,6 +1350,48 @@
     </message>
     <message>
         <source>(all of it)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::MetalPlot</name>
+    <message>
+        <source>n, k and the reflectance over the wavelength</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No samples</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Samples: %1, from %2 to %3 nm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is nothing to draw.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 nm</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::MetalView</name>
+    <message>
+        <source>Samples</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was said of the file</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1501,19 +1748,17 @@
         <source>%1 × %2 crossings</source>
         <translation type="unfinished"></translation>
     </message>
-    <message numerus="yes">
-        <source>%n stop(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished"></translation>
     </message>
-    <message numerus="yes">
-        <source>%n key(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
+    <message>
+        <source>stops: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>keys: %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1550,6 +1795,191 @@
     <name>workbench::ToggleField</name>
     <message>
         <source>mixed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ValuesPanel</name>
+    <message>
+        <source>weave</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gradient</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>curve</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>metal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make a value, or select one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a %1 of that name already, or the name is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The clipboard holds no %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load a Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values (*.json *.nk *.ior *.csv *.txt);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::WeaveEditor</name>
+    <message>
+        <source>Three repeats each way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tension</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left button: weft on top. Right button: warp on top.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind of weave</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wefts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warp</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weft</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ribbon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Round</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: tension</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: section</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::WeaveGrid</name>
+    <message>
+        <source>Crossings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Column %1, row %2: %3 on top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>warp</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>weft</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -17,6 +17,7 @@
 #include "workbench/painting/LayersPanel.h"
 #include "workbench/painting/PicturePanel.h"
 #include "workbench/values/ParametersPanel.h"
+#include "workbench/values/ValuesPanel.h"
 
 #include "host/DemoPanel.h"
 
@@ -47,6 +48,8 @@ void makePanels(MainWindow& window) {
     window.addPanel(Place::Center, "picture", MainWindow::tr("Picture"),
                     new PicturePanel(scene, *canvas));
     window.addPanel(Place::Center, "matrix", MainWindow::tr("Matrix"), matrix);
+    window.addPanel(Place::Center, "values", MainWindow::tr("Values"),
+                    new ValuesPanel(scene, document.values()));
     window.addPanel(Place::LeftUpper, "colours", MainWindow::tr("Colours"), colours);
     window.addPanel(Place::LeftLower, "multicolour", MainWindow::tr("Multi-Colour"), multi);
     window.addPanel(Place::LeftLower, "lightlayers", MainWindow::tr("Light Layers"), lightLayers);

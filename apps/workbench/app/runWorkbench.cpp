@@ -2,6 +2,7 @@
 
 #include "workbench/app/Document.h"
 #include "workbench/app/FileActions.h"
+#include "workbench/app/KeptValues.h"
 #include "workbench/app/MainWindow.h"
 #include "workbench/app/TerminationSignals.h"
 #include "workbench/app/WindowCommands.h"
@@ -11,6 +12,7 @@
 #include <QApplication>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include <iostream>
 
@@ -77,6 +79,17 @@ int runWorkbench(CommandLine const& line) {
     if (line.isBatch()) {
         return runBatch(line, window);
     }
+    KeptValues kept(document.values(), folder + "/../values.json");
+    auto const tell = [&window](std::string const& message) {
+        if (!message.empty()) {
+            window.document().scene().say(QString::fromStdString(message));
+        }
+    };
+    tell(kept.load());
+    document.scene().noteCommands();
+    QTimer keeping;
+    QObject::connect(&keeping, &QTimer::timeout, &keeping, [&] { tell(kept.save()); });
+    keeping.start(60'000);
     TerminationSignals const termination([&] {
         document.scene().endDrags();
         document.autosave();
@@ -86,6 +99,9 @@ int runWorkbench(CommandLine const& line) {
                      [&] { document.autosave(); });
     window.files().offerOrphans(folder);
     int const code = QCoreApplication::exec();
+    if (std::string const message = kept.save(); !message.empty()) {
+        fail(message);
+    }
     QSettings settings;
     settings.setValue("geometry", window.saveGeometry());
     settings.setValue("layout", window.saveState());

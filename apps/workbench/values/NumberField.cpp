@@ -105,6 +105,11 @@ NumberField::NumberField(zsg::Parameter const& parameter, QWidget* parent)
 
 void NumberField::makeBar(bool isKelvin) {
     bar_ = new ChannelSlider(this);
+    if (type_ == Type::Integer) { // a key goes to the next number at least
+        double const one = ChannelSlider::steps / (span_->second - span_->first);
+        bar_->setSingleStep(std::max(bar_->singleStep(), static_cast<int>(std::ceil(one))));
+        bar_->setPageStep(std::max(bar_->pageStep(), bar_->singleStep()));
+    }
     if (isKelvin) {
         ChannelSlider::Ramp ramp;
         for (std::size_t i = 0; i < ramp.size(); ++i) {

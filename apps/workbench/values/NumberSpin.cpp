@@ -5,6 +5,7 @@
 #include <QWheelEvent>
 
 #include <charconv>
+#include <cmath>
 #include <limits>
 
 namespace workbench {
@@ -13,11 +14,15 @@ namespace {
 
 constexpr double farthest = 1e30; // the least number stands for "mixed"
 
-/// The shortest text that is read as the same number, in the notation of files.
+/// The shortest text that is read as the same number, in the notation of files; with an exponent
+/// only where nobody would count the digits.
 template <class T>
 std::string shortest(T number) {
     char text[64];
-    auto const end = std::to_chars(std::begin(text), std::end(text), number).ptr;
+    T const size = std::abs(number);
+    bool const isPlain = size == 0 || (size >= T(1e-5) && size < T(1e12));
+    auto const format = isPlain ? std::chars_format::fixed : std::chars_format::general;
+    auto const end = std::to_chars(std::begin(text), std::end(text), number, format).ptr;
     return {std::begin(text), end};
 }
 

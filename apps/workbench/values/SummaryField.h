@@ -2,11 +2,14 @@
 
 #include "workbench/values/ValueField.h"
 
+class QDialog;
 class QLabel;
+class QToolButton;
 
 namespace workbench {
 
-/// A value that a row has no room for: what it is in a few words.
+/// A value that a row has no room for: what it is in a few words, and a button that opens its
+/// editor where there is one.
 class SummaryField final : public ValueField {
     Q_OBJECT
 
@@ -18,7 +21,12 @@ public:
     [[nodiscard]] std::unique_ptr<zsg::Variant> wanted() const override;
 
 private:
+    void openEditor();
+
     QLabel* text_;
+    QToolButton* edit_;
+    QDialog* dialog_ = nullptr; ///< made when it is first asked for
+    ValueField* editor_ = nullptr;
     std::unique_ptr<zsg::Variant> value_;
 };
 

@@ -15,6 +15,12 @@ namespace workbench {
 
 using zsg::Type;
 
+namespace {
+
+constexpr int longest = 10'000; // characters
+
+} // namespace
+
 TextField::TextField(Type type, QWidget* parent) : ValueField(parent) {
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -48,7 +54,13 @@ void TextField::showValue(zsg::Variant const& value) {
     bool const isTyping = line_ ? line_->hasFocus() && line_->isModified()
                                 : lines_->hasFocus() && lines_->document()->isModified();
     if (!isTyping) {
-        setText(valueText(value));
+        QString const text = valueText(value);
+        // A line of a million numbers is nothing to type in, and would be cut off.
+        bool const isLong = line_ && text.size() > longest;
+        if (line_) {
+            line_->setReadOnly(isLong);
+        }
+        setText(isLong ? text.left(longest) + QStringLiteral("…") : text);
     }
 }
 

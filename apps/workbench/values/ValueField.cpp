@@ -2,11 +2,14 @@
 
 #include "workbench/values/ChoiceField.h"
 #include "workbench/values/ColorField.h"
+#include "workbench/values/CurveEditor.h"
+#include "workbench/values/GradientEditor.h"
 #include "workbench/values/NumberField.h"
 #include "workbench/values/NumbersField.h"
 #include "workbench/values/SummaryField.h"
 #include "workbench/values/TextField.h"
 #include "workbench/values/ToggleField.h"
+#include "workbench/values/WeaveEditor.h"
 
 namespace workbench {
 
@@ -16,6 +19,19 @@ ValueField::~ValueField() {
     // A part that has the focus says that it is finished when it goes.
     for (QObject* const part : findChildren<QObject*>()) {
         part->disconnect(this);
+    }
+}
+
+ValueField* makeEditor(Type type, QWidget* parent) {
+    switch (type) {
+    case Type::WeavePattern:
+        return new WeaveEditor(parent);
+    case Type::ColorGradient:
+        return new GradientEditor(parent);
+    case Type::AnimationCurve:
+        return new CurveEditor(parent);
+    default:
+        return nullptr;
     }
 }
 

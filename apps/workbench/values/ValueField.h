@@ -39,6 +39,10 @@ signals:
     void said(QString const& text);
 };
 
+/// The editor of a WeavePattern, ColorGradient or AnimationCurve, which needs room; null for any
+/// other type.
+[[nodiscard]] ValueField* makeEditor(zsg::Type type, QWidget* parent);
+
 /// A field for what the parameter holds, as its type, limits, hint and unit ask for. For a type
 /// that has none, one that says what is there.
 [[nodiscard]] ValueField* makeField(zsg::Parameter const& parameter, QWidget* parent);
