@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
+#include <QToolButton>
 #include <QWheelEvent>
 
 #include <set>
@@ -66,10 +67,12 @@ TEST_F(ParametersTest, HintsLimitsAndFlagsMakeTheFields) {
             EXPECT_EQ(spin(row.name).value(), row.atEnd) << row.name;
         }
     }
+    QTest::keyClick(bar("steps"), Qt::Key_Left);
+    EXPECT_EQ(spin("steps").value(), 7) << "a key is a whole number, however long the bar";
     EXPECT_FALSE(field("locked").isEnabled());
     EXPECT_EQ(window.panel("parameters")->rowCount(), 14);
     scene().endDrags();
-    EXPECT_EQ(history(), "Set Size;Set Opacity;Set Steps;Set Temperature;Set Percent;|");
+    EXPECT_EQ(history(), "Set Size;Set Opacity;Set Steps;Set Temperature;Set Percent;Set Steps;|");
     EXPECT_NE(run("param list").find("Float 12000"), std::string::npos);
 }
 
@@ -116,6 +119,15 @@ TEST_F(ParametersTest, AnEditIsOneEntryAndOnlyAnEditIsOne) {
     wheel.ignore();
     QCoreApplication::sendEvent(&size, &wheel);
     EXPECT_FALSE(wheel.isAccepted()) << "without the focus the panel scrolls";
+
+    // What has no room in a row has a window of its own.
+    field("weave").findChild<QToolButton*>()->click();
+    settle();
+    field("weave").findChild<QToolButton*>("weaveMake")->click();
+    settle();
+    EXPECT_EQ(stack().text(0), "Set Weave");
+    EXPECT_EQ(field("weave").findChild<QLabel*>()->text(), "2 × 2 crossings");
+    stack().undo();
 
     type(size, "2.5");
     auto* const binding = field("size").findChild<FieldBinding*>();
@@ -202,6 +214,8 @@ TEST(ValueText, EveryTypeHasATextThatGivesItBack) {
         }
     }
     EXPECT_EQ(types.size(), std::size(values));
+    auto const empty = makeValue(zsg::AnimationCurve());
+    EXPECT_TRUE(isSame(*valueFromText(valueText(*empty), *makeValue(curve)), *empty));
     EXPECT_EQ(valueFromText("2147483648", *makeValue(1)), nullptr);
     auto const half = valueFromText("#FF8000", *makeValue(ZColorExtAlpha(0, 0, 0, 0.5F)));
     EXPECT_EQ(zsg::tryGet<ZColorExtAlpha>(*half)->rgba().a, 0.5F) << "no alpha was typed";
