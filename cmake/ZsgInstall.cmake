@@ -64,9 +64,14 @@ foreach(name IN LISTS pc_files)
 endforeach()
 
 if(UNIX AND BUILD_SHARED_LIBS)
-    # gdb loads it with the library, by the library's whole path.
+    # gdb loads it with the library, by the library's whole path. CPack packs into /usr whatever the
+    # prefix is that was configured.
+    set(library_folder ${CMAKE_INSTALL_FULL_LIBDIR})
+    if(ZSG_DEBIAN_LAYOUT)
+        set(library_folder /usr/${CMAKE_INSTALL_LIBDIR})
+    endif()
     install(FILES debugger/zscenegraph_printers.py
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${CMAKE_INSTALL_FULL_LIBDIR}
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${library_folder}
         RENAME libzscenegraph.so.${PROJECT_VERSION}-gdb.py COMPONENT development)
 endif()
 if(TARGET zsg_translations)

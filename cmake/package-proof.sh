@@ -30,6 +30,15 @@ inside sh -c 'cp -r /usr/share/zscenegraph/examples /proof && cd /proof &&
     zsg-console examples/scenes/showroom.json --script examples/scripts/demo-1-scene.zsg >demo.out'
 cmp "$root/proof/demo.out" examples/scripts/demo-1-scene.out
 say "a script runs"
+printf 'color name Teal Petrol\nhistory\n' >"$root/proof/rename"
+inside zsg-console --lang de /usr/share/zscenegraph/examples/scenes/showroom.json --script /proof/rename |
+    grep -F 'Farbe umbenennen (Petrol)' >/dev/null
+say "in German too"
+inside sh -c 'apt-get install -y -qq --no-install-recommends /proof/zsg-workbench_*.deb >/dev/null'
+inside QT_QPA_PLATFORM=offscreen zsg-workbench /proof/examples/scenes/showroom.json \
+    --screenshot /proof/window.png
+[[ $(head -c 4 "$root/proof/window.png" | tail -c 3) == PNG ]]
+say "the window opens"
 
 inside sh -c 'apt-get install -y -qq --no-install-recommends /proof/libzscenegraph-dev_*.deb \
     /proof/libzscenegraph-doc_*.deb g++ cmake ninja-build pkg-config >/dev/null'
@@ -45,5 +54,10 @@ inside sh -c "cd /proof && $(block sh) && ./first_steps examples/scenes/showroom
 cmp "$root/proof/by-pkg-config" "$root/proof/wanted"
 say "README's program is built by pkg-config and runs"
 inside test -e /usr/share/doc/libzscenegraph-doc/html/index.html
-inside sh -c 'dpkg --verify libzscenegraph0 libzscenegraph-dev libzscenegraph-doc zsg-tools'
+inside sh -c 'apt-get install -y -qq --no-install-recommends gdb >/dev/null'
+inside sh -c 'cd /proof && gdb -batch -ex "set breakpoint pending on" -ex "break zsg::ISceneGraph::create" -ex run \
+    -ex "info auto-load python-scripts" --args build/first_steps examples/scenes/showroom.json 2>&1' |
+    grep -E '^Yes .*libzscenegraph.*-gdb.py' >/dev/null
+say "gdb knows the library's types"
+inside sh -c 'dpkg --verify libzscenegraph0 libzscenegraph-dev libzscenegraph-doc zsg-tools zsg-workbench'
 say "all as it should be"
