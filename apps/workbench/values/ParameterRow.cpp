@@ -79,6 +79,11 @@ void ParameterRow::makeField(Scene& scene, ParameterItems items, ParameterWriter
     if (QWidget* const inner = field_->focusProxy()) {
         inner->setAccessibleName(parameter_.displayName());
     }
+    for (QWidget* const part : field_->findChildren<QWidget*>()) { // a slider beside the number
+        if ((part->focusPolicy() & Qt::TabFocus) != 0 && part->accessibleName().isEmpty()) {
+            part->setAccessibleName(parameter_.displayName());
+        }
+    }
     label_->setBuddy(field_);
     layout.addWidget(field_, layout.rowCount() - 1, 1);
     binding_ = new FieldBinding(scene, *field_, std::move(items), std::move(writer));

@@ -13,6 +13,7 @@ namespace workbench {
 ParameterRows::ParameterRows(Scene& scene, ParameterWriter writer, QWidget* parent)
     : QScrollArea(parent), scene_(scene), writer_(std::move(writer)) {
     setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus); // the fields take it, and come into sight by themselves
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(&scene, &Scene::historyChanged, this, &ParameterRows::refresh);
