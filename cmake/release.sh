@@ -63,8 +63,10 @@ do_abi() {
 
 # The tour tells what it has to tell, and the page is made, by the program that is packaged.
 do_demo() {
-    cmake/demo.sh build/package/bin/zsg-console build/release-demo &&
-        diff -u examples/scripts/tour.out build/release-demo/tour.txt
+    local console=$here/build/package/bin/zsg-console
+    cmake/demo.sh "$console" build/release-demo &&
+        (cd build/release-demo && "$console" examples/scenes/showroom.json \
+            --script examples/scripts/tour.zsg) | diff -u examples/scripts/tour.out -
 }
 
 do_proof() {
