@@ -42,6 +42,7 @@ ColorField::ColorField(QWidget* parent)
     layout->addWidget(swatch_);
     layout->addWidget(hex_, 1);
     setFocusProxy(hex_);
+    setTabOrder(hex_, swatch_); // Tab enters at the proxy and goes on from there
     popup_->setFrameStyle(QFrame::StyledPanel);
     auto* const inside = new QHBoxLayout(popup_);
     inside->addWidget(wheel_);

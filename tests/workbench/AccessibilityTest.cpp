@@ -1,0 +1,192 @@
+#include "workbench/WindowScene.h"
+
+#include "workbench/app/palettes.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+#include <QTranslator>
+
+#include <set>
+
+using namespace workbench;
+
+namespace {
+
+/// Every text of the window 40 % longer, as it would be in another language.
+class LongerTexts final : public QTranslator {
+public:
+    LongerTexts() { QCoreApplication::installTranslator(this); }
+    ~LongerTexts() override { QCoreApplication::removeTranslator(this); }
+
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(char const* context, char const* text, char const*,
+                                    int) const override {
+        QString const source = QString::fromUtf8(text);
+        return QByteArray(context).startsWith("workbench::")
+                   ? source + QString((source.size() * 2 + 4) / 5, 'x')
+                   : QString();
+    }
+};
+
+struct Longer {
+    LongerTexts texts;
+};
+
+class AccessibilityTest : public WindowScene {
+protected:
+    /// Something to see in every panel.
+    void fill() {
+        scratch = true;
+        run("surface new 128");
+        run("layer new 0");
+        run("color name Teal Petrol");
+        window.resize(1500, 1000);
+        settle();
+    }
+    template <class Act>
+    void inEachPanel(Act&& act) {
+        fill();
+        for (QString const& name : window.panelNames()) {
+            SCOPED_TRACE(name.toStdString());
+            window.showPanel(name);
+            settle();
+            act(*window.panel(name));
+        }
+    }
+    static std::string what(QWidget const& widget) {
+        return std::string(widget.parentWidget() ? widget.parentWidget()->metaObject()->className()
+                                                 : "") +
+               "/" + widget.metaObject()->className() + " " + widget.objectName().toStdString();
+    }
+};
+
+class LongerTextsTest : private Longer, public AccessibilityTest {};
+
+bool isForKeys(QWidget const& widget) {
+    return widget.isVisible() && widget.isEnabled() && !widget.focusProxy() &&
+           (widget.focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
+}
+
+/// Parts of a widget, which speaks for them.
+bool isPart(QWidget const& widget) {
+    QWidget const* const parent = widget.parentWidget();
+    return qobject_cast<QAbstractSpinBox const*>(parent) ||
+           qobject_cast<QComboBox const*>(parent) || qobject_cast<QLineEdit const*>(parent) ||
+           qobject_cast<QAbstractItemView const*>(parent);
+}
+
+} // namespace
+
+TEST_F(AccessibilityTest, TabReachesEverythingOfEveryPanel) {
+    inEachPanel([&](Panel& panel) {
+        std::set<QWidget*> wanted;
+        for (QWidget* const widget : panel.findChildren<QWidget*>()) {
+            if (isForKeys(*widget) && !isPart(*widget) && !widget->visibleRegion().isEmpty()) {
+                wanted.insert(widget);
+            }
+        }
+        ASSERT_FALSE(wanted.empty());
+        QWidget* first = &panel;
+        while (!wanted.contains(first)) {
+            first = first->nextInFocusChain();
+        }
+        first->setFocus(Qt::TabFocusReason);
+        for (int i = 0; i < 2000 && !wanted.empty(); ++i) {
+            wanted.erase(QApplication::focusWidget());
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        for (QWidget const* const widget : wanted) {
+            ADD_FAILURE() << "Tab does not reach " << what(*widget) << ", it ends at "
+                          << what(*QApplication::focusWidget());
+        }
+        for (QAction const* const action : panel.actions()) {
+            bool hasButton = false;
+            for (QObject const* const object : action->associatedObjects()) {
+                auto const* const button = qobject_cast<QAbstractButton const*>(object);
+                hasButton |= button && (button->focusPolicy() & Qt::TabFocus) != 0;
+            }
+            EXPECT_TRUE(hasButton || !action->shortcut().isEmpty() || action->isSeparator())
+                << action->text().toStdString();
+        }
+    });
+}
+
+TEST_F(AccessibilityTest, EverythingThatCanBeUsedSaysWhatItIs) {
+    inEachPanel([&](Panel& panel) {
+        for (QWidget* const widget : panel.findChildren<QWidget*>()) {
+            if (!isForKeys(*widget) || isPart(*widget)) {
+                continue;
+            }
+            QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(widget);
+            ASSERT_NE(spoken, nullptr);
+            EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty()) << what(*widget);
+            auto const* const view = qobject_cast<QAbstractItemView const*>(widget);
+            QAbstractItemModel const* const model = view ? view->model() : nullptr;
+            for (int row = 0; model && row < std::min(model->rowCount(), 20); ++row) {
+                for (int column = 0; column < model->columnCount(); ++column) {
+                    QModelIndex const index = model->index(row, column);
+                    EXPECT_FALSE(index.data(Qt::AccessibleTextRole).toString().isEmpty() &&
+                                 index.data(Qt::DisplayRole).toString().isEmpty())
+                        << what(*widget) << ' ' << row << ' ' << column;
+                }
+            }
+        }
+    });
+}
+
+TEST_F(LongerTextsTest, NothingIsCut) {
+    inEachPanel([&](Panel& panel) {
+        for (QWidget* const widget : panel.findChildren<QWidget*>()) {
+            auto const* const label = qobject_cast<QLabel const*>(widget);
+            auto const* const button = qobject_cast<QAbstractButton const*>(widget);
+            if (!widget->isVisible() || (!label && !button) || isPart(*widget)) {
+                continue;
+            }
+            QString text = label ? label->text() : button->text();
+            int widest = 0;
+            for (QString const& line : text.remove('&').split('\n')) {
+                widest = std::max(widest, widget->fontMetrics().horizontalAdvance(line));
+            }
+            bool const wraps = label && label->wordWrap();
+            EXPECT_TRUE(wraps || widest <= widget->width())
+                << what(*widget) << " \"" << text.toStdString() << "\" " << widest << " > "
+                << widget->width();
+        }
+    });
+}
+
+TEST(PalettesTest, TextStandsOutFromWhatIsBehindIt) {
+    using Role = QPalette::ColorRole;
+    std::pair<Role, Role> const pairs[] = {
+        {QPalette::WindowText, QPalette::Window},
+        {QPalette::Text, QPalette::Base},
+        {QPalette::Text, QPalette::AlternateBase},
+        {QPalette::ButtonText, QPalette::Button},
+        {QPalette::WindowText, QPalette::Button},
+        {QPalette::HighlightedText, QPalette::Highlight},
+        {QPalette::ToolTipText, QPalette::ToolTipBase},
+        {QPalette::PlaceholderText, QPalette::Base},
+        {QPalette::Link, QPalette::Base},
+        {QPalette::Link, QPalette::Window},
+    };
+    for (QPalette const& palette : {lightPalette(), darkPalette()}) {
+        for (auto const& [text, behind] : pairs) {
+            for (auto const group : {QPalette::Active, QPalette::Inactive}) {
+                EXPECT_GE(contrast(palette.color(group, text), palette.color(group, behind)), 4.5)
+                    << text << " on " << behind;
+            }
+        }
+        // What is undone in the history is told by slants, and still has to be read.
+        EXPECT_GE(contrast(palette.color(QPalette::Disabled, QPalette::Text),
+                           palette.color(QPalette::Base)),
+                  4.5);
+    }
+}
