@@ -85,6 +85,8 @@ QPixmap MainWindow::picture(QString const& panelName) {
     if (!showPanel(panelName)) {
         return {};
     }
+    // What came to the front a moment ago has not been laid out yet.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     QDockWidget* const dock = docks_.value(panelName);
     return dock ? dock->grab() : panels_.value(panelName)->grab();
 }

@@ -26,7 +26,7 @@ MetalView::MetalView(QWidget* parent)
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table_->setTabKeyNavigation(false);
     table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table_->horizontalHeader()->setDefaultSectionSize(6 * fontMetrics().height());
+    table_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     messages_->setObjectName("metalMessages");
     messages_->setAccessibleName(tr("What was said of the file"));
     messages_->setReadOnly(true);

@@ -86,6 +86,7 @@ ValuesPanel::ValuesPanel(Scene& scene, ValueStore& store, QWidget* parent)
     parts->addWidget(editors_);
     parts->setStretchFactor(1, 4);
     parts->setChildrenCollapsible(false);
+    list_->setMinimumWidth(10 * fontMetrics().height());
     parts->setSizes({1, 4});
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -165,6 +166,7 @@ void ValuesPanel::makeActions(QBoxLayout& bar) {
             &bar),
     };
     for (QAction* const action : actions) {
+        action->setShortcutContext(Qt::WidgetShortcut); // in the editors Delete means a part
         list_->addAction(action);
     }
 }

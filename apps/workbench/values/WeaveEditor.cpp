@@ -262,14 +262,7 @@ void WeaveEditor::give(WeavePattern const& weave) {
 }
 
 void WeaveEditor::generate() {
-    WeavePattern weave =
-        generators[generator_->currentIndex()].make(first_->value(), second_->value());
-    for (auto const type : {WeavePattern::Warp, WeavePattern::Weft}) { // the yarns stay
-        weave.setWidth(type, grid_->weave().width(type));
-        weave.setTension(type, grid_->weave().tension(type));
-        weave.setKind(type, grid_->weave().kind(type));
-    }
-    give(weave);
+    give(generators[generator_->currentIndex()].make(first_->value(), second_->value()));
 }
 
 } // namespace workbench

@@ -81,12 +81,26 @@ void WeaveGrid::followButton(Qt::MouseButton button, WeavePattern::YarnType yarn
 }
 
 void WeaveGrid::setWeave(WeavePattern const& weave) {
+    if (weave.numWarp() != weave_.numWarp() || weave.numWeft() != weave_.numWeft()) {
+        isFitted_ = true;
+    }
     weave_ = weave;
     cursor_.setX(std::clamp(cursor_.x(), 0, weave_.numWarp() - 1));
     cursor_.setY(std::clamp(cursor_.y(), 0, weave_.numWeft() - 1));
-    setScrollBars();
+    fit();
     describeCursor();
     viewport()->update();
+}
+
+/// A small weave fills the view, a large one is seen in part.
+void WeaveGrid::fit() {
+    if (isFitted_) {
+        int const line = fontMetrics().height();
+        cell_ = std::clamp(std::min((viewport()->width() - 1) / weave_.numWarp(),
+                                    (viewport()->height() - 1) / weave_.numWeft()),
+                           line / 2, 2 * line);
+    }
+    setScrollBars();
 }
 
 QSize WeaveGrid::sizeHint() const {
@@ -123,6 +137,7 @@ void WeaveGrid::drawLine(QPoint const& from, QPoint const& to, WeavePattern::Yar
 }
 
 void WeaveGrid::zoom(int steps) {
+    isFitted_ = false;
     QPoint const center = cellAt(QRectF(viewport()->rect()).center());
     cell_ = std::clamp(steps > 0 ? cell_ * 5 / 4 + 1 : cell_ * 4 / 5, smallest, largest);
     setScrollBars();
@@ -172,7 +187,7 @@ void WeaveGrid::paintEvent(QPaintEvent*) {
     }
 }
 
-void WeaveGrid::resizeEvent(QResizeEvent*) { setScrollBars(); }
+void WeaveGrid::resizeEvent(QResizeEvent*) { fit(); }
 
 void WeaveGrid::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {

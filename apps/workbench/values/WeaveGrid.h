@@ -48,12 +48,14 @@ private:
     void drawLine(QPoint const& from, QPoint const& to, zsg::WeavePattern::YarnType yarn);
     void moveCursor(QPoint const& by);
     void setScrollBars();
+    void fit();
     void describeCursor();
 
     zsg::WeavePattern weave_;
     QPoint cursor_;
-    QPoint last_; ///< the cell where the drag is
-    int cell_;    ///< side of a crossing, pixels
+    QPoint last_;          ///< the cell where the drag is
+    int cell_;             ///< side of a crossing, pixels
+    bool isFitted_ = true; ///< to the viewport, until somebody zooms
 };
 
 /// The crossings of a region, looked at in as many places as there are pixels; coordinates wrap.
