@@ -1,6 +1,6 @@
 #include "Rows.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 
 #include <nlohmann/json.hpp>
 
@@ -100,7 +100,8 @@ void writeResults(Collector const& collector, std::filesystem::path const& path)
 } // namespace
 
 int main(int argc, char** argv) {
-    QCoreApplication application(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // pictures have texts
+    QGuiApplication application(argc, argv);
 #if defined(__GLIBC__)
     mallopt(M_TRIM_THRESHOLD, -1); // what a row has freed stays warm for the next
 #endif
