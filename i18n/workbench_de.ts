@@ -128,11 +128,11 @@
     </message>
     <message>
         <source>A name cannot hold vertical bars: schema files lose them.</source>
-        <translation>Ein Name kann keine senkrechten Striche enthalten: Schemadateien verlieren sie.</translation>
+        <translation>Ein Name darf keine senkrechten Striche haben: Schemadateien verlieren sie.</translation>
     </message>
     <message>
         <source>There is an attribute %1 already.</source>
-        <translation>Ein Attribut %1 gibt es schon.</translation>
+        <translation>Es gibt schon ein Attribut %1.</translation>
     </message>
 </context>
 <context>
@@ -165,7 +165,7 @@
     <name>WeaveEditor</name>
     <message>
         <source>Plain</source>
-        <translation>Leinwand</translation>
+        <translation>Einfache</translation>
     </message>
     <message>
         <source>Twill</source>
@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>Band</source>
-        <translation>Grat</translation>
+        <translation>Band</translation>
     </message>
     <message>
         <source>Satin</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>Step</source>
-        <translation>Steigung</translation>
+        <translation>Schritt</translation>
     </message>
     <message>
         <source>Basket</source>
@@ -222,7 +222,7 @@
     </message>
     <message>
         <source>%1 holds no weave.</source>
-        <translation>%1 enthält kein Gewebe.</translation>
+        <translation>%1 enthält keine Bindung.</translation>
     </message>
     <message>
         <source>%1 holds no value.</source>
@@ -268,7 +268,7 @@
     <name>workbench::CMFForm</name>
     <message>
         <source>&lt;b&gt;Other&lt;/b&gt;</source>
-        <translation>&lt;b&gt;Weiteres&lt;/b&gt;</translation>
+        <translation>&lt;b&gt;Weitere&lt;/b&gt;</translation>
     </message>
     <message>
         <source>What the material stores and the schema does not know</source>
@@ -554,7 +554,7 @@
     <name>workbench::CurveEditor</name>
     <message>
         <source>How the curve goes on from the key</source>
-        <translation>Wie die Kurve vom Schlüssel aus weitergeht</translation>
+        <translation>Wie die Kurve nach dem Schlüssel weitergeht</translation>
     </message>
     <message>
         <source>U: smooth</source>
@@ -590,7 +590,7 @@
     </message>
     <message>
         <source>A double click in the plot makes one, too</source>
-        <translation>Ein Doppelklick im Bild macht auch einen</translation>
+        <translation>Ein Doppelklick in die Zeichnung legt auch einen an</translation>
     </message>
     <message>
         <source>Remove Key</source>
@@ -823,15 +823,15 @@
     <name>workbench::GradientEditor</name>
     <message>
         <source>&amp;Blend between stops</source>
-        <translation>Zwischen den Stopps &amp;mischen</translation>
+        <translation>Zwischen Stützfarben &amp;mischen</translation>
     </message>
     <message>
         <source>Add Stop</source>
-        <translation>Stopp hinzufügen</translation>
+        <translation>Stützfarbe hinzufügen</translation>
     </message>
     <message>
         <source>Remove Stop</source>
-        <translation>Stopp entfernen</translation>
+        <translation>Stützfarbe entfernen</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -854,15 +854,15 @@
     <name>workbench::GradientStrip</name>
     <message>
         <source>Stops of the gradient</source>
-        <translation>Stopps des Verlaufs</translation>
+        <translation>Stützfarben des Verlaufs</translation>
     </message>
     <message>
         <source>No stops</source>
-        <translation>Keine Stopps</translation>
+        <translation>Keine Stützfarben</translation>
     </message>
     <message>
         <source>Stop %1 of %2 at %3</source>
-        <translation>Stopp %1 von %2 bei %3</translation>
+        <translation>Stützfarbe %1 von %2 bei %3</translation>
     </message>
 </context>
 <context>
@@ -938,7 +938,7 @@
     </message>
     <message>
         <source>Choose a picture</source>
-        <translation>Bild wählen</translation>
+        <translation>Ein Bild wählen</translation>
     </message>
     <message>
         <source>Drop a picture here</source>
@@ -1255,7 +1255,7 @@
     </message>
     <message>
         <source>&amp;Save Schema…</source>
-        <translation>Schema &amp;speichern …</translation>
+        <translation>Schema &amp;sichern …</translation>
     </message>
     <message>
         <source>&amp;Add Attribute…</source>
@@ -1267,15 +1267,15 @@
     </message>
     <message>
         <source>Move Attribute &amp;Up</source>
-        <translation>Attribut nach &amp;oben</translation>
+        <translation>Attribut h&amp;inauf</translation>
     </message>
     <message>
         <source>Move Attribute &amp;Down</source>
-        <translation>Attribut nach &amp;unten</translation>
+        <translation>Attribut hin&amp;unter</translation>
     </message>
     <message>
         <source>&amp;Take Attribute Out</source>
-        <translation>Attribut &amp;entfernen</translation>
+        <translation>Attribut &amp;herausnehmen</translation>
     </message>
     <message>
         <source>Add &amp;Metadata…</source>
@@ -1291,7 +1291,7 @@
     </message>
     <message>
         <source>Take M&amp;etadata Out</source>
-        <translation>Me&amp;tadaten entfernen</translation>
+        <translation>M&amp;etadaten herausnehmen</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -1299,7 +1299,7 @@
     </message>
     <message>
         <source>%1 of node %2</source>
-        <translation>%1 von Knoten %2</translation>
+        <translation>%1 des Knotens %2</translation>
     </message>
     <message>
         <source>none</source>
@@ -1311,7 +1311,7 @@
     </message>
     <message>
         <source>Save the CMF Schema</source>
-        <translation>CMF-Schema speichern</translation>
+        <translation>CMF-Schema sichern</translation>
     </message>
     <message>
         <source>Add an Attribute</source>
@@ -1323,7 +1323,7 @@
     </message>
     <message>
         <source>Choose the field of an attribute first.</source>
-        <translation>Zuerst das Feld eines Attributs wählen.</translation>
+        <translation>Wählen Sie zuerst das Feld eines Attributs.</translation>
     </message>
     <message>
         <source>A schema needs an attribute.</source>
@@ -1361,7 +1361,7 @@
     <name>workbench::MetalPlot</name>
     <message>
         <source>n, k and the reflectance over the wavelength</source>
-        <translation>n, k und die Reflexion über der Wellenlänge</translation>
+        <translation>n, k und der Reflexionsgrad über der Wellenlänge</translation>
     </message>
     <message>
         <source>No samples</source>
@@ -1392,7 +1392,7 @@
     </message>
     <message>
         <source>What was said of the file</source>
-        <translation>Was zu der Datei zu sagen war</translation>
+        <translation>Was zur Datei gesagt wurde</translation>
     </message>
 </context>
 <context>
@@ -1755,7 +1755,7 @@
     </message>
     <message>
         <source>stops: %1</source>
-        <translation>Stopps: %1</translation>
+        <translation>Stützfarben: %1</translation>
     </message>
     <message>
         <source>keys: %1</source>
@@ -1803,7 +1803,7 @@
     <name>workbench::ValuesPanel</name>
     <message>
         <source>weave</source>
-        <translation>Gewebe</translation>
+        <translation>Bindung</translation>
     </message>
     <message>
         <source>gradient</source>
@@ -1831,7 +1831,7 @@
     </message>
     <message>
         <source>Make a value, or select one.</source>
-        <translation>Legen Sie einen Wert an, oder wählen Sie einen.</translation>
+        <translation>Legen Sie einen Wert an, oder wählen Sie einen aus.</translation>
     </message>
     <message>
         <source>New %1</source>
@@ -1847,7 +1847,7 @@
     </message>
     <message>
         <source>Save</source>
-        <translation>Speichern</translation>
+        <translation>Sichern</translation>
     </message>
     <message>
         <source>Duplicate</source>
@@ -1871,15 +1871,15 @@
     </message>
     <message>
         <source>There is a %1 of that name already, or the name is empty.</source>
-        <translation>Der Name ist leer oder schon vergeben (%1).</translation>
+        <translation>Etwas dieses Namens (%1) gibt es schon, oder der Name ist leer.</translation>
     </message>
     <message>
         <source>The clipboard holds no %1.</source>
-        <translation>In der Zwischenablage ist nichts Passendes (%1).</translation>
+        <translation>Die Zwischenablage enthält nichts dieser Art (%1).</translation>
     </message>
     <message>
         <source>Load a Value</source>
-        <translation>Einen Wert laden</translation>
+        <translation>Wert laden</translation>
     </message>
     <message>
         <source>Values (*.json *.nk *.ior *.csv *.txt);;All files (*)</source>
@@ -1887,7 +1887,7 @@
     </message>
     <message>
         <source>Save the Value</source>
-        <translation>Den Wert speichern</translation>
+        <translation>Wert sichern</translation>
     </message>
 </context>
 <context>
@@ -1906,7 +1906,7 @@
     </message>
     <message>
         <source>Section</source>
-        <translation>Schnitt</translation>
+        <translation>Querschnitt</translation>
     </message>
     <message>
         <source>Left button: weft on top. Right button: warp on top.</source>
@@ -1914,7 +1914,7 @@
     </message>
     <message>
         <source>Kind of weave</source>
-        <translation>Bindung</translation>
+        <translation>Art der Bindung</translation>
     </message>
     <message>
         <source>Make</source>
@@ -1946,7 +1946,7 @@
     </message>
     <message>
         <source>Ribbon</source>
-        <translation>Flach</translation>
+        <translation>Band</translation>
     </message>
     <message>
         <source>Round</source>
@@ -1962,7 +1962,7 @@
     </message>
     <message>
         <source>%1: section</source>
-        <translation>%1: Schnitt</translation>
+        <translation>%1: Querschnitt</translation>
     </message>
 </context>
 <context>
