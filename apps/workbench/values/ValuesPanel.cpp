@@ -75,6 +75,7 @@ ValuesPanel::ValuesPanel(Scene& scene, ValueStore& store, QWidget* parent)
     list_->setUniformRowHeights(true);
     list_->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::DoubleClicked);
     list_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    list_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     list_->header()->setStretchLastSection(false);
     list_->setContextMenuPolicy(Qt::ActionsContextMenu);
     makeEditors();
