@@ -63,6 +63,7 @@ MaterialPanel::MaterialPanel(Scene& scene, QWidget* parent)
 void MaterialPanel::makeTabs() {
     tabs_->setUsesScrollButtons(false);
     auto* const scroll = new QScrollArea;
+    scroll->setAccessibleName(tr("Description"));
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidget(form_);
@@ -144,6 +145,7 @@ void MaterialPanel::makeActions(QBoxLayout& bar) {
     add(tr("Take M&etadata Out"), "removeMetadata", {}, [this] { metadata_->removeCurrent(); });
     auto* const button = new QToolButton(this);
     button->setText(tr("Edit"));
+    button->setFocusPolicy(Qt::StrongFocus);
     button->setMenu(menu);
     button->setPopupMode(QToolButton::InstantPopup);
     bar.addWidget(button);

@@ -13,6 +13,7 @@
 #include "zsg/materials/ICMFManager.h"
 
 #include <QByteArray>
+#include <QIODevice>
 #include <QObject>
 #include <QTextStream>
 

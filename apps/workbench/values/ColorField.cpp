@@ -28,8 +28,8 @@ std::unique_ptr<zsg::Variant> withRgba(zsg::Variant const& present, nyxColor_rgb
 
 ColorField::ColorField(QWidget* parent)
     : ValueField(parent),
-      swatch_(new QToolButton(this)),
       hex_(new QLineEdit(this)),
+      swatch_(new QToolButton(this)),
       popup_(new QFrame(this, Qt::Popup)),
       wheel_(new ColorWheel(popup_)) {
     auto* const layout = new QHBoxLayout(this);
@@ -42,7 +42,6 @@ ColorField::ColorField(QWidget* parent)
     layout->addWidget(swatch_);
     layout->addWidget(hex_, 1);
     setFocusProxy(hex_);
-    setTabOrder(hex_, swatch_); // Tab enters at the proxy and goes on from there
     popup_->setFrameStyle(QFrame::StyledPanel);
     auto* const inside = new QHBoxLayout(popup_);
     inside->addWidget(wheel_);

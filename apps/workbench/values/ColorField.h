@@ -27,8 +27,8 @@ private:
     void openWheel();
     void commit();
 
+    QLineEdit* hex_; ///< made before the swatch: Tab enters here, and goes on from here
     QToolButton* swatch_;
-    QLineEdit* hex_;
     QFrame* popup_;
     ColorWheel* wheel_;
     ColorState state_;

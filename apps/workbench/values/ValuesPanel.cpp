@@ -68,6 +68,9 @@ ValuesPanel::ValuesPanel(Scene& scene, ValueStore& store, QWidget* parent)
       store_(store),
       list_(new QTreeWidget(this)),
       editors_(new QStackedWidget(this)) {
+    // Before there is a menu: the panel goes beside its first child in the order of Tab, and a menu
+    // is a window, with an order of its own.
+    setFocusProxy(list_);
     list_->setObjectName("valueList");
     list_->setAccessibleName(tr("Values"));
     list_->setHeaderLabels({tr("Name"), tr("Kind")});
@@ -93,7 +96,6 @@ ValuesPanel::ValuesPanel(Scene& scene, ValueStore& store, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(bar);
     layout->addWidget(parts, 1);
-    setFocusProxy(list_);
     connect(list_, &QTreeWidget::currentItemChanged, this, &ValuesPanel::showCurrent);
     connect(list_, &QTreeWidget::itemChanged, this, &ValuesPanel::rename);
     connect(&scene, &Scene::historyChanged, this, &ValuesPanel::follow);
