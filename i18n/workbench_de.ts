@@ -534,6 +534,10 @@
         <source>Name</source>
         <translation>Name</translation>
     </message>
+    <message>
+        <source>Switch back (%1)</source>
+        <translation>Zurückschalten (%1)</translation>
+    </message>
 </context>
 <context>
     <name>workbench::ConsolePanel</name>

@@ -4,6 +4,7 @@
 #include "workbench/colors/ColorwayModel.h"
 #include "workbench/colors/swatch.h"
 #include "workbench/scene/Scene.h"
+#include "workbench/scene/ScopedMacro.h"
 
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
@@ -157,9 +158,26 @@ void ColorwaysPanel::create(bool asCopy) {
 }
 
 void ColorwaysPanel::apply() {
-    if (current().isValid()) {
+    zsg::ZColorwayEdit const* const edit =
+        current().isValid() ? scene_.colorDB()->getColorwayParameters(current()) : nullptr;
+    if (!edit) {
+        return;
+    }
+    if (!edit->isActive()) {
         scene_.endDrags();
         scene_.colorController()->applyColorway(current());
+        return;
+    }
+    // Undo of a switch to the active colorway would leave none active. What has been switched
+    // since is switched back, each as an edit of its own.
+    ScopedMacro const macro(
+        scene_, tr("Switch back (%1)").arg(QString::fromStdString(edit->displayName())));
+    for (zsg::MultiColorPair const& pair : edit->pairs()) {
+        zsg::ZColorExtEdit const* const multi =
+            scene_.colorDB()->getColorParameters(pair.multiColor);
+        if (multi && multi->activeSub() != pair.subColor) {
+            scene_.colorController()->setActiveSubColor(pair.multiColor, pair.subColor);
+        }
     }
 }
 
