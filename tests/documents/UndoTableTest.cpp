@@ -178,7 +178,8 @@ TEST_F(UndoTable, IsWhatTheLibraryPushes) {
             seen += row->at(0) + texts;
             if (id != "1" && !(*row)[1].startsWith("as ") && !(*row)[1].startsWith("up to ")) {
                 QString const name = all("`(\\w+)`", (*row)[1]).at(0)[0];
-                EXPECT_NE(std::string(typeid(*stack.command(i)).name()).find(name.toStdString()),
+                ZUndoCommand const& command = *stack.command(i);
+                EXPECT_NE(std::string(typeid(command).name()).find(name.toStdString()),
                           std::string::npos)
                     << where << " is no " << name.toStdString();
             }

@@ -48,8 +48,10 @@ std::array<std::uint8_t, 4> average(LayerPixels const& pixels, double x, double 
     constexpr int samples = 3;
     int sums[4] = {};
     for (int i = 0; i < samples * samples; ++i) {
-        auto const texel = pixels.texel(static_cast<int>(x + step * (i % samples) / samples),
-                                        static_cast<int>(y + step * (i / samples) / samples));
+        int const column = i % samples;
+        int const row = i / samples;
+        auto const texel = pixels.texel(static_cast<int>(x + step * column / samples),
+                                        static_cast<int>(y + step * row / samples));
         for (std::size_t k = 0; k < 4; ++k) {
             sums[k] += texel[k];
         }

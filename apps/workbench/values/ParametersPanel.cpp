@@ -3,6 +3,7 @@
 #include "workbench/scene/Scene.h"
 #include "workbench/values/ParameterRows.h"
 
+#include <QItemSelectionModel>
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QSplitter>
@@ -44,7 +45,7 @@ bool ParametersPanel::select(QString const& text) {
     follow();
     auto const found = subjects_->findItems(text, Qt::MatchExactly);
     if (!found.isEmpty()) {
-        subjects_->setCurrentItem(found.front());
+        subjects_->setCurrentItem(found.front(), QItemSelectionModel::ClearAndSelect);
         return true;
     }
     return rows_->select(text);
