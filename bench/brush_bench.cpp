@@ -1,24 +1,23 @@
 // Rows 15a to 15e: brushes beside a QObject's dynamic properties, and soft dabs beside QPainter.
 
 #include "Rows.h"
+#include "zsg/core/ISceneGraph.h"
+#include "zsg/painting/IPainterBrush.h"
+#include "zsg/painting/IPainterManager.h"
+#include "zsg/values/Enumerable.h"
 
 #include "nyxembedded/BrushStroke.h"
 #include "nyxembedded/LayerPixels.h"
 #include "nyxembedded/Renderer.h"
 #include "nyxrender/nyxRT_api.h"
-#include "zsg/core/ISceneGraph.h"
-#include "zsg/painting/IPainterBrush.h"
-#include "zsg/painting/IPainterManager.h"
-#include "zsg/values/Enumerable.h"
 
 #include <QImage>
 #include <QObject>
 #include <QPainter>
 #include <QRadialGradient>
 
-#include <malloc.h>
-
 #include <cstddef>
+#include <malloc.h>
 #include <memory>
 #include <vector>
 

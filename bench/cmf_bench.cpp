@@ -1,5 +1,4 @@
 #include "Rows.h"
-
 #include "zsg/materials/ZCMFSchema.h"
 
 #include <QIODevice>

@@ -1,12 +1,13 @@
+#include "zsg/colors/ColorDB.h"
+
 #include "Rows.h"
+#include "zsg/core/Event.h"
+#include "zsg/core/IEventQueue.h"
 
 #include "nyxembedded/Renderer.h"
 #include "nyxrender/nyxParameter_edit.h"
 #include "nyxrender/nyxRT_api.h"
 #include "nyxrender/nyx_color.h"
-#include "zsg/colors/ColorDB.h"
-#include "zsg/core/Event.h"
-#include "zsg/core/IEventQueue.h"
 
 #include <boost/container/flat_map.hpp>
 

@@ -1,13 +1,6 @@
 // The headline figures of colours (row 0), row 4d and the growth of undoable colour edits.
 
 #include "Rows.h"
-
-#include "nyxembedded/Host.h"
-#include "nyxembedded/MaterialManager.h"
-#include "nyxembedded/Renderer.h"
-#include "nyxrender/nyxParameter_edit.h"
-#include "zcore/ZUndoCommand.h"
-#include "zcore/ZUndoStack.h"
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/Events.h"
@@ -15,16 +8,22 @@
 #include "zsg/core/IEventQueue.h"
 #include "zsg/core/ISceneGraph.h"
 
+#include "nyxembedded/Host.h"
+#include "nyxembedded/MaterialManager.h"
+#include "nyxembedded/Renderer.h"
+#include "nyxrender/nyxParameter_edit.h"
+#include "zcore/ZUndoCommand.h"
+#include "zcore/ZUndoStack.h"
+
 #include <QCoreApplication>
 #include <QTemporaryDir>
 
-#include <malloc.h>
-#include <unistd.h>
-
 #include <array>
 #include <fstream>
+#include <malloc.h>
 #include <memory>
 #include <random>
+#include <unistd.h>
 #include <unordered_map>
 
 namespace {

@@ -1,12 +1,11 @@
+#include "zsg/core/Events.h"
+
 #include "Listener.h"
 #include "Rows.h"
-
-#include "zsg/core/Events.h"
 #include "zsg/core/IEventQueue.h"
 #include "zsg/core/ISceneGraph.h"
 
 #include <QObject>
-
 #include <boost/signals2/signal.hpp>
 
 #include <cstddef>

@@ -1,5 +1,4 @@
 #include "Rows.h"
-
 #include "values/IORLines.h"
 #include "zsg/values/loadIORFile.h"
 #include "zsg/values/pathFromUtf8.h"

@@ -2,6 +2,10 @@
 // must not depend on its size.
 
 #include "Rows.h"
+#include "zsg/core/IEventQueue.h"
+#include "zsg/core/ISceneGraph.h"
+#include "zsg/lightlayers/ILightLayerController.h"
+#include "zsg/lightlayers/ZLightLayerApi.h"
 
 #include "nyxembedded/Renderer.h"
 #include "nyxrender/nyxGroup_item.h"
@@ -9,10 +13,6 @@
 #include "nyxrender/nyxRT_api.h"
 #include "nyxrender/nyxScene_hierarchy.h"
 #include "zcore/ZUndoStack.h"
-#include "zsg/core/IEventQueue.h"
-#include "zsg/core/ISceneGraph.h"
-#include "zsg/lightlayers/ILightLayerController.h"
-#include "zsg/lightlayers/ZLightLayerApi.h"
 
 #include <functional>
 #include <map>

@@ -2,15 +2,15 @@
 // sub-colours, and many colours of one name.
 
 #include "Rows.h"
-
-#include "nyxembedded/Host.h"
-#include "nyxembedded/Renderer.h"
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/colors/IColorLinkHandler.h"
 #include "zsg/colors/IColorLinker.h"
 #include "zsg/colors/ZColorExtEdit.h"
 #include "zsg/core/ISceneGraph.h"
+
+#include "nyxembedded/Host.h"
+#include "nyxembedded/Renderer.h"
 
 #include <memory>
 #include <string>

@@ -1,7 +1,6 @@
 #include "Rows.h"
 
 #include <QGuiApplication>
-
 #include <nlohmann/json.hpp>
 
 #if defined(__GLIBC__)

@@ -1,18 +1,19 @@
 // Painting: a rename (row 4e), the growth of layer edits and of surfaces, and tasks for the render
 // thread.
 
-#include "Rows.h"
-
-#include "nyxembedded/Host.h"
 #include "nyxembedded/Painting.h"
-#include "nyxrender/nyx_memory.h"
-#include "zcore/ZUndoCommand.h"
+
+#include "Rows.h"
 #include "zsg/core/Events.h"
 #include "zsg/core/IEventQueue.h"
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/painting/IPainter.h"
 #include "zsg/painting/IPainterManager.h"
 #include "zsg/painting/IPainterSurface.h"
+
+#include "nyxembedded/Host.h"
+#include "nyxrender/nyx_memory.h"
+#include "zcore/ZUndoCommand.h"
 #include "ztask/ZTask.h"
 
 #include <QCoreApplication>

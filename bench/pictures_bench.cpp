@@ -2,20 +2,17 @@
 // same text copied, the same pixels compressed.
 
 #include "Rows.h"
-
 #include "host/Host.h"
 #include "host/pictures/Picture.h"
 #include "host/pictures/colorCards.h"
 #include "host/pictures/png.h"
 #include "host/pictures/svg.h"
 #include "host/pictures/weaveDraft.h"
-
 #include "zsg/values/WeavePattern.h"
 
 #include <QBuffer>
 #include <QByteArray>
 #include <QImage>
-
 #include <nlohmann/json.hpp>
 
 #include <cstdlib>

@@ -1,19 +1,18 @@
 // What the embedded renderer does with painted pixels: compositing, snapshots, strokes.
 
 #include "Rows.h"
-
-#include "nyxembedded/Host.h"
-#include "nyxembedded/LayerPixels.h"
-#include "nyxembedded/Painting.h"
-#include "nyxembedded/Stroke.h"
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/painting/IPainter.h"
 #include "zsg/painting/IPainterManager.h"
 #include "zsg/painting/IPainterSurface.h"
 
+#include "nyxembedded/Host.h"
+#include "nyxembedded/LayerPixels.h"
+#include "nyxembedded/Painting.h"
+#include "nyxembedded/Stroke.h"
+
 #include <QImage>
 #include <QPainter>
-
 #include <pixman.h>
 
 #include <algorithm>

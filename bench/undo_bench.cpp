@@ -8,9 +8,8 @@
 #include <QUndoCommand>
 #include <QUndoStack>
 
-#include <malloc.h>
-
 #include <cstddef>
+#include <malloc.h>
 #include <memory>
 
 namespace {

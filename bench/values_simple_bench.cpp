@@ -7,12 +7,12 @@
 
 #include <QGradient>
 #include <QHashFunctions>
-
-#include <algorithm>
-#include <array>
 #include <boost/container/flat_map.hpp>
 #include <boost/functional/hash.hpp>
 #include <boost/math/tools/roots.hpp>
+
+#include <algorithm>
+#include <array>
 #include <numeric>
 #include <random>
 #include <tuple>

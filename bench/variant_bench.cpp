@@ -1,5 +1,4 @@
 #include "Rows.h"
-
 #include "zsg/values/Parameter.h"
 #include "zsg/values/ValueVariant.h"
 #include "zsg/values/hash_variant.h"

@@ -1,21 +1,20 @@
 #include "Rows.h"
-
-#include "nyxrender/WeavePattern.h"
-#include "nyxrender/nyx_memory.h"
 #include "values/hashCombine.h"
 #include "zsg/values/WeavePattern.h"
 #include "zsg/values/hash.h"
 
+#include "nyxrender/WeavePattern.h"
+#include "nyxrender/nyx_memory.h"
+
 #include <QImage>
 #include <QList>
 #include <QString>
-
 #include <nlohmann/json.hpp>
-#include <rapidjson/stringbuffer.h>
-#include <rapidjson/writer.h>
 #include <simdjson.h>
 
 #include <algorithm>
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
 #include <string>
 #include <utility>
 #include <vector>

@@ -5,10 +5,10 @@
 #include "workbench/app/Document.h"
 #include "workbench/app/MainWindow.h"
 #include "workbench/scene/Scene.h"
-
-#include "zcore/ZUndoStack.h"
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
+
+#include "zcore/ZUndoStack.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,8 +1,5 @@
 #pragma once
 
-#include "nyxembedded/MaterialManager.h"
-#include "nyxembedded/Renderer.h"
-#include "zcore/ZUndoStack.h"
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/colors/IColorLinker.h"
@@ -12,9 +9,12 @@
 #include "zsg/core/SceneGraphPars.h"
 #include "zsg/core/Subscription.h"
 
-#include <fuzzer/FuzzedDataProvider.h>
+#include "nyxembedded/MaterialManager.h"
+#include "nyxembedded/Renderer.h"
+#include "zcore/ZUndoStack.h"
 
 #include <QLoggingCategory>
+#include <fuzzer/FuzzedDataProvider.h>
 
 #include <functional>
 #include <memory>

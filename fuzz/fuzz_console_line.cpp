@@ -1,9 +1,8 @@
 #include "consoleInput.h"
-#include "require.h"
-
 #include "host/Arguments.h"
 #include "host/Host.h"
 #include "host/Interpreter.h"
+#include "require.h"
 
 #include <cstdint>
 #include <sstream>

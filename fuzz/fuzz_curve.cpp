@@ -1,5 +1,4 @@
 #include "require.h"
-
 #include "zsg/values/AnimationCurve.h"
 
 #include <cmath>

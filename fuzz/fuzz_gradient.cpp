@@ -1,5 +1,4 @@
 #include "require.h"
-
 #include "zsg/values/ColorGradient.h"
 
 #include <fuzzer/FuzzedDataProvider.h>

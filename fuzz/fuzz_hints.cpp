@@ -1,5 +1,4 @@
 #include "require.h"
-
 #include "values/hintParsing.h"
 
 #include <bit>

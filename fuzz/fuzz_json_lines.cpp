@@ -1,9 +1,8 @@
 #include "consoleInput.h"
-#include "require.h"
-
 #include "host/Host.h"
 #include "host/Interpreter.h"
 #include "host/JsonSession.h"
+#include "require.h"
 
 #include <nlohmann/json.hpp>
 

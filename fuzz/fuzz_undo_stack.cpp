@@ -3,9 +3,8 @@
 #include "zcore/ZUndoCommand.h"
 #include "zcore/ZUndoStack.h"
 
-#include <fuzzer/FuzzedDataProvider.h>
-
 #include <QLoggingCategory>
+#include <fuzzer/FuzzedDataProvider.h>
 
 #include <array>
 #include <stdexcept>

@@ -1,5 +1,4 @@
 #include "require.h"
-
 #include "zsg/values/WeavePattern.h"
 
 #include "nyxrender/WeavePattern.h"

@@ -1,10 +1,9 @@
 #include "console/HistoryFile.h"
 
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
-
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 

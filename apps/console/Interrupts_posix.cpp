@@ -5,7 +5,6 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
-
 #include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>

@@ -10,7 +10,6 @@
 #include <cstdio>
 #include <cwchar>
 #include <exception>
-
 #include <histedit.h>
 #include <unistd.h>
 

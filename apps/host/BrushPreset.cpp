@@ -1,7 +1,6 @@
 #include "host/BrushPreset.h"
 
 #include "host/Arguments.h"
-
 #include "zsg/painting/IPainterBrush.h"
 #include "zsg/values/Enumerable.h"
 
@@ -9,7 +8,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-
 #include <nlohmann/json.hpp>
 
 #include <algorithm>

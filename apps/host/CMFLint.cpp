@@ -2,7 +2,6 @@
 
 #include "host/PlacedJson.h"
 #include "host/printable.h"
-
 #include "zsg/materials/ZCMFSchema.h"
 
 #include <QJsonDocument>

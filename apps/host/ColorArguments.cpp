@@ -4,7 +4,6 @@
 #include "host/idArgument.h"
 #include "host/printable.h"
 #include "host/sRGB.h"
-
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/ISceneGraph.h"
 

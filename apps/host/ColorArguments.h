@@ -1,11 +1,11 @@
 #pragma once
 
 #include "host/Arguments.h"
+#include "zsg/colors/MultiColorPair.h"
 
 #include "nyxrender/Ids.h"
 #include "nyxrender/nyxColor.h"
 #include "zcore/ZColor.h"
-#include "zsg/colors/MultiColorPair.h"
 
 #include <string>
 #include <vector>

@@ -3,7 +3,6 @@
 #include "host/CommandTable.h"
 #include "host/argumentGrammar.h"
 #include "host/completionWords.h"
-
 #include "zsg/values/pathFromUtf8.h"
 
 #include <QString>

@@ -4,7 +4,6 @@
 #include "host/BrushPreset.h"
 #include "host/Host.h"
 #include "host/InputFile.h"
-
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/painting/IPainterManager.h"
 

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "zcore/ZUndoCommand.h"
 #include "zsg/materials/IMaterialDescriptor.h"
 #include "zsg/materials/IMaterialHandler.h"
+
+#include "zcore/ZUndoCommand.h"
 
 #include <memory>
 

@@ -2,7 +2,6 @@
 
 #include "host/Arguments.h"
 #include "host/InputFile.h"
-
 #include "zsg/core/ISceneGraph.h"
 
 #include <ostream>

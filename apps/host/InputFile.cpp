@@ -1,7 +1,6 @@
 #include "host/InputFile.h"
 
 #include "host/Arguments.h"
-
 #include "zsg/values/pathFromUtf8.h"
 
 #include <filesystem>

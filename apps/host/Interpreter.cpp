@@ -5,7 +5,6 @@
 #include "host/Interruption.h"
 #include "host/LineReader.h"
 #include "host/printable.h"
-
 #include "zsg/values/pathFromUtf8.h"
 
 #include <algorithm>

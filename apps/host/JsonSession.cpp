@@ -6,7 +6,6 @@
 #include "host/Interpreter.h"
 #include "host/Interruption.h"
 #include "host/LineReader.h"
-
 #include "zsg/version.h"
 
 #include <nlohmann/json.hpp>

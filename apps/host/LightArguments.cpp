@@ -3,7 +3,6 @@
 #include "host/Host.h"
 #include "host/idArgument.h"
 #include "host/printable.h"
-
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/lightlayers/ILightLayerApi.h"
 #include "zsg/lightlayers/ILightLayerController.h"

@@ -1,6 +1,7 @@
 #include "host/OutputFile.h"
 
 #include "host/Arguments.h"
+
 #include "nyxembedded/writeFile.h"
 
 namespace app {

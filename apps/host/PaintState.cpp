@@ -1,7 +1,6 @@
 #include "host/PaintState.h"
 
 #include "host/Host.h"
-
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/painting/IPainter.h"
 #include "zsg/painting/IPainterManager.h"

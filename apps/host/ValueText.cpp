@@ -2,7 +2,6 @@
 
 #include "host/ColorArguments.h"
 #include "host/NamedValues.h"
-
 #include "zsg/values/Parameter.h"
 #include "zsg/values/ValueVariant.h"
 

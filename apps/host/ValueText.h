@@ -1,7 +1,6 @@
 #pragma once
 
 #include "host/Arguments.h"
-
 #include "zsg/values/Type.h"
 
 #include <functional>

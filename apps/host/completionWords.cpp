@@ -11,7 +11,6 @@
 #include "host/PaintState.h"
 #include "host/ValueText.h"
 #include "host/printable.h"
-
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/EventType.h"
 #include "zsg/core/ISceneGraph.h"

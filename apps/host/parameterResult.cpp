@@ -1,11 +1,11 @@
 #include "host/parameterResult.h"
 
 #include "host/sRGB.h"
-
-#include "zcore/ZColorExt.h"
 #include "zsg/values/Enumerable.h"
 #include "zsg/values/Parameter.h"
 #include "zsg/values/ValueVariant.h"
+
+#include "zcore/ZColorExt.h"
 
 #include <nlohmann/json.hpp>
 

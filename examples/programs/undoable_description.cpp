@@ -2,8 +2,6 @@
 // makes them undoable: with a command of its own that applies one descriptor, and another to take
 // it back.
 
-#include "nyxembedded/Host.h"
-#include "zcore/ZUndoCommand.h"
 #include "zsg/core/Events.h"
 #include "zsg/core/IEventListener.h"
 #include "zsg/core/ISceneGraph.h"
@@ -11,6 +9,9 @@
 #include "zsg/materials/IMaterialDescriptor.h"
 #include "zsg/materials/IMaterialHandler.h"
 #include "zsg/materials/cmfFieldKey.h"
+
+#include "nyxembedded/Host.h"
+#include "zcore/ZUndoCommand.h"
 
 #include <iostream>
 #include <memory>

@@ -2,10 +2,9 @@
 
 #include "values/WeaveMask.h"
 
-#include <nlohmann/json.hpp>
-
 #include <QByteArray>
 #include <QStringView>
+#include <nlohmann/json.hpp>
 
 #include <cmath>
 #include <limits>

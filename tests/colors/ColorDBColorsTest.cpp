@@ -1,5 +1,4 @@
 #include "colors/ColorScene.h"
-
 #include "zsg/core/Events.h"
 
 #include <gmock/gmock.h>

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "colors/ColorScene.h"
-#include "nyxembedded/MaterialManager.h"
 #include "support/UndoRoundTrip.h"
-#include "zcore/ZUndoCommand.h"
 #include "zsg/colors/ColorController.h"
+
+#include "nyxembedded/MaterialManager.h"
+#include "zcore/ZUndoCommand.h"
 
 #include <algorithm>
 

@@ -1,4 +1,5 @@
 #include "host/Arguments.h"
+
 #include "host/printable.h"
 
 #include <gtest/gtest.h>

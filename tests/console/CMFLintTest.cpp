@@ -5,7 +5,6 @@
 #include "zsg/materials/ZCMFSchema.h"
 
 #include <QTextStream>
-
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -6,7 +6,6 @@
 
 #include <QRegularExpression>
 #include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
 #include <filesystem>

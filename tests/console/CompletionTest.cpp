@@ -1,10 +1,10 @@
 #include "host/Completion.h"
+
 #include "host/Host.h"
 #include "host/Interpreter.h"
 #include "support/sourceDir.h"
 
 #include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
 #include <filesystem>

@@ -3,7 +3,6 @@
 #include "host/InputFile.h"
 #include "host/Interpreter.h"
 #include "support/sourceDir.h"
-
 #include "zsg/values/pathFromUtf8.h"
 
 #include <QTemporaryDir>

@@ -1,4 +1,5 @@
 #include "host/Interpreter.h"
+
 #include "host/Arguments.h"
 #include "host/Host.h"
 #include "host/IORLint.h"

@@ -3,12 +3,10 @@
 #include "host/pictures/gradientStrip.h"
 #include "host/pictures/svg.h"
 #include "host/pictures/weaveDraft.h"
-
 #include "zsg/values/ColorGradient.h"
 #include "zsg/values/WeavePattern.h"
 
 #include <QXmlStreamReader>
-
 #include <gtest/gtest.h>
 
 #include <limits>

@@ -1,9 +1,9 @@
 #include "host/pictures/png.h"
+
 #include "host/Arguments.h"
 #include "host/pictures/rasterPng.h"
 
 #include <QImage>
-
 #include <gtest/gtest.h>
 
 using app::ColorBytes;

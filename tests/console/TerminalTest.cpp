@@ -3,18 +3,16 @@
 #include "support/sourceDir.h"
 
 #include <QTemporaryDir>
-
 #include <gmock/gmock.h>
 
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
-#include <string>
-
 #include <poll.h>
 #include <pty.h>
+#include <sstream>
+#include <string>
 #include <sys/wait.h>
 #include <termios.h>
 #include <unistd.h>

@@ -1,5 +1,4 @@
 #include "core/ZEventQueue.h"
-
 #include "zsg/core/Events.h"
 #include "zsg/core/IEventListener.h"
 

@@ -1,21 +1,20 @@
-#include "zsg/core/ISceneGraph.h"
-
-#include "nyxembedded/Painting.h"
-#include "nyxembedded/Renderer.h"
-#include "nyxrender/nyxMessage.h"
 #include "support/Allocations.h"
 #include "support/EventTrace.h"
-#include "zcore/ZUndoStack.h"
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/Event.h"
+#include "zsg/core/ISceneGraph.h"
 #include "zsg/lightlayers/ILightLayerController.h"
 #include "zsg/painting/IPainter.h"
 #include "zsg/painting/IPainterManager.h"
 #include "zsg/painting/IPainterSurface.h"
 
-#include <QObject>
+#include "nyxembedded/Painting.h"
+#include "nyxembedded/Renderer.h"
+#include "nyxrender/nyxMessage.h"
+#include "zcore/ZUndoStack.h"
 
+#include <QObject>
 #include <gtest/gtest.h>
 
 #include <algorithm>

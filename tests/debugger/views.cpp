@@ -1,8 +1,9 @@
-#include "zcore/ZColorExtAlpha.h"
 #include "zsg/values/ColorGradient.h"
 #include "zsg/values/Parameter.h"
 #include "zsg/values/ValueVariant.h"
 #include "zsg/values/WeavePattern.h"
+
+#include "zcore/ZColorExtAlpha.h"
 
 #include <vector>
 

@@ -3,7 +3,6 @@
 
 #include <QString>
 #include <QStringList>
-
 #include <gtest/gtest.h>
 
 using namespace documents;

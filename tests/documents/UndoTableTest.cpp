@@ -1,7 +1,5 @@
 #include "documents/documentText.h"
-#include "nyxembedded/Host.h"
 #include "support/sourceDir.h"
-#include "zcore/ZUndoCommand.h"
 #include "zsg/colors/ColorController.h"
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/lightlayers/ILightLayerApi.h"
@@ -10,10 +8,12 @@
 #include "zsg/painting/IPainterManager.h"
 #include "zsg/painting/IPainterSurface.h"
 
+#include "nyxembedded/Host.h"
+#include "zcore/ZUndoCommand.h"
+
 #include <QRegularExpression>
 #include <QString>
 #include <QStringList>
-
 #include <gtest/gtest.h>
 
 #include <functional>

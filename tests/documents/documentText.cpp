@@ -5,7 +5,6 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
-
 #include <gtest/gtest.h>
 
 namespace documents {

@@ -1,4 +1,5 @@
 #include "lightlayers/LightScene.h"
+
 #include "nyxrender/nyxGroup_item.h"
 #include "nyxrender/nyxShader.h"
 

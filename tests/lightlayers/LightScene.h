@@ -2,12 +2,13 @@
 
 #include "core/ZEventQueue.h"
 #include "lightlayers/ZLightLayerController.h"
-#include "nyxrender/nyxLight_layer_db.h"
 #include "support/EventTrace.h"
 #include "support/TestScene.h"
 #include "support/lines.h"
-#include "zcore/ZUndoStack.h"
 #include "zsg/lightlayers/ZLightLayerApi.h"
+
+#include "nyxrender/nyxLight_layer_db.h"
+#include "zcore/ZUndoStack.h"
 
 #include <regex>
 #include <string>

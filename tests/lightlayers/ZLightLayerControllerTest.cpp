@@ -3,8 +3,9 @@
 #include "lightlayers/LightScene.h"
 #include "support/MarkingTranslator.h"
 #include "support/UndoRoundTrip.h"
-#include "zcore/ZUndoCommand.h"
 #include "zsg/core/ISceneGraph.h"
+
+#include "zcore/ZUndoCommand.h"
 
 using namespace zsg;
 

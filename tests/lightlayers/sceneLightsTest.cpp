@@ -1,6 +1,7 @@
 #include "lightlayers/sceneLights.h"
 
 #include "lightlayers/LightScene.h"
+
 #include "nyxrender/nyxGroup_item.h"
 #include "nyxrender/nyxLight_layer_db.h"
 #include "nyxrender/nyxScene_hierarchy.h"

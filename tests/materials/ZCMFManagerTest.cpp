@@ -4,9 +4,9 @@
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/materials/cmfFieldKey.h"
 
+#include <climits>
 #include <gtest/gtest.h>
 
-#include <climits>
 #include <stdexcept>
 #include <string>
 

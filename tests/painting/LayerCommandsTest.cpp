@@ -1,9 +1,10 @@
 #include "painting/LayerCommands.h"
 
-#include "nyxrender/nyxCustomSurface.h"
-#include "nyxrender/nyxPainter.h"
 #include "painting/PaintScene.h"
 #include "painting/ZPaintSurface.h"
+
+#include "nyxrender/nyxCustomSurface.h"
+#include "nyxrender/nyxPainter.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,9 @@
+#include "painting/PaintModel.h"
+#include "painting/PaintScene.h"
+
 #include "nyxembedded/Stroke.h"
 #include "nyxrender/nyxCustomSurface.h"
 #include "nyxrender/nyxPainter.h"
-#include "painting/PaintModel.h"
-#include "painting/PaintScene.h"
 #include "ztask/ZTask.h"
 
 #include <gtest/gtest.h>

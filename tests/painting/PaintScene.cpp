@@ -1,9 +1,10 @@
 #include "painting/PaintScene.h"
 
-#include "nyxrender/nyxCustomSurface.h"
-#include "nyxrender/nyxPainter.h"
 #include "zsg/core/Events.h"
 #include "zsg/core/SceneGraphPars.h"
+
+#include "nyxrender/nyxCustomSurface.h"
+#include "nyxrender/nyxPainter.h"
 
 #include <utility>
 

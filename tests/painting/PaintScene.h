@@ -1,15 +1,16 @@
 #pragma once
 
-#include "nyxembedded/Painting.h"
-#include "nyxembedded/RenderTaskQueue.h"
 #include "support/TestScene.h"
-#include "zcore/ZUndoStack.h"
 #include "zsg/core/IEventListener.h"
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/core/Subscription.h"
 #include "zsg/painting/IPainter.h"
 #include "zsg/painting/IPainterManager.h"
 #include "zsg/painting/IPainterSurface.h"
+
+#include "nyxembedded/Painting.h"
+#include "nyxembedded/RenderTaskQueue.h"
+#include "zcore/ZUndoStack.h"
 
 #include <functional>
 #include <memory>

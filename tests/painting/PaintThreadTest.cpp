@@ -1,6 +1,7 @@
-#include "nyxembedded/Renderer.h"
 #include "painting/PaintScene.h"
 #include "zsg/core/SceneGraphPars.h"
+
+#include "nyxembedded/Renderer.h"
 #include "ztask/ZTask.h"
 
 #include <gtest/gtest.h>

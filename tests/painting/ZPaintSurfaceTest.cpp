@@ -1,12 +1,12 @@
 #include "painting/ZPaintSurface.h"
 
-#include "nyxrender/nyxCustomSurface.h"
 #include "painting/PaintScene.h"
+
+#include "nyxrender/nyxCustomSurface.h"
 #include "zcore/ZUndoCommand.h"
 
 #include <QCoreApplication>
 #include <QTranslator>
-
 #include <gtest/gtest.h>
 
 using namespace zsg;

@@ -1,10 +1,11 @@
 #include "painting/ZPainter.h"
 
-#include "nyxrender/nyxCustomSurface.h"
-#include "nyxrender/nyxPainter.h"
 #include "painting/PaintScene.h"
 #include "painting/ZPainterManager.h"
 #include "zsg/painting/IPainterBrush.h"
+
+#include "nyxrender/nyxCustomSurface.h"
+#include "nyxrender/nyxPainter.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "nyxembedded/BrushSettings.h"
-#include "nyxembedded/Warnings.h"
 #include "support/TestScene.h"
 #include "support/sourceDir.h"
 
+#include "nyxembedded/BrushSettings.h"
+#include "nyxembedded/Warnings.h"
 #include "nyxrender/nyxBrush_node.h"
 #include "nyxrender/nyxScene.h"
 #include "nyxrender/nyxScene_api.h"

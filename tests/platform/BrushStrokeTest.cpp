@@ -1,4 +1,5 @@
 #include "nyxembedded/BrushStroke.h"
+
 #include "nyxembedded/GrowingStroke.h"
 #include "nyxembedded/LayerPixels.h"
 

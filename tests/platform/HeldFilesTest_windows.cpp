@@ -2,15 +2,13 @@
 #include "nyxembedded/writeFile.h"
 #include "nyxrender/nyxRT_api.h"
 
-#include <gmock/gmock.h>
-
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <gmock/gmock.h>
 
 #include <memory>
 #include <string>
-
 #include <windows.h>
 
 namespace {

@@ -2,7 +2,6 @@
 
 #include "support/EventTrace.h"
 #include "support/sourceDir.h"
-#include "zcore/ZUndoCommand.h"
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/ISceneGraph.h"
@@ -10,8 +9,9 @@
 #include "zsg/painting/IPainterManager.h"
 #include "zsg/painting/IPainterSurface.h"
 
-#include <QTemporaryDir>
+#include "zcore/ZUndoCommand.h"
 
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -1,6 +1,6 @@
-#include "nyxrender/nyxLight_layer_db.h"
-
 #include "support/TestScene.h"
+
+#include "nyxrender/nyxLight_layer_db.h"
 
 using Layer = nyx::LightLayerId;
 using Light = nyx::ObjectId;

@@ -1,6 +1,7 @@
 #include "nyxembedded/MaterialManager.h"
 
 #include "support/TestScene.h"
+
 #include "zcore/ZUndoCommand.h"
 #include "zcore/ZUndoStack.h"
 

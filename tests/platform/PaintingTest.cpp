@@ -1,12 +1,13 @@
 #include "nyxembedded/Painting.h"
 
+#include "painting/PaintCommand.h"
+
 #include "nyxembedded/GrowingStroke.h"
 #include "nyxembedded/RenderTaskQueue.h"
 #include "nyxembedded/Renderer.h"
 #include "nyxembedded/SurfacePicture.h"
 #include "nyxrender/nyxCustomSurface.h"
 #include "nyxrender/nyxPainter.h"
-#include "painting/PaintCommand.h"
 #include "zcore/ZUndoStack.h"
 
 #include <gtest/gtest.h>

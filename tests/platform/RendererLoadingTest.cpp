@@ -1,6 +1,5 @@
 #include "nyxembedded/Renderer.h"
 #include "nyxembedded/Warnings.h"
-
 #include "nyxrender/nyxRT_api.h"
 
 #include <gtest/gtest.h>

@@ -1,14 +1,14 @@
+#include "support/sourceDir.h"
+
 #include "nyxembedded/Painting.h"
 #include "nyxembedded/Renderer.h"
 #include "nyxrender/nyxScene.h"
-#include "support/sourceDir.h"
-
-#include <gmock/gmock.h>
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <gmock/gmock.h>
 
 #include <cmath>
 #include <cstddef>

@@ -3,10 +3,10 @@
 #include "zcore/ZColorExtAlpha.h"
 #include "zcore/splitTrailingNumber.h"
 
+#include <climits>
 #include <gtest/gtest.h>
 
 #include <array>
-#include <climits>
 #include <tuple>
 #include <type_traits>
 #include <utility>

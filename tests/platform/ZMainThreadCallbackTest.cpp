@@ -1,14 +1,14 @@
 #include "zcore/ZMainThreadCallback.h"
 
-#include "nyxembedded/Renderer.h"
 #include "zsg/core/IEventQueue.h"
 #include "zsg/core/ISceneGraph.h"
 
-#include <gtest/gtest.h>
+#include "nyxembedded/Renderer.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QPointer>
+#include <gtest/gtest.h>
 
 #include <atomic>
 #include <functional>

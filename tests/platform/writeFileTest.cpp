@@ -3,13 +3,12 @@
 #include "nyxembedded/Renderer.h"
 #include "nyxrender/nyxRT_api.h"
 
-#include <gmock/gmock.h>
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <gmock/gmock.h>
 
 #include <string>
 

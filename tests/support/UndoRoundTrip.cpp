@@ -1,6 +1,7 @@
 #include "support/UndoRoundTrip.h"
 
 #include "support/lines.h"
+
 #include "zcore/ZUndoCommand.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,5 @@
-#include <gmock/gmock.h>
-
 #include <QCoreApplication>
+#include <gmock/gmock.h>
 
 int main(int argc, char** argv) {
     qputenv("QT_FORCE_STDERR_LOGGING", "1"); // for Windows, where messages go to the debugger

@@ -2,7 +2,6 @@
 
 #include "values/PointerVariant.h"
 #include "values/valueSamples.h"
-
 #include "zsg/values/ParameterData.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,8 @@
 #include "zsg/values/AxaltaColor.h"
 #include "zsg/values/FilePath.h"
 
-#include <gtest/gtest.h>
-
 #include <QDir>
+#include <gtest/gtest.h>
 
 namespace zsg {
 

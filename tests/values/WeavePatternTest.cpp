@@ -1,11 +1,12 @@
 #include "zsg/values/WeavePattern.h"
 
-#include "nyxrender/WeavePattern.h"
 #include "zsg/values/hash.h"
 
-#include <gtest/gtest.h>
+#include "nyxrender/WeavePattern.h"
 
 #include <climits>
+#include <gtest/gtest.h>
+
 #include <iostream>
 #include <sstream>
 #include <string>

@@ -1,4 +1,5 @@
 #include "zsg/values/hash.h"
+
 #include "values/hashCombine.h"
 
 #include "nyxrender/nyxVector.h"

@@ -1,10 +1,9 @@
 #include "values/hintParsing.h"
 
-#include <gtest/gtest.h>
-
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <gtest/gtest.h>
 
 #include <clocale>
 #include <string>

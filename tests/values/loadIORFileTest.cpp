@@ -1,10 +1,9 @@
 #include "zsg/values/loadIORFile.h"
 
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <gtest/gtest.h>
 
 #include <string>
 #include <vector>

@@ -1,5 +1,4 @@
 #include "workbench/WindowScene.h"
-
 #include "workbench/app/palettes.h"
 
 #include <QAbstractButton>

@@ -1,12 +1,10 @@
-#include "workbench/WindowScene.h"
+#include "workbench/colors/ColorEditor.h"
 
 #include "support/sourceDir.h"
-
+#include "workbench/WindowScene.h"
 #include "workbench/colors/ChannelSlider.h"
-#include "workbench/colors/ColorEditor.h"
 #include "workbench/colors/ColorState.h"
 #include "workbench/colors/ColorWheel.h"
-
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 

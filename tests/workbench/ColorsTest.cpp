@@ -1,8 +1,6 @@
 #include "workbench/WindowScene.h"
-
 #include "workbench/colors/ColorModel.h"
 #include "workbench/colors/colorMime.h"
-
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 

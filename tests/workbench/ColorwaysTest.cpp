@@ -1,17 +1,14 @@
-#include "workbench/WindowScene.h"
-
 #include "support/sourceDir.h"
+#include "workbench/WindowScene.h"
 #include "workbench/colors/ColorwayModel.h"
 #include "workbench/colors/ColorwaysPanel.h"
 #include "workbench/colors/SubColorModel.h"
 #include "workbench/colors/colorMime.h"
-
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 
 #include <QAbstractItemModelTester>
 #include <QDir>
-
 #include <QListView>
 #include <QMimeData>
 #include <QTableView>

@@ -1,8 +1,7 @@
-#include "workbench/WindowScene.h"
-
-#include "workbench/events/EventModel.h"
-
 #include "zsg/core/Events.h"
+
+#include "workbench/WindowScene.h"
+#include "workbench/events/EventModel.h"
 #include "zsg/core/IEventQueue.h"
 #include "zsg/core/ISceneGraph.h"
 

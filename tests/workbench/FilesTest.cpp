@@ -1,5 +1,4 @@
 #include "workbench/WindowScene.h"
-
 #include "workbench/app/Autosave.h"
 
 #include <QDir>

@@ -1,5 +1,4 @@
 #include "workbench/WindowScene.h"
-
 #include "workbench/history/HistoryModel.h"
 
 #include "zcore/ZUndoCommand.h"

@@ -1,8 +1,6 @@
 #include "workbench/WindowScene.h"
-
 #include "workbench/painting/Canvas.h"
 #include "workbench/painting/PaintLayerModel.h"
-
 #include "zsg/painting/IPainterSurface.h"
 
 #include <QAbstractItemModelTester>

@@ -1,12 +1,10 @@
-#include "workbench/WindowScene.h"
-
 #include "support/sourceDir.h"
+#include "workbench/WindowScene.h"
 #include "workbench/materials/CMFForm.h"
 #include "workbench/materials/ImageField.h"
 #include "workbench/materials/MaterialPanel.h"
 #include "workbench/materials/MetadataTree.h"
 #include "workbench/materials/schemaEdits.h"
-
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/materials/ICMFManager.h"
 

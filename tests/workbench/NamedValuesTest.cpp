@@ -1,7 +1,5 @@
-#include "workbench/WindowScene.h"
-
 #include "support/sourceDir.h"
-
+#include "workbench/WindowScene.h"
 #include "workbench/app/KeptValues.h"
 #include "workbench/values/ValuesPanel.h"
 

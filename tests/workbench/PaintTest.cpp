@@ -1,15 +1,13 @@
-#include "workbench/WindowScene.h"
-
 #include "support/sourceDir.h"
-
+#include "workbench/WindowScene.h"
 #include "workbench/app/HostCanvas.h"
 #include "workbench/painting/PaintView.h"
-
-#include "nyxembedded/Painting.h"
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/painting/IPainter.h"
 #include "zsg/painting/IPainterManager.h"
 #include "zsg/painting/IPainterSurface.h"
+
+#include "nyxembedded/Painting.h"
 
 #include <QAction>
 #include <QComboBox>

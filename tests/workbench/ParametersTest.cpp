@@ -1,5 +1,4 @@
 #include "workbench/WindowScene.h"
-
 #include "workbench/colors/ChannelSlider.h"
 #include "workbench/values/FieldBinding.h"
 #include "workbench/values/NumberSpin.h"

@@ -1,5 +1,4 @@
 #include "workbench/WindowScene.h"
-
 #include "workbench/values/CurvePlot.h"
 #include "workbench/values/GradientStrip.h"
 #include "workbench/values/NumberSpin.h"

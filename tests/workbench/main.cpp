@@ -2,7 +2,6 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-
 #include <gmock/gmock.h>
 
 // Windows without a screen, and nothing of the user's: settings and copies go to a folder of the

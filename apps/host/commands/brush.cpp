@@ -10,7 +10,6 @@
 #include "host/pictures/PictureFile.h"
 #include "host/printable.h"
 #include "host/sRGB.h"
-
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/painting/IPainterManager.h"
 #include "zsg/values/ValueVariant.h"

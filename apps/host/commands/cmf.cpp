@@ -8,7 +8,6 @@
 #include "host/OutputFile.h"
 #include "host/counted.h"
 #include "host/printable.h"
-
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/materials/ICMFManager.h"
 #include "zsg/materials/ZCMFSchema.h"

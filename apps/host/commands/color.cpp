@@ -7,7 +7,6 @@
 #include "host/pictures/colorCards.h"
 #include "host/printable.h"
 #include "host/sRGB.h"
-
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/ISceneGraph.h"

@@ -6,7 +6,6 @@
 #include "host/pictures/PictureFile.h"
 #include "host/pictures/colorCards.h"
 #include "host/printable.h"
-
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/ISceneGraph.h"

@@ -2,7 +2,6 @@
 #include "host/NamedValues.h"
 #include "host/pictures/PictureFile.h"
 #include "host/pictures/curvePlot.h"
-
 #include "zsg/values/AnimationCurve.h"
 #include "zsg/values/keyLetters.h"
 

@@ -1,7 +1,6 @@
 #include "host/Command.h"
 #include "host/CommandResult.h"
 #include "host/Host.h"
-
 #include "zsg/core/EventType.h"
 
 #include <ostream>

@@ -4,7 +4,6 @@
 #include "host/pictures/PictureFile.h"
 #include "host/pictures/gradientStrip.h"
 #include "host/sRGB.h"
-
 #include "zsg/values/ColorGradient.h"
 
 #include <ostream>

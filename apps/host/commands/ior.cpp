@@ -6,7 +6,6 @@
 #include "host/metalSamples.h"
 #include "host/pictures/PictureFile.h"
 #include "host/pictures/metalPlot.h"
-
 #include "zsg/values/FloatArray.h"
 #include "zsg/values/loadIORFile.h"
 

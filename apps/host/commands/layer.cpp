@@ -7,7 +7,6 @@
 #include "host/PaintState.h"
 #include "host/printable.h"
 #include "host/sRGB.h"
-
 #include "zsg/painting/IPainterSurface.h"
 
 #include <ostream>

@@ -3,7 +3,6 @@
 #include "host/Host.h"
 #include "host/LightArguments.h"
 #include "host/printable.h"
-
 #include "zsg/lightlayers/ILightLayerApi.h"
 #include "zsg/lightlayers/ILightLayerController.h"
 

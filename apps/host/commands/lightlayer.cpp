@@ -7,7 +7,6 @@
 #include "host/pictures/Picture.h"
 #include "host/pictures/PictureFile.h"
 #include "host/printedBy.h"
-
 #include "zsg/lightlayers/ILightLayerApi.h"
 #include "zsg/lightlayers/ILightLayerController.h"
 

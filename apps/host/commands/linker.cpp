@@ -2,7 +2,6 @@
 #include "host/Command.h"
 #include "host/Host.h"
 #include "host/printable.h"
-
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/colors/IColorLinkHandler.h"

@@ -7,12 +7,12 @@
 #include "host/cmfAttributeKey.h"
 #include "host/idArgument.h"
 #include "host/printable.h"
-
-#include "zcore/ZUndoStack.h"
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/materials/ICMFManager.h"
 #include "zsg/materials/IMaterialHandler.h"
 #include "zsg/materials/ZCMFSchema.h"
+
+#include "zcore/ZUndoStack.h"
 
 #include <nlohmann/json.hpp>
 

@@ -3,7 +3,6 @@
 #include "host/Host.h"
 #include "host/pictures/PictureFile.h"
 #include "host/pictures/colorCards.h"
-
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/ISceneGraph.h"

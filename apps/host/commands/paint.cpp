@@ -5,12 +5,12 @@
 #include "host/CurrentBrush.h"
 #include "host/Host.h"
 #include "host/PaintState.h"
+#include "painting/PaintCommand.h"
+#include "zsg/painting/IPainterSurface.h"
 
 #include "nyxembedded/BrushSettings.h"
 #include "nyxembedded/BrushStroke.h"
 #include "nyxembedded/LayerPixels.h"
-#include "painting/PaintCommand.h"
-#include "zsg/painting/IPainterSurface.h"
 
 #include <ostream>
 #include <utility>

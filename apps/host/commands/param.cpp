@@ -4,7 +4,6 @@
 #include "host/Host.h"
 #include "host/ValueText.h"
 #include "host/parameterResult.h"
-
 #include "zsg/values/Parameter.h"
 #include "zsg/values/ParameterData.h"
 #include "zsg/values/ValueVariant.h"

@@ -5,9 +5,9 @@
 #include "host/OutputFile.h"
 #include "host/PaintState.h"
 #include "host/pictures/rasterPng.h"
+#include "zsg/painting/IPainterSurface.h"
 
 #include "nyxembedded/Painting.h"
-#include "zsg/painting/IPainterSurface.h"
 
 #include <QCryptographicHash>
 

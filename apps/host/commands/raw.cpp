@@ -3,10 +3,10 @@
 #include "host/ColorArguments.h"
 #include "host/Command.h"
 #include "host/Host.h"
-
-#include "nyxrender/nyxRT_api.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/ISceneGraph.h"
+
+#include "nyxrender/nyxRT_api.h"
 
 #include <ostream>
 

@@ -6,10 +6,10 @@
 #include "host/PaintState.h"
 #include "host/counted.h"
 #include "host/printable.h"
-
-#include "nyxembedded/Painting.h"
 #include "zsg/painting/IPainter.h"
 #include "zsg/painting/IPainterSurface.h"
+
+#include "nyxembedded/Painting.h"
 
 #include <ostream>
 

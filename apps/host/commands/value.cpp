@@ -1,7 +1,6 @@
 #include "host/Command.h"
 #include "host/NamedValues.h"
 #include "host/ValueText.h"
-
 #include "zsg/values/ValueVariant.h"
 #include "zsg/values/hash_variant.h"
 

@@ -5,9 +5,9 @@
 #include "host/pictures/PictureFile.h"
 #include "host/pictures/weaveDraft.h"
 #include "host/printedBy.h"
+#include "zsg/values/WeavePattern.h"
 
 #include "nyxrender/WeavePattern.h"
-#include "zsg/values/WeavePattern.h"
 
 namespace app {
 

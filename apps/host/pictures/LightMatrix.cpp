@@ -4,7 +4,6 @@
 #include "host/LightArguments.h"
 #include "host/pictures/Picture.h"
 #include "host/printable.h"
-
 #include "zsg/lightlayers/ILightLayerApi.h"
 
 #include <algorithm>

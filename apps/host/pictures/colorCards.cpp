@@ -6,7 +6,6 @@
 #include "host/pictures/swatch.h"
 #include "host/printable.h"
 #include "host/sRGB.h"
-
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/ISceneGraph.h"
 

@@ -2,7 +2,6 @@
 
 #include "host/Arguments.h"
 #include "host/pictures/Plot.h"
-
 #include "zsg/values/AnimationCurve.h"
 
 #include <algorithm>

@@ -4,7 +4,6 @@
 #include "host/pictures/Axis.h"
 #include "host/pictures/swatch.h"
 #include "host/sRGB.h"
-
 #include "zsg/values/ColorGradient.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
-#include "host/Arguments.h"
 #include "host/pictures/png.h"
+
+#include "host/Arguments.h"
 
 namespace app {
 

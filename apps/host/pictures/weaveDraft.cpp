@@ -1,7 +1,6 @@
 #include "host/pictures/weaveDraft.h"
 
 #include "host/Arguments.h"
-
 #include "zsg/values/WeavePattern.h"
 
 #include <algorithm>

@@ -1,8 +1,7 @@
 #include "workbench/app/ConsolePanel.h"
 
-#include "workbench/app/Document.h"
-
 #include "host/CommandTable.h"
+#include "workbench/app/Document.h"
 
 #include <QCompleter>
 #include <QFontDatabase>

@@ -1,12 +1,11 @@
 #pragma once
 
+#include "host/Host.h"
+#include "host/Interpreter.h"
 #include "workbench/app/Autosave.h"
 #include "workbench/app/EmbeddedContents.h"
 #include "workbench/scene/Scene.h"
 #include "workbench/values/ValueStore.h"
-
-#include "host/Host.h"
-#include "host/Interpreter.h"
 
 #include <QObject>
 #include <QTimer>

@@ -1,18 +1,17 @@
 #include "workbench/app/HostCanvas.h"
 
-#include "workbench/app/RenderSide.h"
-#include "workbench/scene/Scene.h"
-
 #include "host/BrushPreset.h"
 #include "host/CurrentBrush.h"
 #include "host/Host.h"
 #include "host/OutputFile.h"
 #include "host/PaintState.h"
-
-#include "nyxembedded/Painting.h"
 #include "painting/PaintCommand.h"
+#include "workbench/app/RenderSide.h"
+#include "workbench/scene/Scene.h"
 #include "zsg/painting/IPainter.h"
 #include "zsg/painting/IPainterSurface.h"
+
+#include "nyxembedded/Painting.h"
 
 #include <QFileInfo>
 

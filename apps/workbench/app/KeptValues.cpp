@@ -1,9 +1,8 @@
 #include "workbench/app/KeptValues.h"
 
-#include "workbench/values/valueText.h"
-
 #include "host/Arguments.h"
 #include "host/OutputFile.h"
+#include "workbench/values/valueText.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,10 +1,9 @@
 #include "workbench/app/WindowCommands.h"
 
+#include "host/Arguments.h"
 #include "workbench/app/Document.h"
 #include "workbench/app/MainWindow.h"
 #include "workbench/scene/Panel.h"
-
-#include "host/Arguments.h"
 
 namespace workbench {
 

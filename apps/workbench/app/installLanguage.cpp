@@ -1,8 +1,7 @@
 #include "workbench/app/installLanguage.h"
 
-#include "workbench/app/CommandLine.h"
-
 #include "host/installTranslation.h"
+#include "workbench/app/CommandLine.h"
 
 #include <QCoreApplication>
 #include <QLibraryInfo>

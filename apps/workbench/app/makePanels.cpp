@@ -1,5 +1,6 @@
 #include "workbench/app/makePanels.h"
 
+#include "host/DemoPanel.h"
 #include "workbench/app/ConsolePanel.h"
 #include "workbench/app/Document.h"
 #include "workbench/app/HostCanvas.h"
@@ -18,8 +19,6 @@
 #include "workbench/painting/PicturePanel.h"
 #include "workbench/values/ParametersPanel.h"
 #include "workbench/values/ValuesPanel.h"
-
-#include "host/DemoPanel.h"
 
 namespace workbench {
 

@@ -1,13 +1,12 @@
 #include "workbench/app/runWorkbench.h"
 
+#include "host/printable.h"
 #include "workbench/app/Document.h"
 #include "workbench/app/FileActions.h"
 #include "workbench/app/KeptValues.h"
 #include "workbench/app/MainWindow.h"
 #include "workbench/app/TerminationSignals.h"
 #include "workbench/app/WindowCommands.h"
-
-#include "host/printable.h"
 
 #include <QApplication>
 #include <QSettings>

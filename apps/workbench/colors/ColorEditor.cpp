@@ -1,12 +1,10 @@
 #include "workbench/colors/ColorEditor.h"
 
+#include "host/sRGB.h"
 #include "workbench/colors/ChannelRow.h"
 #include "workbench/colors/ColorWheel.h"
 #include "workbench/colors/swatch.h"
 #include "workbench/scene/Scene.h"
-
-#include "host/sRGB.h"
-
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/ISceneGraph.h"

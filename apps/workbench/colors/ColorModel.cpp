@@ -1,12 +1,10 @@
 #include "workbench/colors/ColorModel.h"
 
+#include "host/sRGB.h"
 #include "workbench/colors/colorMime.h"
 #include "workbench/colors/swatch.h"
 #include "workbench/scene/Scene.h"
 #include "workbench/scene/replaceRows.h"
-
-#include "host/sRGB.h"
-
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 

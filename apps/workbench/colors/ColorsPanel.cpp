@@ -6,7 +6,6 @@
 #include "workbench/colors/importColors.h"
 #include "workbench/colors/swatch.h"
 #include "workbench/scene/Scene.h"
-
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 

@@ -2,7 +2,6 @@
 
 #include "workbench/colors/swatch.h"
 #include "workbench/scene/Scene.h"
-
 #include "zsg/colors/ColorDB.h"
 
 #include <QFont>

@@ -5,7 +5,6 @@
 #include "workbench/colors/swatch.h"
 #include "workbench/scene/Scene.h"
 #include "workbench/scene/ScopedMacro.h"
-
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 

@@ -4,7 +4,6 @@
 #include "workbench/colors/swatch.h"
 #include "workbench/scene/Scene.h"
 #include "workbench/scene/replaceRows.h"
-
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 

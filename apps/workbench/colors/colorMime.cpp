@@ -1,10 +1,8 @@
 #include "workbench/colors/colorMime.h"
 
+#include "host/sRGB.h"
 #include "workbench/colors/swatch.h"
 #include "workbench/scene/Scene.h"
-
-#include "host/sRGB.h"
-
 #include "zsg/colors/ColorDB.h"
 
 #include <QColor>

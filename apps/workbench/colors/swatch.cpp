@@ -1,7 +1,6 @@
 #include "workbench/colors/swatch.h"
 
 #include "host/sRGB.h"
-
 #include "zsg/colors/ColorDB.h"
 
 #include <QCoreApplication>

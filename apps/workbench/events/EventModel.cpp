@@ -1,7 +1,6 @@
 #include "workbench/events/EventModel.h"
 
 #include "workbench/scene/Scene.h"
-
 #include "zsg/core/ISceneGraph.h"
 
 #include <algorithm>

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "zcore/ZUndoCommand.h"
-
 #include "nyxrender/Ids.h"
+#include "zcore/ZUndoCommand.h"
 
 #include <QCoreApplication>
 

@@ -3,7 +3,6 @@
 #include "workbench/lights/lightEdits.h"
 #include "workbench/scene/Scene.h"
 #include "workbench/scene/SceneContents.h"
-
 #include "zsg/lightlayers/ILightLayerApi.h"
 #include "zsg/lightlayers/ILightLayerController.h"
 

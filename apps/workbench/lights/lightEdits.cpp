@@ -3,10 +3,10 @@
 #include "workbench/lights/LightLayerCommands.h"
 #include "workbench/scene/Scene.h"
 #include "workbench/scene/ScopedMacro.h"
-
-#include "zcore/ZUndoStack.h"
 #include "zsg/lightlayers/ILightLayerApi.h"
 #include "zsg/lightlayers/ILightLayerController.h"
+
+#include "zcore/ZUndoStack.h"
 
 #include <QObject>
 

@@ -1,8 +1,7 @@
 #include "workbench/materials/CMFForm.h"
 
-#include "workbench/materials/ImageField.h"
-
 #include "host/cmfAttributeKey.h"
+#include "workbench/materials/ImageField.h"
 
 #include <QFormLayout>
 #include <QLabel>

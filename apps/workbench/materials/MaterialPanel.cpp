@@ -1,5 +1,6 @@
 #include "workbench/materials/MaterialPanel.h"
 
+#include "host/DescribeMaterialCommand.h"
 #include "workbench/colors/swatch.h"
 #include "workbench/materials/CMFForm.h"
 #include "workbench/materials/MetadataTree.h"
@@ -7,14 +8,12 @@
 #include "workbench/scene/Changes.h"
 #include "workbench/scene/Scene.h"
 #include "workbench/scene/SceneContents.h"
-
-#include "host/DescribeMaterialCommand.h"
-
-#include "zcore/ZUndoStack.h"
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/materials/ICMFManager.h"
 #include "zsg/materials/IMaterialDescriptor.h"
 #include "zsg/materials/IMaterialHandler.h"
+
+#include "zcore/ZUndoStack.h"
 
 #include <QAction>
 #include <QComboBox>

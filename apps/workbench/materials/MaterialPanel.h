@@ -1,9 +1,9 @@
 #pragma once
 
 #include "workbench/scene/Panel.h"
+#include "zsg/materials/ZCMFSchema.h"
 
 #include "nyxrender/Ids.h"
-#include "zsg/materials/ZCMFSchema.h"
 
 #include <functional>
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QTreeWidget>
-
 #include <nlohmann/json.hpp>
 
 namespace workbench {

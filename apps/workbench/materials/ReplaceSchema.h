@@ -1,7 +1,8 @@
 #pragma once
 
-#include "zcore/ZUndoCommand.h"
 #include "zsg/materials/ZCMFSchema.h"
+
+#include "zcore/ZUndoCommand.h"
 
 #include <QCoreApplication>
 

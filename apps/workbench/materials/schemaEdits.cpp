@@ -1,16 +1,15 @@
 #include "workbench/materials/schemaEdits.h"
 
-#include "workbench/materials/ReplaceSchema.h"
-#include "workbench/scene/Scene.h"
-
 #include "host/Arguments.h"
 #include "host/CMFLint.h"
 #include "host/InputFile.h"
 #include "host/OutputFile.h"
-
-#include "zcore/ZUndoStack.h"
+#include "workbench/materials/ReplaceSchema.h"
+#include "workbench/scene/Scene.h"
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/materials/ICMFManager.h"
+
+#include "zcore/ZUndoStack.h"
 
 #include <QByteArray>
 #include <QIODevice>

@@ -1,11 +1,9 @@
 #include "workbench/painting/BrushPanel.h"
 
+#include "host/BrushPreset.h"
 #include "workbench/painting/Canvas.h"
 #include "workbench/scene/Scene.h"
 #include "workbench/values/ParameterRows.h"
-
-#include "host/BrushPreset.h"
-
 #include "zsg/painting/IPainterBrush.h"
 
 #include <QComboBox>

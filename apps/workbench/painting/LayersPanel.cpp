@@ -1,10 +1,9 @@
 #include "workbench/painting/LayersPanel.h"
 
+#include "host/sRGB.h"
 #include "workbench/colors/swatch.h"
 #include "workbench/painting/PaintLayerModel.h"
 #include "workbench/scene/PointerDrag.h"
-
-#include "host/sRGB.h"
 
 #include <QAction>
 #include <QColorDialog>

@@ -5,7 +5,6 @@
 #include "workbench/scene/Scene.h"
 #include "workbench/scene/ScopedMacro.h"
 #include "workbench/scene/replaceRows.h"
-
 #include "zsg/painting/IPainterSurface.h"
 
 #include <QCoreApplication>

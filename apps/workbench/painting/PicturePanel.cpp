@@ -3,7 +3,6 @@
 #include "workbench/painting/Canvas.h"
 #include "workbench/painting/PaintView.h"
 #include "workbench/scene/Scene.h"
-
 #include "zsg/painting/IPainterSurface.h"
 
 #include <QAction>

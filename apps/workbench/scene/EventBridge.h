@@ -1,7 +1,6 @@
 #pragma once
 
 #include "workbench/scene/Changes.h"
-
 #include "zsg/core/IEventListener.h"
 #include "zsg/core/Subscription.h"
 

@@ -1,9 +1,10 @@
 #include "workbench/scene/Scene.h"
 
-#include "zcore/ZUndoStack.h"
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/lightlayers/ILightLayerApi.h"
 #include "zsg/lightlayers/ILightLayerController.h"
+
+#include "zcore/ZUndoStack.h"
 
 namespace workbench {
 

@@ -1,11 +1,10 @@
 #include "workbench/values/ColorField.h"
 
+#include "host/sRGB.h"
 #include "workbench/colors/ColorWheel.h"
 #include "workbench/colors/swatch.h"
 #include "workbench/values/parameterValue.h"
 #include "workbench/values/valueText.h"
-
-#include "host/sRGB.h"
 
 #include <QFrame>
 #include <QHBoxLayout>

@@ -1,9 +1,8 @@
 #include "workbench/values/MetalView.h"
 
+#include "host/metalSamples.h"
 #include "workbench/values/MetalPlot.h"
 #include "workbench/values/parameterValue.h"
-
-#include "host/metalSamples.h"
 
 #include <QHeaderView>
 #include <QLocale>

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "workbench/scene/EditDrag.h"
-
-#include "zcore/ZUndoCommand.h"
 #include "zsg/values/Parameter.h"
 #include "zsg/values/Variant.h"
+
+#include "zcore/ZUndoCommand.h"
 
 #include <functional>
 #include <memory>

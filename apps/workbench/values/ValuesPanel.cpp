@@ -1,5 +1,7 @@
 #include "workbench/values/ValuesPanel.h"
 
+#include "host/Arguments.h"
+#include "host/OutputFile.h"
 #include "workbench/scene/Scene.h"
 #include "workbench/values/CurveEditor.h"
 #include "workbench/values/FieldBinding.h"
@@ -8,9 +10,6 @@
 #include "workbench/values/WeaveEditor.h"
 #include "workbench/values/loadValue.h"
 #include "workbench/values/valueText.h"
-
-#include "host/Arguments.h"
-#include "host/OutputFile.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "workbench/values/ValueField.h"
-
 #include "zsg/values/WeavePattern.h"
 
 #include <array>

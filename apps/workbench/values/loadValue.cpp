@@ -1,12 +1,10 @@
 #include "workbench/values/loadValue.h"
 
-#include "workbench/values/valueText.h"
-
 #include "host/Arguments.h"
 #include "host/IORLint.h"
 #include "host/InputFile.h"
 #include "host/printedBy.h"
-
+#include "workbench/values/valueText.h"
 #include "zsg/values/loadIORFile.h"
 
 #include <QCoreApplication>

@@ -1,11 +1,10 @@
 #include "workbench/values/valueText.h"
 
-#include "workbench/values/parameterValue.h"
-
 #include "host/sRGB.h"
+#include "workbench/values/parameterValue.h"
+#include "zsg/values/keyLetters.h"
 
 #include "nyxrender/nyxArray.h"
-#include "zsg/values/keyLetters.h"
 
 #include <QStringList>
 

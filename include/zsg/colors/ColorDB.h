@@ -1,10 +1,11 @@
 #pragma once
 
-#include "nyxrender/Unique_array.h"
 #include "zsg/colors/IColorDB.h"
 #include "zsg/colors/ZColorExtEdit.h"
 #include "zsg/colors/ZColorSettingsEdit.h"
 #include "zsg/colors/ZColorwayEdit.h"
+
+#include "nyxrender/Unique_array.h"
 
 #include <memory>
 

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "zsg/Export.h"
+#include "zsg/colors/MultiColorPair.h"
+#include "zsg/colors/ScopedMacro.h"
+
 #include "nyxrender/Ids.h"
 #include "nyxrender/Span.h"
 #include "zcore/ZColor.h"
 #include "zcore/ZColorExt.h"
-#include "zsg/Export.h"
-#include "zsg/colors/MultiColorPair.h"
-#include "zsg/colors/ScopedMacro.h"
 
 #include <QString>
 

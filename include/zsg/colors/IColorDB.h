@@ -1,13 +1,14 @@
 #pragma once
 
-#include "nyxrender/Ids.h"
-#include "nyxrender/Span.h"
-#include "nyxrender/nyxColor.h"
-#include "zcore/ZColorExt.h"
 #include "zsg/Export.h"
 #include "zsg/colors/IColorLinker.h"
 #include "zsg/colors/MultiColorPair.h"
 #include "zsg/colors/ScopedRTApiLock.h"
+
+#include "nyxrender/Ids.h"
+#include "nyxrender/Span.h"
+#include "nyxrender/nyxColor.h"
+#include "zcore/ZColorExt.h"
 
 #include <memory>
 #include <optional>

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "zsg/Export.h"
+
 #include "nyxrender/Ids.h"
 #include "zcore/ZColorExt.h"
-#include "zsg/Export.h"
 
 #include <string>
 

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "zsg/Export.h"
+
 #include "nyxrender/Ids.h"
 #include "nyxrender/Span.h"
 #include "nyxrender/nyxColor.h"
-#include "zsg/Export.h"
 
 #include <array>
 #include <cstddef>

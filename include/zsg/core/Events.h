@@ -1,9 +1,10 @@
 #pragma once
 
-#include "nyxrender/Ids.h"
 #include "zsg/Export.h"
 #include "zsg/core/Event.h"
 #include "zsg/core/Ids.h"
+
+#include "nyxrender/Ids.h"
 
 #include <cstdint>
 

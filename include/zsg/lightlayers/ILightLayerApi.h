@@ -1,11 +1,12 @@
 #pragma once
 
+#include "zsg/Export.h"
+
 #include "nyxrender/Flags.h"
 #include "nyxrender/Ids.h"
 #include "nyxrender/Span.h"
 #include "nyxrender/Unique_array.h"
 #include "nyxrender/layerFlags.h"
-#include "zsg/Export.h"
 
 #include <string>
 #include <vector>

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "zsg/Export.h"
+
 #include "nyxrender/Flags.h"
 #include "nyxrender/Ids.h"
 #include "nyxrender/Span.h"
 #include "nyxrender/layerFlags.h"
-#include "zsg/Export.h"
 
 #include <string>
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "nyxrender/nyxLight_layer_db.h"
 #include "zsg/lightlayers/ILightLayerApi.h"
+
+#include "nyxrender/nyxLight_layer_db.h"
 
 #include <cstdint>
 #include <map>

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "nyxrender/Ids.h"
-#include "nyxrender/Span.h"
 #include "zsg/Export.h"
 #include "zsg/core/Ids.h"
+
+#include "nyxrender/Ids.h"
+#include "nyxrender/Span.h"
 
 #include <QString>
 

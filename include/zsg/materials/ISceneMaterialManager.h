@@ -1,7 +1,8 @@
 #pragma once
 
-#include "nyxrender/Ids.h"
 #include "zsg/Export.h"
+
+#include "nyxrender/Ids.h"
 
 #include <compare>
 #include <cstdint>

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "nyxrender/Ids.h"
 #include "zsg/Export.h"
 #include "zsg/painting/IPainterBrush.h"
+
+#include "nyxrender/Ids.h"
 
 #include <memory>
 

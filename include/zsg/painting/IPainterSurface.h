@@ -1,8 +1,9 @@
 #pragma once
 
+#include "zsg/Export.h"
+
 #include "nyxrender/Ids.h"
 #include "nyxrender/nyxLayerInfo.h"
-#include "zsg/Export.h"
 
 #include <QString>
 

@@ -1,8 +1,9 @@
 #include "api/ParameterBlocks.h"
 
+#include "store/StringPool.h"
+
 #include "nyxrender/Span.h"
 #include "nyxrender/nyx_memory.h"
-#include "store/StringPool.h"
 
 #include <array>
 #include <cstdint>

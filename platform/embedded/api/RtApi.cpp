@@ -1,13 +1,14 @@
 #include "api/RtApi.h"
 
 #include "api/ParameterBlocks.h"
-#include "nyxrender/nyx_warning.h"
 #include "store/BrushGraph.h"
 #include "store/ColorStore.h"
 #include "store/ColorwayStore.h"
 #include "store/LightLayers.h"
 #include "store/Scene.h"
 #include "store/SceneLights.h"
+
+#include "nyxrender/nyx_warning.h"
 
 #include <utility>
 

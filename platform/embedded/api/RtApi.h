@@ -1,6 +1,7 @@
 #pragma once
 
 #include "api/Notifications.h"
+
 #include "nyxrender/nyxRT_api.h"
 
 #include <atomic>

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "store/BrushNode.h"
+
 #include "nyxembedded/ColorRecord.h"
 #include "nyxembedded/ColorwayRecord.h"
 #include "nyxrender/nyxScene_api.h"
-#include "store/BrushNode.h"
 
 class nyxScene;
 

@@ -1,10 +1,10 @@
-#include "nyxrender/nyx_color.h"
-
 #include "store/Accounts.h"
 #include "store/ColorStore.h"
 #include "store/ColorwayStore.h"
 #include "store/Scene.h"
 #include "store/colorUses.h"
+
+#include "nyxrender/nyx_color.h"
 
 #include <cstdlib>
 #include <cstring>

@@ -1,11 +1,11 @@
 // The light-layer database: that of a scene works on the scene's layers, any other one on its own.
 
-#include "nyxrender/nyxLight_layer_db.h"
-
-#include "nyxembedded/Journal.h"
 #include "store/LightLayers.h"
 #include "store/Scene.h"
 #include "store/SceneLights.h"
+
+#include "nyxembedded/Journal.h"
+#include "nyxrender/nyxLight_layer_db.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
-#include "nyxrender/nyx_material.h"
-
 #include "store/MaterialStore.h"
 #include "store/Scene.h"
+
+#include "nyxrender/nyx_material.h"
 
 namespace {
 

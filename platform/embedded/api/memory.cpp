@@ -1,7 +1,7 @@
-#include "nyxrender/nyx_memory.h"
+#include "store/Accounts.h"
 
 #include "nyxrender/Unique_array.h"
-#include "store/Accounts.h"
+#include "nyxrender/nyx_memory.h"
 
 #include <cstdint>
 #include <cstdlib>

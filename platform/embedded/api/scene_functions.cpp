@@ -1,12 +1,14 @@
 // Free functions over the scene as a whole.
 
+#include "store/Scene.h"
+
+#include "store/ItemTree.h"
+#include "store/StringPool.h"
+
 #include "nyxrender/nyxGroup_item.h"
 #include "nyxrender/nyxScene.h"
 #include "nyxrender/nyxScene_hierarchy.h"
 #include "nyxrender/nyx_memory.h"
-#include "store/ItemTree.h"
-#include "store/Scene.h"
-#include "store/StringPool.h"
 
 nyxScene_api* nyx_get_scene_api(nyxScene* scene) { return scene ? scene->api() : nullptr; }
 

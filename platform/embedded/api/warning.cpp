@@ -1,6 +1,5 @@
-#include "nyxrender/nyx_warning.h"
-
 #include "nyxembedded/Warnings.h"
+#include "nyxrender/nyx_warning.h"
 
 #include <cstdarg>
 #include <cstdio>

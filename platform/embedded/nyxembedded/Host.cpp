@@ -1,8 +1,9 @@
 #include "nyxembedded/Host.h"
 
-#include "nyxrender/nyxMessage.h"
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/core/SceneGraphPars.h"
+
+#include "nyxrender/nyxMessage.h"
 
 #include <utility>
 

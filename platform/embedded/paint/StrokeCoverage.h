@@ -1,7 +1,8 @@
 #pragma once
 
-#include "nyxembedded/PixelTile.h"
 #include "paint/DabMask.h"
+
+#include "nyxembedded/PixelTile.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,8 +1,9 @@
 #include "paint/composite.h"
 
-#include "nyxembedded/sRGB.h"
 #include "paint/blendTile.h"
 #include "paint/toByte.h"
+
+#include "nyxembedded/sRGB.h"
 
 #include <algorithm>
 #include <atomic>

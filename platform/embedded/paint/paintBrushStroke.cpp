@@ -1,5 +1,6 @@
-#include "nyxembedded/GrowingStroke.h"
 #include "paint/StrokeCoverage.h"
+
+#include "nyxembedded/GrowingStroke.h"
 
 #include <cstddef>
 #include <utility>

@@ -1,8 +1,9 @@
 #include "paint/paintStroke.h"
 
-#include "nyxembedded/sRGB.h"
 #include "paint/strokeLimits.h"
 #include "paint/toByte.h"
+
+#include "nyxembedded/sRGB.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,10 +1,11 @@
 #include "nyxembedded/Colorways.h"
 
 #include "api/Notifications.h"
-#include "nyxrender/nyxColor.h"
 #include "renderer/upToZero.h"
 #include "store/ColorStore.h"
 #include "store/ColorwayStore.h"
+
+#include "nyxrender/nyxColor.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,8 +1,9 @@
 #include "nyxembedded/Painting.h"
 
-#include "nyxembedded/PixelTile.h"
 #include "renderer/upToZero.h"
 #include "store/Surfaces.h"
+
+#include "nyxembedded/PixelTile.h"
 
 #include <utility>
 

@@ -4,7 +4,6 @@
 #include "api/Painter.h"
 #include "api/RtApi.h"
 #include "api/SceneApi.h"
-#include "nyxembedded/Painting.h"
 #include "scenefile/SceneDump.h"
 #include "scenefile/SceneFile.h"
 #include "store/Accounts.h"
@@ -12,6 +11,8 @@
 #include "store/Scene.h"
 #include "store/SceneLights.h"
 #include "store/StringPool.h"
+
+#include "nyxembedded/Painting.h"
 
 #include <cmath>
 #include <utility>

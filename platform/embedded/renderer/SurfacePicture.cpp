@@ -1,8 +1,9 @@
 #include "nyxembedded/SurfacePicture.h"
 
+#include "store/Surfaces.h"
+
 #include "nyxembedded/Painting.h"
 #include "nyxembedded/PixelTile.h"
-#include "store/Surfaces.h"
 
 #include <algorithm>
 #include <cstddef>

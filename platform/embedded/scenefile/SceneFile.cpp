@@ -1,9 +1,10 @@
 #include "scenefile/SceneFile.h"
 
-#include "nyxembedded/writeFile.h"
 #include "scenefile/SceneReader.h"
 #include "scenefile/SceneWriter.h"
 #include "scenefile/StrictJson.h"
+
+#include "nyxembedded/writeFile.h"
 
 #include <QByteArray>
 #include <QFile>

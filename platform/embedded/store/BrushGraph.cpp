@@ -1,7 +1,8 @@
 #include "store/BrushGraph.h"
 
-#include "nyxrender/nyx_warning.h"
 #include "store/StringPool.h"
+
+#include "nyxrender/nyx_warning.h"
 
 #include <system_error>
 

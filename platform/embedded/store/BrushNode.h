@@ -1,9 +1,10 @@
 #pragma once
 
-#include "nyxrender/Span.h"
-#include "nyxrender/nyxBrush_node.h"
 #include "paint/BrushImage.h"
 #include "store/BrushKinds.h"
+
+#include "nyxrender/Span.h"
+#include "nyxrender/nyxBrush_node.h"
 
 #include <memory>
 #include <string_view>

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "nyxembedded/ColorRecord.h"
-#include "nyxrender/Ids.h"
-#include "nyxrender/Span.h"
 #include "store/IdList.h"
 #include "store/NameIndex.h"
 #include "store/RecordStore.h"
 #include "store/SubColorIndex.h"
+
+#include "nyxembedded/ColorRecord.h"
+#include "nyxrender/Ids.h"
+#include "nyxrender/Span.h"
 
 #include <cstdint>
 #include <set>

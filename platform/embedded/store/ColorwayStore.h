@@ -1,8 +1,9 @@
 #pragma once
 
+#include "store/RecordStore.h"
+
 #include "nyxembedded/ColorwayRecord.h"
 #include "nyxrender/Ids.h"
-#include "store/RecordStore.h"
 
 namespace nyx::embedded {
 

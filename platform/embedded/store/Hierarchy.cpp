@@ -1,7 +1,8 @@
 #include "store/Hierarchy.h"
 
-#include "nyxembedded/Journal.h"
 #include "store/ItemTree.h"
+
+#include "nyxembedded/Journal.h"
 
 #include <vector>
 

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "nyxembedded/ItemRecord.h"
-#include "nyxrender/Ids.h"
 #include "store/GroupItem.h"
 #include "store/RecordStore.h"
+
+#include "nyxembedded/ItemRecord.h"
+#include "nyxrender/Ids.h"
 
 #include <unordered_map>
 #include <vector>

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "store/LayerOfLight.h"
+
 #include "nyxrender/Flags.h"
 #include "nyxrender/Ids.h"
 #include "nyxrender/Span.h"
 #include "nyxrender/layerFlags.h"
-#include "store/LayerOfLight.h"
 
 #include <array>
 #include <cstdint>

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "nyxrender/Ids.h"
 #include "store/Material.h"
 #include "store/PlaceIndex.h"
 #include "store/PlaceUses.h"
 #include "store/RecordStore.h"
+
+#include "nyxrender/Ids.h"
 
 #include <cstdint>
 #include <string>

@@ -1,8 +1,9 @@
 #include "store/Surface.h"
 
-#include "nyxembedded/Journal.h"
 #include "paint/paintStroke.h"
 #include "store/StringPool.h"
+
+#include "nyxembedded/Journal.h"
 
 #include <algorithm>
 #include <utility>

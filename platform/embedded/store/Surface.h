@@ -1,10 +1,11 @@
 #pragma once
 
+#include "paint/composite.h"
+
 #include "nyxembedded/LayerPixels.h"
 #include "nyxembedded/Stroke.h"
 #include "nyxembedded/SurfaceInfo.h"
 #include "nyxrender/nyxCustomSurface.h"
-#include "paint/composite.h"
 
 #include <memory>
 #include <mutex>

@@ -1,8 +1,7 @@
+#include "nyxrender/nyxRT_api.h"
 #include "zcore/ZColorExt.h"
 #include "zcore/ZMainThreadCallback.h"
 #include "zcore/splitTrailingNumber.h"
-
-#include "nyxrender/nyxRT_api.h"
 
 #include <QMetaObject>
 #include <QSharedData>

@@ -1,8 +1,5 @@
 #include "TinyRenderer.h"
 #include "TinyTaskQueue.h"
-
-#include "zcore/ZUndoStack.h"
-
 #include <zsg/colors/ColorController.h>
 #include <zsg/colors/ColorDB.h>
 #include <zsg/core/Event.h>
@@ -18,6 +15,7 @@
 #include <zsg/painting/IPainterSurface.h>
 
 #include "nyxrender/nyxMessage.h"
+#include "zcore/ZUndoStack.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "nyxembedded/Export.h"
 #include "zsg/materials/ISceneMaterialManager.h"
+
+#include "nyxembedded/Export.h"
 
 #include <memory>
 
