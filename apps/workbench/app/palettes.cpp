@@ -63,7 +63,7 @@ QPalette lightPalette() {
 }
 
 double contrast(QColor const& a, QColor const& b) {
-    auto const [dark, light] = std::minmax(luminance(a), luminance(b));
+    auto const [dark, light] = std::minmax({luminance(a), luminance(b)});
     return (light + 0.05) / (dark + 0.05);
 }
 
