@@ -66,12 +66,12 @@ BrushPanel::BrushPanel(Scene& scene, Canvas& canvas, QWidget* parent)
     setFocusProxy(presets_);
     connect(&canvas, &Canvas::brushChanged, this, &BrushPanel::showBrush);
     connect(&scene, &Scene::rootEnding, this, [this] {
-        rows_->setItems({});
+        rows_->clear();
         brush_.reset();
     });
 }
 
-BrushPanel::~BrushPanel() { rows_->setItems({}); }
+BrushPanel::~BrushPanel() { rows_->clear(); }
 
 void BrushPanel::makePresets(QHBoxLayout& bar) {
     presets_->setObjectName("brushPresets");

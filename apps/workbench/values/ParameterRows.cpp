@@ -21,7 +21,8 @@ ParameterRows::ParameterRows(Scene& scene, ParameterWriter writer, QWidget* pare
     connect(&scene, &Scene::commandsRan, this, &ParameterRows::refresh);
 }
 
-ParameterRows::~ParameterRows() = default;
+/// While this is whole: what a field ends may have the rows refreshed.
+ParameterRows::~ParameterRows() { clear(); }
 
 void ParameterRows::setRows(std::vector<ParameterItems> const& rows) {
     rows_.clear();
@@ -40,6 +41,11 @@ void ParameterRows::setRows(std::vector<ParameterItems> const& rows) {
 }
 
 void ParameterRows::setItems(ParameterItems const& items) { setRows(commonParameters({items})); }
+
+void ParameterRows::clear() {
+    rows_.clear();
+    delete takeWidget();
+}
 
 void ParameterRows::refresh() {
     for (ParameterRow* const row : rows_) {

@@ -28,6 +28,10 @@ public:
     /// One subject.
     void setItems(ParameterItems const& items);
 
+    /// Nothing is shown. Edits that are going on end, and nothing new is made: also for
+    /// destructors.
+    void clear();
+
     void refresh();
     [[nodiscard]] int rowCount() const { return static_cast<int>(rows_.size()); }
     /// Gives the focus to the parameter of that label or name; false when there is none.

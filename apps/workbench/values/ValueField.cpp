@@ -3,6 +3,7 @@
 #include "workbench/values/ChoiceField.h"
 #include "workbench/values/ColorField.h"
 #include "workbench/values/CurveEditor.h"
+#include "workbench/values/FieldBinding.h"
 #include "workbench/values/GradientEditor.h"
 #include "workbench/values/NumberField.h"
 #include "workbench/values/NumbersField.h"
@@ -16,6 +17,9 @@ namespace workbench {
 using zsg::Type;
 
 ValueField::~ValueField() {
+    // An edit that is going on ends now, and not when it hears that the widget is gone: what it
+    // ends with would be shown here.
+    qDeleteAll(findChildren<FieldBinding*>(Qt::FindDirectChildrenOnly));
     // A part that has the focus says that it is finished when it goes.
     for (QObject* const part : findChildren<QObject*>()) {
         part->disconnect(this);
