@@ -6,6 +6,8 @@
 
 #include "zcore/ZUndoStack.h"
 
+#include <QScopedValueRollback>
+
 namespace workbench {
 
 Scene::Scene(ZUndoStack& undoStack, SceneContents const* contents)
@@ -51,6 +53,12 @@ void Scene::flush() {
     if (!bridge_ || undoStack_->isExecuting()) {
         return;
     }
+    // A row that goes closes its editor, which may make an edit of what was typed: models are told
+    // of that in the next turn, not in the middle of what they are told now.
+    if (isFlushing_) {
+        return;
+    }
+    QScopedValueRollback<bool> const flushing(isFlushing_, true);
     if (bridge_->lightLayersChanged()) {
         // An assignment reaches the working copy, which the panels read, by this only.
         lightLayers()->lightLayerApi()->sync();

@@ -86,6 +86,7 @@ private:
     zsg::ISceneGraph* root_ = nullptr;
     QUuid sceneId_;
     std::optional<EventBridge> bridge_;
+    bool isFlushing_ = false;
 };
 
 } // namespace workbench
