@@ -39,6 +39,8 @@ PicturePanel::PicturePanel(Scene& scene, Canvas& canvas, QWidget* parent)
     bar->addWidget(surfaces_);
     makeActions(*bar);
     bar->addStretch();
+    zoom_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    zoom_->setMinimumWidth(fontMetrics().horizontalAdvance("88888 %"));
     bar->addWidget(zoom_);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
