@@ -27,6 +27,7 @@ T& takeNamed(Host& host, Arguments& arguments, char const* what) {
     auto const found = values.find(name);
     if (found == values.end()) {
         std::vector<std::string> names;
+        names.reserve(values.size());
         for (auto const& entry : values) {
             names.push_back(entry.first);
         }

@@ -32,7 +32,7 @@ private:
 
 /// As painters of windows like it best.
 QImage toImage(nyx::embedded::Image const& image) {
-    return QImage(image.rgba.data(), image.width, image.height, image.width * 4,
+    return QImage(image.rgba.data(), image.width, image.height, qsizetype{4} * image.width,
                   QImage::Format_RGBA8888_Premultiplied)
         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }

@@ -55,6 +55,7 @@ bool ParametersPanel::select(QString const& text) {
 void ParametersPanel::follow() {
     auto const keys = store_.keys();
     std::vector<zsg::Type> types;
+    types.reserve(keys.size());
     for (ValueStore::Key const& key : keys) {
         types.push_back(store_.item(key).parameter.type());
     }
