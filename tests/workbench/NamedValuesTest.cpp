@@ -1,7 +1,6 @@
 #include "support/sourceDir.h"
-#include "workbench/WindowScene.h"
+#include "workbench/ValuesScene.h"
 #include "workbench/app/KeptValues.h"
-#include "workbench/values/ValuesPanel.h"
 
 #include <QAction>
 #include <QApplication>
@@ -18,20 +17,7 @@ using namespace workbench;
 
 namespace {
 
-class NamedValuesTest : public WindowScene {
-protected:
-    void SetUp() override {
-        WindowScene::SetUp();
-        window.showPanel("values");
-        settle();
-    }
-
-    ValuesPanel& panel() { return *static_cast<ValuesPanel*>(window.panel("values")); }
-    void choose(char const* name) {
-        ASSERT_TRUE(panel().select(name));
-        settle();
-    }
-};
+using NamedValuesTest = ValuesScene;
 
 } // namespace
 

@@ -1,8 +1,7 @@
-#include "workbench/WindowScene.h"
+#include "workbench/ValuesScene.h"
 #include "workbench/values/CurvePlot.h"
 #include "workbench/values/GradientStrip.h"
 #include "workbench/values/NumberSpin.h"
-#include "workbench/values/ValuesPanel.h"
 #include "workbench/values/WeaveGrid.h"
 
 #include <QAction>
@@ -20,19 +19,8 @@ using namespace workbench;
 
 namespace {
 
-class ValuesTest : public WindowScene {
+class ValuesTest : public ValuesScene {
 protected:
-    void SetUp() override {
-        WindowScene::SetUp();
-        window.showPanel("values");
-        settle();
-    }
-
-    ValuesPanel& panel() { return *static_cast<ValuesPanel*>(window.panel("values")); }
-    void choose(char const* name) {
-        ASSERT_TRUE(panel().select(name));
-        settle();
-    }
     [[nodiscard]] std::string said() { return window.statusBar()->currentMessage().toStdString(); }
 
     /// Presses at the first place, moves to each of the others, and lets go at the last.
