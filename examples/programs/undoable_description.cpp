@@ -1,6 +1,5 @@
-// The library pushes no undo command for descriptions of materials. This is how an application
-// makes them undoable: with a command of its own that applies one descriptor, and another to take
-// it back.
+// The library pushes no undo command for descriptions of materials. An application makes them
+// undoable by a command of its own, which applies one descriptor, and another to take it back.
 
 #include "zsg/core/Events.h"
 #include "zsg/core/IEventListener.h"
@@ -21,10 +20,8 @@ namespace {
 
 class DescribeMaterial final : public ZUndoCommand {
     Q_DECLARE_TR_FUNCTIONS(DescribeMaterial)
-
 public:
     using Descriptor = std::unique_ptr<zsg::IMaterialDescriptor const>;
-
     DescribeMaterial(zsg::IMaterialHandler& handler, Descriptor before, Descriptor after)
         : ZUndoCommand(ZCommandId::EditMaterial,
                        tr("Describe Material (%1)").arg(handler.materialName(before->id()))),
@@ -52,14 +49,11 @@ public:
 
 int main(int argc, char** argv) {
     nyx::embedded::Host host; // a renderer in memory, an undo stack, and the root over them
-    std::string const error = host.loadScene(argc > 1 ? argv[1] : "showroom.json");
-    if (!error.empty()) {
+    if (auto const error = host.loadScene(argc > 1 ? argv[1] : "showroom.json"); !error.empty()) {
         std::cerr << error << '\n';
         return 1;
     }
     zsg::IMaterialHandler& handler = *host.root().materialHandler();
-    ZUndoStack& undo = host.undoStack();
-
     Printer printer;
     zsg::Subscription const subscription(*host.root().eventQueue(), printer,
                                          {zsg::EventType::MaterialDescriptionChanged});
@@ -75,12 +69,11 @@ int main(int argc, char** argv) {
         return 1;
     }
     after->setValue(finish, "Felted");
-
     show();
-    undo.push(new DescribeMaterial(handler, std::move(before), std::move(after)));
+    host.undoStack().push(new DescribeMaterial(handler, std::move(before), std::move(after)));
     show();
-    std::cout << undo.text(undo.index() - 1).toStdString() << '\n';
-    undo.undo();
+    std::cout << host.undoStack().text(0).toStdString() << '\n';
+    host.undoStack().undo();
     show();
     return 0;
 }

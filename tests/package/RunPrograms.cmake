@@ -9,11 +9,14 @@ run(${CMAKE_COMMAND} -G Ninja -S ${SOURCE_DIR} -B ${WORK_DIR}/build -DPROGRAMS=$
     "-DCMAKE_CXX_FLAGS=${CXX_FLAGS} -Wall -Wextra -Werror")
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
 
-file(GLOB expectations ${PROGRAMS}/*.out)
-foreach(expectation IN LISTS expectations)
-    cmake_path(GET expectation STEM name)
+file(GLOB sources ${PROGRAMS}/*.cpp)
+foreach(source IN LISTS sources)
+    cmake_path(GET source STEM name)
+    if(name STREQUAL "first_steps")
+        continue() # which README.md shows: documents.code and package.consumer
+    endif()
     run(${WORK_DIR}/build/${name} ${SCENE} ${WORK_DIR}/saved.json)
-    file(READ ${expectation} expected)
+    file(READ ${PROGRAMS}/${name}.out expected)
     if(NOT output STREQUAL expected)
         message(FATAL_ERROR "${name} says\n${output}instead of\n${expected}")
     endif()
