@@ -63,10 +63,14 @@ class Printer:
 
 
 class IdPrinter(Printer):
+    """The renderer's ids are of one template, the library's are classes."""
+
     def shown(self):
-        tag = str(self.value.type.strip_typedefs().unqualified().template_argument(0))
-        name = tag.rsplit("::", 1)[-1].removesuffix("Tag")
-        word = int(self.value["value"])
+        kind = self.value.type.strip_typedefs().unqualified()
+        ours = str(kind).startswith("zsg::")
+        name = str(kind if ours else kind.template_argument(0))
+        name = name.rsplit("::", 1)[-1].removesuffix("Tag")
+        word = int(self.value["value_" if ours else "value"])
         return f"{name} {'invalid' if word == 0xFFFFFFFF else word}"
 
 
@@ -144,6 +148,7 @@ class ColorPrinter(Printer):
 def register(objfile):
     printers = gdb.printing.RegexpCollectionPrettyPrinter("zscenegraph")
     printers.add_printer("Id", "^nyx::Id<.*>$", IdPrinter)
+    printers.add_printer("MaterialId", "^zsg::(Material|ShaderNode|ShaderEdge)Id$", IdPrinter)
     printers.add_printer("Variant", "^zsg::((Value|Pointer)Variant<.*>|Variant)$", VariantPrinter)
     printers.add_printer("Parameter", "^zsg::Parameter$", ParameterPrinter)
     printers.add_printer("WeavePattern", "^zsg::WeavePattern$", WeavePrinter)

@@ -4,7 +4,7 @@ if(NOT GDB)
     return()
 endif()
 set(prints "")
-foreach(value IN ITEMS id none weave gradient plain multi text variant size)
+foreach(value IN ITEMS id none material weave gradient plain multi text variant size)
     list(APPEND prints -ex "output ${value}" -ex "echo \\n")
 endforeach()
 execute_process(

@@ -1,3 +1,4 @@
+#include "zsg/core/Ids.h"
 #include "zsg/values/ColorGradient.h"
 #include "zsg/values/Parameter.h"
 #include "zsg/values/ValueVariant.h"
@@ -12,7 +13,9 @@
 
 int main() {
     nyx::ColorId const id(12);
-    [[maybe_unused]] nyx::SurfaceId const none; // the debugger looks at it
+    // The debugger looks at them.
+    [[maybe_unused]] nyx::SurfaceId const none;
+    [[maybe_unused]] zsg::MaterialId const material(7);
     zsg::WeavePattern const weave = zsg::WeavePattern::makeTwill(4, 1);
     zsg::ColorGradient gradient;
     gradient.setBlend(true);
