@@ -2,6 +2,7 @@
 #include "host/NamedValues.h"
 #include "host/pictures/PictureFile.h"
 #include "host/pictures/curvePlot.h"
+#include "host/valueResult.h"
 #include "zsg/values/AnimationCurve.h"
 #include "zsg/values/keyLetters.h"
 
@@ -101,15 +102,9 @@ void show(Host& host, Arguments& arguments) {
     nyxArray<float> data;
     std::string types;
     curve.store(data, types);
-    beginResultList(host);
+    giveResult(host, [&] { return valueResult(curve); });
     for (std::size_t i = 0; i < types.size(); ++i) {
         float const* const f = data.data() + 6 * i;
-        addResult(host, [&] {
-            return nlohmann::ordered_json{{"type", std::string(1, types[i])},
-                                          {"in", {f[0], f[1]}},
-                                          {"pos", {f[2], f[3]}},
-                                          {"out", {f[4], f[5]}}};
-        });
         host.out() << "  " << types[i] << " in " << f[0] << ' ' << f[1] << " pos " << f[2] << ' '
                    << f[3] << " out " << f[4] << ' ' << f[5] << '\n';
     }

@@ -4,6 +4,7 @@
 #include "host/pictures/PictureFile.h"
 #include "host/pictures/gradientStrip.h"
 #include "host/sRGB.h"
+#include "host/valueResult.h"
 #include "zsg/values/ColorGradient.h"
 
 #include <ostream>
@@ -92,17 +93,7 @@ void show(Host& host, Arguments& arguments) {
         host.out() << '\n';
     }
     host.out() << (gradient.blend() ? "  blends\n" : "  does not blend\n");
-    giveResult(host, [&] {
-        auto stops = nlohmann::ordered_json::array();
-        for (ColorGradientStop const& stop : gradient.getStops()) {
-            nyxColor_rgba const c = stop.getColor();
-            stops.push_back({{"location", stop.getLocation()},
-                             {"srgb", hexColorWithAlpha(c)},
-                             {"linear", {c.r, c.g, c.b, c.a}},
-                             {"slopes", {stop.getSlopeLeft(), stop.getSlopeRight()}}});
-        }
-        return nlohmann::ordered_json{{"blend", gradient.blend()}, {"stops", stops}};
-    });
+    giveResult(host, [&] { return valueResult(gradient); });
 }
 
 void save(Host& host, Arguments& arguments) {

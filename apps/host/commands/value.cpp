@@ -1,12 +1,12 @@
 #include "host/Command.h"
 #include "host/NamedValues.h"
 #include "host/ValueText.h"
+#include "host/valueResult.h"
 #include "zsg/values/ValueVariant.h"
 #include "zsg/values/hash_variant.h"
 
 #include <memory>
 #include <ostream>
-#include <sstream>
 
 namespace app {
 
@@ -20,27 +20,6 @@ Holder& take(Host& host, Arguments& arguments) {
 
 void print(Host& host, zsg::Variant const& value) {
     host.out() << "  " << zsg::typeName(value.type()) << ' ' << value << '\n';
-}
-
-/// Numbers, texts and truths as such; of the other types what is printed.
-nlohmann::ordered_json valueResult(zsg::Variant const& value) {
-    switch (value.type()) {
-    case zsg::Type::Boolean:
-        return *zsg::tryGet<bool>(value);
-    case zsg::Type::Integer:
-        return *zsg::tryGet<int>(value);
-    case zsg::Type::Float:
-        return *zsg::tryGet<float>(value);
-    case zsg::Type::Double:
-        return *zsg::tryGet<double>(value);
-    case zsg::Type::String:
-        return zsg::tryGet<QString>(value)->toStdString();
-    default:
-        break;
-    }
-    std::ostringstream text;
-    text << value;
-    return text.str();
 }
 
 void make(Host& host, Arguments& arguments) {
@@ -65,8 +44,9 @@ void show(Host& host, Arguments& arguments) {
     arguments.done();
     print(host, *holder);
     giveResult(host, [&] {
-        return nlohmann::ordered_json{{"type", zsg::typeName(holder->type())},
-                                      {"value", valueResult(*holder)}};
+        nlohmann::ordered_json result = {{"type", zsg::typeName(holder->type())}};
+        addValue(result, *holder);
+        return result;
     });
 }
 

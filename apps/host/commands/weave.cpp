@@ -5,6 +5,7 @@
 #include "host/pictures/PictureFile.h"
 #include "host/pictures/weaveDraft.h"
 #include "host/printedBy.h"
+#include "host/valueResult.h"
 #include "zsg/values/WeavePattern.h"
 
 #include "nyxrender/WeavePattern.h"
@@ -82,9 +83,7 @@ void show(Host& host, Arguments& arguments) {
                    << weave.width(type) << ", tension " << weave.tension(type) << ", "
                    << (weave.kind(type) == WeavePattern::Round ? "round" : "ribbon") << '\n';
     }
-    giveResult(host, [&] { // as a weave file has it
-        return nlohmann::ordered_json::parse(weave.toJson().toStdString());
-    });
+    giveResult(host, [&] { return valueResult(weave); });
 }
 
 void set(Host& host, Arguments& arguments) {
