@@ -25,7 +25,8 @@ protected:
 
     [[nodiscard]] workbench::Scene& scene() { return document.scene(); }
     [[nodiscard]] ZUndoStack& stack() { return document.host().undoStack(); }
-    [[nodiscard]] std::string dump() { return document.host().renderer().dump(); }
+    /// The scene once the renderer has done what it was told.
+    [[nodiscard]] std::string dump() { return document.host().dump(); }
     /// Runs a command of the console.
     std::string run(std::string const& line);
     /// The texts of the history, done ones before the bar.

@@ -1,7 +1,6 @@
 #include "workbench/history/HistoryModel.h"
 
 #include "workbench/scene/Scene.h"
-#include "workbench/scene/replaceRows.h"
 
 #include "zcore/ZUndoStack.h"
 
@@ -63,54 +62,66 @@ QVariant HistoryModel::data(QModelIndex const& index, int role) const {
 }
 
 void HistoryModel::update() {
-    struct Announce {
-        HistoryModel& model;
-        void removing(int first, int last) { model.beginRemoveRows({}, first, last); }
-        void removed() { model.endRemoveRows(); }
-        void inserting(int first, int last) { model.beginInsertRows({}, first, last); }
-        void inserted() { model.endInsertRows(); }
-    } announce{*this};
-
     updating_ = true;
     ZUndoStack const& stack = scene_.undoStack();
-    std::vector<Row> next{rows_.front()};
-    next.reserve(static_cast<std::size_t>(stack.count()) + 1);
-    for (int i = 0; i < stack.count(); ++i) {
-        next.push_back({stack.command(i), {}});
+    int const entries = stack.count();
+    auto const isAt = [&](int row, int entry) {
+        return rows_[static_cast<std::size_t>(row)].entry == stack.command(entry);
+    };
+    // Of the entries that were there, a stack loses some of the oldest and some of the newest, and
+    // gains new ones at the end: whatever its depth, only those are looked at.
+    int gone = 0;
+    while (gone < rowCount() - 1 && !isAt(gone + 1, 0)) {
+        ++gone;
     }
-    // A full history loses its oldest entry with every push: those rows go first, or every row
-    // would look like another one.
-    if (next.size() > 1 && rows_.size() > 1 && next[1] != rows_[1]) {
-        auto const kept = std::ranges::find(rows_, next[1]);
-        if (kept != rows_.end()) {
-            int const gone = static_cast<int>(kept - rows_.begin()) - 1;
-            announce.removing(1, gone);
-            rows_.erase(rows_.begin() + 1, kept);
-            for (int* const row : {&index_, &clean_}) {
-                *row = *row > gone ? *row - gone : *row > 0 ? -1 : *row;
-            }
-            announce.removed();
+    removeRows(1, gone);
+    int kept = std::min(rowCount() - 1, entries);
+    while (kept > 0 && !isAt(kept, kept - 1)) {
+        --kept;
+    }
+    removeRows(kept + 1, rowCount() - 1 - kept);
+    if (entries > kept) {
+        beginInsertRows({}, kept + 1, entries);
+        for (int i = kept; i < entries; ++i) {
+            rows_.push_back({stack.command(i), stack.text(i)});
         }
+        endInsertRows();
     }
-    replaceRows(rows_, next, announce);
 
     int const indexBefore = std::exchange(index_, stack.index());
     int const cleanBefore = std::exchange(clean_, stack.cleanIndex());
     // The newest may stand for one edit more than before, and a new entry may lie where one of
     // those lay that it has dropped.
-    for (int row = std::max(1, std::min(indexBefore, index_)); row < rowCount(); ++row) {
-        Row& changed = rows_[static_cast<std::size_t>(row)];
-        if (row <= index_ || changed.text.isNull()) {
-            changed.text = stack.text(row - 1);
-        }
+    for (int row = std::max(1, std::min(indexBefore, index_)); row <= index_; ++row) {
+        rows_[static_cast<std::size_t>(row)].text = stack.text(row - 1);
     }
-    // Undone or not, bold, saved; and the text of the newest, which may stand for one edit more.
-    auto const [low, high] =
-        std::minmax({indexBefore, index_, std::max(cleanBefore, 0), std::max(clean_, 0)});
-    int const lastRow = rowCount() - 1;
-    emit dataChanged(index(std::min(low, lastRow)), index(std::min(high, lastRow)));
+    emitChanged(std::min(indexBefore, index_), std::max(indexBefore, index_));
+    if (clean_ != cleanBefore) {
+        emitChanged(cleanBefore, cleanBefore);
+        emitChanged(clean_, clean_);
+    }
     updating_ = false;
     emit updated();
+}
+
+void HistoryModel::removeRows(int first, int count) {
+    if (count == 0) {
+        return;
+    }
+    beginRemoveRows({}, first, first + count - 1);
+    rows_.erase(rows_.begin() + first, rows_.begin() + first + count);
+    for (int* const row : {&index_, &clean_}) {
+        *row = *row >= first + count ? *row - count : *row >= first ? -1 : *row;
+    }
+    endRemoveRows();
+}
+
+void HistoryModel::emitChanged(int first, int last) {
+    first = std::max(first, 0);
+    last = std::min(last, rowCount() - 1);
+    if (first <= last) {
+        emit dataChanged(index(first), index(last));
+    }
 }
 
 } // namespace workbench

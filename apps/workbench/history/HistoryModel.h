@@ -36,11 +36,11 @@ private:
     struct Row {
         ZUndoCommand const* entry = nullptr; ///< only to tell rows apart: it may be gone
         QString text;
-
-        friend bool operator==(Row const& a, Row const& b) { return a.entry == b.entry; }
     };
 
     void update();
+    void removeRows(int first, int count);
+    void emitChanged(int first, int last);
 
     Scene& scene_;
     std::vector<Row> rows_; ///< the first stands for no entry
