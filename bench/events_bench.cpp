@@ -1,4 +1,6 @@
-#include "zsg/core/Events.h"
+#ifndef Q_MOC_RUN // which does not read a file that begins with the standard library's concepts
+    #include "zsg/core/Events.h"
+#endif
 
 #include "Listener.h"
 #include "Rows.h"

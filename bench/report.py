@@ -2,6 +2,7 @@
 """report.py [--print] RESULTS... : makes the tables of docs/performance.md and docs/speed/*.svg from
 the results of several runs of zsg_bench (--results=FILE). Of a time it says the median of the runs,
 of a comparison the ratio of each run: what differs between runs is noise, and is seen.
+The tables of zsg_workbench_figures stand beside RESULTS, as window-1.md and so on.
 --print writes the tables to the terminal, and nothing else."""
 
 import json
@@ -22,7 +23,7 @@ AREAS = {  # by the letters and numbers that a row begins with
     "0": "The whole", "1": "Variants", "2": "Hashes", "3": "Events", "4": "Undo",
     "5": "Weaves as text", "6": "Measured metals", "7": "Gradients and curves", "8": "Weaves",
     "9": "Edits by id", "growth": "Colour database", "12": "CMF schemas", "15": "Brushes",
-    "L": "Light layers", "P": "Painting",
+    "L": "Light layers", "P": "Painting", "20": "Pictures",
 }
 
 # Title, what x counts, and the curves: row, workload (x is what the group matches), contestant, label.
@@ -189,11 +190,39 @@ def summary(results):
     runs = "each of {} runs".format(len(results.runs)) if len(results.runs) > 1 else "the one run"
     text = (f"Of {len(judged)} comparisons that have a target {len(judged) - len(missed) - len(unsure)} "
             f"hold it in {runs}, {len(unsure)} in some, {len(missed)} in none")
-    text += (f"; {NOISE} times the target counts as holding it, for noise. Those of none:\n\n"
-             "| row | workload | against | ours / it | target |\n|---|---|---|---|---|\n")
+    text += f"; {NOISE} times the target counts as holding it, for noise."
+    if not missed:
+        return text + "\n"
+    text += (" Those of none:\n\n| row | workload | against | ours / it | target |\n|---|---|---|---|---|\n")
     for c in missed:
         text += (f"| {c.row} | {c.workload} | {c.name} | {statistics.median(c.ratios):.3g} "
                  f"| <= {c.at_most:.3g} |\n")
+    return text
+
+
+def headlines(results):
+    """What a reader takes along, in numbers that are never typed by hand."""
+    def both(workload):
+        return " to ".join(dict.fromkeys(time(t) for t in sorted(results.times(("0", workload), "ours"))))
+    composite = "composite 2048 x 2048, 10 normal layers"
+    rates = sorted(round(2048 * 2048 / t / 1e6) for t in results.times(("0", composite), "ours"))
+    return (f"- One edit of a colour in a scene of 100,000, from the call to the listener's return: "
+            f"{both('edit to event, 100 k colours')}.\n"
+            f"- Ten layers of 2048 x 2048 texels are composited in {both(composite)}, "
+            f"{' to '.join(dict.fromkeys(map(str, rates)))} million texels a second.\n"
+            f"- 100,000 colours are loaded in {both('load 100 k colours')}; 100,000 mixed edits upon them "
+            f"are made, undone and redone in {both('100 k mixed edits, undone, redone, 100 k colours')}.\n")
+
+
+def window(paths):
+    """The tables of several runs of zsg_workbench_figures as one."""
+    runs = [re.findall(r"^\| (.*?) \| (.*?) \| (\d.*?) \|(.*)$", path.read_text(), re.M) for path in paths]
+    text = "| what | each run | limit | holds |\n|---|---|---|---|\n"
+    for rows in zip(*runs):
+        what, _, limit, _ = rows[0]
+        held = [not mark.strip() for _, _, _, mark in rows]
+        text += (f"| {what} | {', '.join(value for _, value, _, _ in rows)} "
+                 f"| {limit} | {'yes' if all(held) else 'in some runs' if any(held) else '**no**'} |\n")
     return text
 
 
@@ -281,13 +310,18 @@ def draw_peers(results):
 
 def main():
     only_print = sys.argv[1] == "--print"
-    results = Results([pathlib.Path(path) for path in sys.argv[1 + only_print:]])
+    paths = [pathlib.Path(path) for path in sys.argv[1 + only_print:]]
+    results = Results(paths)
     if only_print:
         print(tables(results))
         return
     document = ROOT / "docs/performance.md"
     text = document.read_text()
-    for mark, part in (("tables", tables(results)), ("summary", summary(results))):
+    parts = {"tables": tables(results), "summary": summary(results), "headlines": headlines(results)}
+    figures = sorted(paths[0].parent.glob("window-*.md"))
+    if figures:
+        parts["window"] = window(figures)
+    for mark, part in parts.items():
         begin, end = f"<!-- {mark} begin -->\n", f"<!-- {mark} end -->"
         head, rest = text.split(begin)
         text = head + begin + part + end + rest.split(end)[1]
