@@ -96,11 +96,15 @@ if(TARGET zsg-console)
     zsg_install_program(zsg-console tools)
     # Under the names that the scripts use: a copy of the folder is where they run.
     install(DIRECTORY
-        examples/brushes examples/cmf examples/data examples/scenes examples/scripts
+        examples/brushes examples/cmf examples/data examples/palettes examples/scenes
+        examples/scripts
         DESTINATION ${CMAKE_INSTALL_DATADIR}/zscenegraph/examples COMPONENT tools)
 endif()
 if(TARGET zsg-workbench)
     zsg_install_program(zsg-workbench workbench)
+    # Its presets: a window without the tools has them too.
+    install(DIRECTORY examples/brushes DESTINATION ${CMAKE_INSTALL_DATADIR}/zscenegraph
+        COMPONENT workbench)
     set(desktop ${CMAKE_CURRENT_SOURCE_DIR}/apps/workbench/desktop/zsg-workbench)
     if(TARGET zsg_translations)
         get_target_property(catalogues zsg_translations WORKBENCH_CATALOGUES)

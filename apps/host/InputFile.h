@@ -12,6 +12,7 @@ namespace app {
 inline constexpr std::uintmax_t largestScene = std::uintmax_t{1} << 30;
 inline constexpr std::uintmax_t largestWeave = std::uintmax_t{1} << 26;
 inline constexpr std::uintmax_t largestPreset = std::uintmax_t{1} << 20;
+inline constexpr std::uintmax_t largestPalette = std::uintmax_t{1} << 24;
 inline constexpr std::uintmax_t largestCMFSchema = std::uintmax_t{1} << 27;
 inline constexpr std::uintmax_t largestMeasurement = std::uintmax_t{1} << 24;
 

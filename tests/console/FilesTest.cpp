@@ -72,7 +72,8 @@ TEST_F(FilesTest, AFullDiskLeavesTheFileThatWasThere) {
                         {"color card", "card.svg"},         {"multi card", "multi.svg"},
                         {"colorway board", "board.svg"},    {"brush sheet", "sheet.svg"},
                         {"brush save", "brush.json"},       {"cmf save", "schema.json"},
-                        {"picture save", "surface.png"},    {"scene save", "scene.json"}};
+                        {"picture save", "surface.png"},    {"scene save", "scene.json"},
+                        {"palette save", "some.gpl"}};
     std::ostringstream out;
     app::Host host(out);
     ASSERT_EQ(host.load(sourceDir() + "/examples/scenes/showroom.json"), "");

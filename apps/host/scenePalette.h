@@ -1,0 +1,52 @@
+#pragma once
+
+#include "host/Palette.h"
+
+#include "nyxrender/Ids.h"
+
+#include <QString>
+
+#include <cstddef>
+#include <vector>
+
+class ZUndoStack;
+
+namespace zsg {
+class ColorDB;
+class ISceneGraph;
+} // namespace zsg
+
+namespace app {
+
+/// What happens to a colour of a palette whose name a plain colour of the scene has with another
+/// value.
+enum class SameName {
+    Rename, ///< it comes in under a free name
+    Change, ///< the scene's colour gets its value and keeps its alpha
+    Keep,   ///< the scene's colour stays, and it does not come in
+};
+
+/// How many colours of a palette have such a name.
+[[nodiscard]] std::size_t countSameNames(zsg::ColorDB& db, Palette const& palette);
+
+struct PaletteCounts {
+    std::size_t added = 0;
+    std::size_t changed = 0;
+    std::size_t there = 0; ///< with that name and value, or kept
+};
+
+/// Brings a palette into the scene. One that is there with name and value does not come again. A
+/// colour without a name is called as it is written, "#4682b4", so that it can be found. Of two of
+/// one name in the palette the second is renamed. The changes are one entry of the history, of the
+/// text `text`; new colours cannot be undone, because a scene keeps its records.
+PaletteCounts bringIn(zsg::ISceneGraph& root, ZUndoStack& undoStack, Palette const& palette,
+                      SameName how, QString const& text);
+
+/// The plain ones of some colours of a scene, without a header.
+struct ScenePalette {
+    Palette palette;
+    std::size_t cut = 0; ///< how many lie outside what bytes hold, or are not opaque
+};
+[[nodiscard]] ScenePalette paletteOf(zsg::ColorDB& db, std::vector<nyx::ColorId> const& ids);
+
+} // namespace app
