@@ -46,23 +46,27 @@ Found find(std::vector<std::string> const& words) {
 }
 
 // Names of three words are looked for first, so that the rest of the line does not hide the slip.
-std::string_view meantBy(std::vector<std::string> const& words) {
+// In a family that is named rightly it is the verb that has to be like another.
+std::string_view meantBy(std::vector<std::string> const& words, bool isFamily) {
     for (std::size_t count = std::min(words.size(), mostWords); count > 0; --count) {
         std::string typed = words[0];
         for (std::size_t i = 1; i < count; ++i) {
             typed += ' ' + words[i];
         }
+        std::size_t const same = isFamily && count > 1 ? words[0].size() + 1 : 0;
         std::vector<std::string_view> names;
         for (Command const* command : allCommands()) {
-            if (std::size_t(std::ranges::count(command->name, ' ')) + 1 == count) {
-                names.push_back(command->name);
+            if (std::size_t(std::ranges::count(command->name, ' ')) + 1 == count &&
+                command->name.starts_with(typed.substr(0, same))) {
+                names.push_back(command->name.substr(same));
             }
         }
         if (typed.size() > longestWord) {
             continue;
         }
+        typed.erase(0, same);
         if (std::string_view const found = closestWords(typed, names); !found.empty()) {
-            return found;
+            return {found.data() - same, found.size() + same};
         }
     }
     return {};
@@ -70,7 +74,7 @@ std::string_view meantBy(std::vector<std::string> const& words) {
 
 std::string unknown(std::vector<std::string> const& words, bool isFamily) {
     std::string const start = words[0] + (words.size() > 1 ? ' ' + words[1] : std::string());
-    std::string const meant(meantBy(words));
+    std::string const meant(meantBy(words, isFamily));
     return "unknown command \"" + printable(start, longestWord) + "\"; " +
            (meant.empty() ? std::string() : "did you mean \"" + meant + "\"? ") + "\"help" +
            (isFamily ? ' ' + words[0] : std::string()) + "\" lists them";

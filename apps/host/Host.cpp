@@ -30,6 +30,12 @@ Host::Host(std::ostream& out) : out_(&out) {
     });
 }
 
+Host::~Host() {
+    while (undoStack().macroDepth() > 0) { // a session may end in the middle of one
+        undoStack().endMacro({});
+    }
+}
+
 std::string Host::dump() {
     taskQueue().waitIdle();
     return renderer().dump();

@@ -22,6 +22,9 @@ class Host {
 public:
     /// Text of commands goes to `out`, which must outlive the host; nothing is loaded yet.
     explicit Host(std::ostream& out);
+    ~Host();
+    Host(Host const&) = delete;
+    Host& operator=(Host const&) = delete;
 
     /// Replaces the scene; on failure everything stays as it was and the message is returned, which
     /// is empty on success. The renderer announces the colours of the new scene at the next pump().

@@ -27,7 +27,7 @@ zsg::IPainter& painter(Host& host) { return *host.root().painterManager()->paint
 zsg::IPainterSurface& currentSurface(Host& host) {
     auto const surfaces = painter(host).surfaces();
     if (surfaces.empty()) {
-        throw CommandError("there is no surface; \"surface new\" makes one");
+        throw CommandError("there is no surface; \"surface new 512\" makes one");
     }
     zsg::IPainterSurface* const chosen =
         painter(host).surface(host.sceneState<PaintState>().surface);

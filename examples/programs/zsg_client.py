@@ -49,6 +49,8 @@ class Client:
 
 
 if __name__ == "__main__":
+    if len(sys.argv) != 3:
+        sys.exit(__doc__)
     with Client(*sys.argv[1:3]) as zsg:
         print(zsg.greeting["program"], zsg.greeting["protocol"])
         print(len(zsg("color", "list")), "colours")

@@ -100,18 +100,21 @@ TEST(Svg, TextsAreReadBackWhateverTheyHold) {
     Picture picture{10, 10, "]]><&\"'", {}};
     picture.add(shape::Text{{1, 1}, "<b> & \x01\x1b \xEF\xBF\xBF \xF0\x9F\x8E\xA8"});
     picture.add(shape::fitted({{1, 2}, "\xC3\xA4\xC3\xB6\xC3\xBC<&>W"}, 32));
+    picture.add(shape::fitted({{1, 3}, "e\xCC\x81\xCC\x81\xCC\x81 \xD7\xA6"}, 32));
     QXmlStreamReader reader(QString::fromStdString(svg(picture)));
     QString texts;
     while (!reader.atEnd()) {
-        if (reader.readNext() == QXmlStreamReader::Characters && !reader.isWhitespace()) {
+        reader.readNext();
+        if (reader.isCharacters() && !reader.isWhitespace()) {
             texts += reader.text().toString() + '|';
         }
+        texts += reader.attributes().hasAttribute("unicode-bidi") ? "to the left: " : "";
     }
     EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
     EXPECT_EQ(texts.section('|', 0, 0), "]]><&\"'");
-    EXPECT_EQ(texts.section('|', 2),
-              QString::fromUtf8("<b> & \uFFFD\uFFFD \uFFFD \U0001F3A8|"
-                                "\u00e4\u00f6\u00fc<&>W|\u00e4\u00f6\u2026|"));
+    EXPECT_EQ(texts.section('|', 2), QString::fromUtf8("<b> & \uFFFD\uFFFD \uFFFD \U0001F3A8|"
+                                                       "\u00e4\u00f6\u00fc<&>W|\u00e4\u00f6\u2026|"
+                                                       "to the left: e\u0301\u0301\u0301 \u05E6|"));
 }
 
 TEST(WeaveDraft, IsSmallWhateverTheWeave) {

@@ -34,6 +34,7 @@ function(compare what found wanted_file)
     file(READ ${wanted_file} wanted)
     # Of which version the console says it is.
     string(REGEX REPLACE "\"version\":\"[0-9.]+\"" "\"version\":\"VERSION\"" found "${found}")
+    string(REPLACE "${SOURCE_DIR}/" "" found "${found}")
     if(EMULATOR) # the other system's separators of paths
         string(REPLACE "\\" / wanted "${wanted}")
         string(REPLACE "\\" / found "${found}")

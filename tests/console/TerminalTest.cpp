@@ -44,7 +44,7 @@ protected:
             _exit(127);
         }
         ASSERT_GT(process, 0);
-        expect("\"quit\" ends");
+        EXPECT_THAT(expect("\"quit\" ends"), HasSubstr("42 events ColorSynced 1,"));
         expect("zsg> ");
     }
 

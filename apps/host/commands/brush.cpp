@@ -5,6 +5,7 @@
 #include "host/Host.h"
 #include "host/OutputFile.h"
 #include "host/ValueText.h"
+#include "host/didYouMean.h"
 #include "host/parameterResult.h"
 #include "host/pictures/BrushSheet.h"
 #include "host/pictures/PictureFile.h"
@@ -32,7 +33,14 @@ Parameter take(Host& host, Arguments& arguments) {
     QString const name = QString::fromStdString(arguments.word("a parameter"));
     Parameter const parameter = currentBrush(host).parameter(name);
     if (!parameter.isValid()) {
-        throw CommandError("the brush has no parameter \"" + name.toStdString() + "\"");
+        std::vector<std::string> names;
+        QString meant = name;
+        for (Parameter const& known : currentBrush(host).parameters()) {
+            names.push_back(known.name().toStdString());
+            meant = known.name().endsWith('_' + name) ? known.name() : meant; // "opacity"
+        }
+        throw CommandError("the brush has no parameter \"" + name.toStdString() + '"' +
+                           didYouMean(meant.toStdString(), names));
     }
     return parameter;
 }

@@ -134,7 +134,8 @@ void memory(Host& host, Arguments&) {
 constexpr Command table[] = {
     {"paint with", "RADIUS HARDNESS RGBA", "paint with a plain round tip",
      "paint with 12 0.5 #c0302080", with},
-    {"paint brush", "", "paint with the current brush, as at first", "paint brush", brush},
+    {"paint brush", "", "paint with the current brush again, no longer with a tip", "paint brush",
+     brush},
     {"paint line", "X Y [X Y...]", "paint along a line; one point makes a dot",
      "paint line 20 20 120 60 200 20", stroke<Line::Straight, false>},
     {"paint curve", "X Y [X Y...]", "paint along a smooth line",

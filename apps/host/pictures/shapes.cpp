@@ -4,13 +4,24 @@ namespace app::shape {
 
 namespace {
 
-bool beginsCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }
+/// Stands on or joins the characters beside it: U+0300 to U+036F, U+200D, U+FE0F.
+bool hasNoWidth(std::string_view character) {
+    return (character >= "\xCC\x80" && character <= "\xCD\xAF") || character == "\xE2\x80\x8D" ||
+           character == "\xEF\xB8\x8F";
+}
 
 /// In parts of the size of the font.
-double characterWidth(char first) {
+double characterWidth(std::string_view character) {
     constexpr std::string_view narrow = "fijlrtI.,:;'|!()[] -\"/";
     constexpr std::string_view wide = "mwMW@%";
+    char const first = character.front();
     auto const lead = static_cast<unsigned char>(first);
+    if (hasNoWidth(character)) {
+        return 0;
+    }
+    if (lead >= 0xF0) {
+        return 1.3; // small pictures
+    }
     if (lead >= 0xE3) {
         return 1.05; // most of what is written in squares
     }
@@ -23,12 +34,22 @@ double characterWidth(char first) {
     return first >= 'A' && first <= 'Z' ? 0.72 : 0.63;
 }
 
+std::size_t nextCharacter(std::string_view text, std::size_t begin) {
+    std::size_t end = begin + 1;
+    while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) {
+        ++end;
+    }
+    return end;
+}
+
 } // namespace
 
 double textWidth(std::string_view text, double size, bool bold) {
     double width = 0;
-    for (char const c : text) {
-        width += beginsCharacter(c) ? characterWidth(c) : 0;
+    for (std::size_t begin = 0; begin < text.size();) {
+        std::size_t const end = nextCharacter(text, begin);
+        width += characterWidth(text.substr(begin, end - begin));
+        begin = end;
     }
     return width * size * (bold ? 1.12 : 1);
 }
@@ -41,10 +62,8 @@ Text fitted(Text text, double widest) {
     std::size_t kept = 0;
     double width = 0;
     for (std::size_t end = 0; end < text.text.size();) {
-        std::size_t const begin = end++;
-        while (end < text.text.size() && !beginsCharacter(text.text[end])) {
-            ++end;
-        }
+        std::size_t const begin = end;
+        end = nextCharacter(text.text, begin);
         width += textWidth({text.text.data() + begin, end - begin}, text.size, text.bold);
         if (width > room) {
             break;

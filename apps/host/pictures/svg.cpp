@@ -54,6 +54,12 @@ std::string hex(ColorBytes const& c) {
     return text;
 }
 
+bool hasRightToLeft(std::string const& text) {
+    return std::ranges::any_of(QString::fromStdString(text), [](QChar c) {
+        return c.direction() == QChar::DirR || c.direction() == QChar::DirAL;
+    });
+}
+
 /// XML has no way to write some characters, so the sign for such takes their place.
 std::string escaped(std::string_view text) {
     QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -250,6 +256,9 @@ private:
         }
         if (text.bold) {
             body_ += " font-weight=\"bold\"";
+        }
+        if (hasRightToLeft(text.text)) { // else its ellipsis would stand before it
+            body_ += " unicode-bidi=\"plaintext\"";
         }
         paint(text.ink, {}, {});
         body_ += '>';
