@@ -149,6 +149,9 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
             require(stack.cleanIndex() >= -1 && stack.cleanIndex() <= stack.count());
             checkRoundTrip(stack, document);
         }
+        while (stack.macroDepth() > 0) {
+            stack.endMacro("");
+        }
     }
     require(alive == 0);
     return 0;

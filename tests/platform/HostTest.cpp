@@ -73,6 +73,9 @@ TEST(Host, LoadingBringsANewRootOrChangesNothing) {
     EXPECT_EQ(watched, "built ");
     EXPECT_EQ(&host.root(), before);
     EXPECT_EQ(host.undoStack().count(), 1) << "a file that cannot be read costs no work";
+    host.undoStack().beginMacro("M");
+    EXPECT_NE(host.loadSceneText(oneColor), "") << "the stack would keep what edits the old root";
+    host.undoStack().endMacro({});
 
     ASSERT_EQ(host.loadSceneText(oneColor), "");
     EXPECT_EQ(watched, "built ended 0 built ");
@@ -126,3 +129,10 @@ TEST(Host, SavesWhatTheRenderThreadStillHasToDo) {
     EXPECT_EQ(host.root().painterManager()->painter()->surface(nyx::SurfaceId(1))->layers().size(),
               3u);
 }
+
+#if !defined(QT_NO_DEBUG) && GTEST_HAS_DEATH_TEST
+TEST(HostDeathTest, AMacroThatOutlivesItsStackIsCaughtInDebugBuilds) {
+    auto const manual = nyx::embedded::RenderTaskQueue::Mode::Manual;
+    EXPECT_DEATH(Host(manual).undoStack().beginMacro("M"), "a macro is open");
+}
+#endif

@@ -62,7 +62,8 @@ void inTurn() {
         std::size_t count = 1;
         for (std::size_t operation = 0; operation < count; ++operation) {
             bool happened = true;
-            for (std::size_t number = 0; happened && number < 3000; ++number) {
+            for (std::size_t number = 0; happened; ++number) {
+                ASSERT_LT(number, 10'000u) << "operation " << operation << " has no end";
                 SCOPED_TRACE("kind " + std::to_string(static_cast<int>(kind)) + ", operation " +
                              std::to_string(operation) + ", at " + std::to_string(number));
                 Scene scene;

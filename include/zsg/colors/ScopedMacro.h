@@ -8,8 +8,8 @@ class ZUndoStack;
 namespace zsg {
 
 /// Keeps a macro of the undo stack open while it lives. Scopes nest and end in reverse order, and
-/// before the stack goes. One that is made while the stack runs a command opens nothing, as the
-/// stack refuses it, and ends nothing.
+/// before the stack goes, which debug builds of the embedded one assert. One that is made while the
+/// stack runs a command opens nothing, as the stack refuses it, and ends nothing.
 class ZSG_EXPORT ScopedMacro {
 public:
     /// `undoStack` is borrowed; null opens nothing.

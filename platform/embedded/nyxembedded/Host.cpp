@@ -63,6 +63,9 @@ public:
             return forwarding ? "no scene can be loaded while the renderer reports changes"
                               : "no scene can be loaded while a command runs";
         }
+        if (undoStack.macroDepth() > 0) { // it refuses to be cleared
+            return "no scene can be loaded while a macro is open";
+        }
         std::string message = loadInto([this] { endRoot(); });
         if (!root) {
             buildRoot();

@@ -263,6 +263,7 @@ private:
 ZUndoStack::ZUndoStack() : impl_(std::make_unique<Impl>()) {}
 
 ZUndoStack::~ZUndoStack() {
+    Q_ASSERT_X(impl_->open.empty(), "~ZUndoStack", "a macro is open: who ends it comes too late");
     impl_->executing = true; // for commands that call the stack while they are deleted
     impl_->index = 0;
     shrink(impl_->open, 0);

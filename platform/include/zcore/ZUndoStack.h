@@ -24,7 +24,7 @@ class ZUndoCommand;
 /// it is, to be redone. An entry that throws in undo() moves the index as one that fails does.
 ///
 /// Commands refer to what they edit: clear the stack before that goes. What keeps a macro open must
-/// end it before the stack goes.
+/// end it before the stack goes; the embedded stack asserts that in debug builds.
 class ZCORE_EXPORT ZUndoStack {
 public:
     ZUndoStack();

@@ -47,8 +47,8 @@ public:
     /// new root is built. The renderer announces the new colours to it. Otherwise everything stays
     /// as it was, and the result is a message for people; it is empty on success.
     ///
-    /// Refused, with a message, while a message of the renderer is delivered or a command runs: the
-    /// root that would end is in use then. Do not call it out of a listener either.
+    /// Refused, with a message, while a message of the renderer is delivered, a command runs or a
+    /// macro is open: what would end is in use then. Do not call it out of a listener either.
     [[nodiscard]] std::string loadScene(std::string const& path);
     [[nodiscard]] std::string loadSceneText(std::string const& json);
 
