@@ -151,11 +151,6 @@ TEST_F(ColorControllerTest, TextsHaveTheContextsOfTheirCommands) {
     std::string const texts = history();
     marking.reset();
     EXPECT_TRUE(history().starts_with("Modify Color (Red); ")); // in the language of the moment
-    std::string ids;
-    for (int i = 0; i < stack.count(); ++i) {
-        ids += std::to_string(static_cast<int>(stack.command(i)->id())) + ' ';
-    }
-    EXPECT_EQ(ids, "177 177 175 175 176 174 1 ");
     EXPECT_EQ(texts, "ZEditColorCommand:Modify Color (Red); "
                      "ZEditColorCommand:Clear Color name; "
                      "ZEditColorWayCommand:Clear Colorway name; "

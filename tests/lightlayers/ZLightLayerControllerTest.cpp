@@ -71,7 +71,7 @@ TEST_F(ZLightLayerControllerTest, everyEditIsACommandThatGoesToAndFro) {
     }
 }
 
-TEST_F(ZLightLayerControllerTest, commandsHaveTheirNumbersAndTheContextOfTheirTexts) {
+TEST_F(ZLightLayerControllerTest, textsHaveTheContextOfTheirCommands) {
     {
         MarkingTranslator const marking;
         edit.createLayer("Rim");
@@ -82,11 +82,6 @@ TEST_F(ZLightLayerControllerTest, commandsHaveTheirNumbersAndTheContextOfTheirTe
     EXPECT_EQ(trip.history(), "ZUndoCommand:Create Light Layer (Rim); "
                               "ZUndoCommand:Delete Light Layer (Accent); "
                               "ZUndoCommand:Update light layer; ZUndoCommand:Update light layer");
-    EXPECT_EQ(stack.command(0)->id(), ZCommandId::CreateLightLayer);
-    EXPECT_EQ(static_cast<int>(stack.command(0)->id()), 184);
-    for (int i = 1; i < 4; ++i) {
-        EXPECT_EQ(static_cast<int>(stack.command(i)->id()), 185) << i;
-    }
 }
 
 TEST_F(ZLightLayerControllerTest, withoutAStackEveryCommandIsDoneOnceForGood) {

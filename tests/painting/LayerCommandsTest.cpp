@@ -30,7 +30,7 @@ TEST_F(LayerCommandsTest, numbersNewLayersAboveTheLargest) {
     std::vector<std::pair<std::vector<std::string>, std::string>> const rows = {
         {{""}, "Layer 1"},
         {{"Layer 1", "Paint", "Layer 4"}, "Layer 5"},
-        {{"Layer4"}, "Layer 5"}, // the blank is not asked for
+        {{"Layer44"}, "Layer 45"}, // the blank is not asked for
         {{"layer 4", "My Layer 5", "Layers 6", "Layer  7", "Layer 8b"}, "Layer 1"},
         {{"Layer"}, "Layer 1"},
         {{"Layer 2147483647"}, "Layer 2147483648"},
