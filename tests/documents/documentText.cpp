@@ -49,4 +49,18 @@ std::vector<QStringList> rows(QString const& document) {
     return found;
 }
 
+std::vector<QStringList> rowsOf(QString const& document, char const* part) {
+    auto found = rows(document.section(QString("\n## %1\n").arg(part), 1).section("\n## ", 0, 0));
+    EXPECT_GT(found.size(), 1u) << part;
+    return {found.begin() + 1, found.end()};
+}
+
+QStringList firstOf(QString const& pattern, QString const& text) {
+    QStringList found;
+    for (QStringList const& groups : all(pattern, text)) {
+        found += groups[0];
+    }
+    return found;
+}
+
 } // namespace documents

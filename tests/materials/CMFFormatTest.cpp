@@ -48,7 +48,7 @@ std::string description() {
     return text.substr(begin, text.find("\n## ", begin) - begin);
 }
 
-TEST(CMFFormat, LoaderSchemaFileAndDocumentAgreeOnTheExamples) {
+TEST(CMFFormat, LoaderAndSchemaFileAgreeOnTheExamples) {
     std::map<std::string, int> files;
     for (auto const& entry :
          std::filesystem::recursive_directory_iterator(source / "examples/cmf")) {
@@ -66,11 +66,6 @@ TEST(CMFFormat, LoaderSchemaFileAndDocumentAgreeOnTheExamples) {
         if (folder == "good") {
             EXPECT_TRUE(info.warnings.isEmpty()) << entry;
             EXPECT_EQ(saved(*info.schema).toStdString(), text) << entry;
-        }
-        if (folder == "bad") {
-            std::string message = info.message.toStdString();
-            message = message.substr(0, message.find(": ")); // what follows is the file's own
-            EXPECT_NE(description().find("| " + message), std::string::npos) << message;
         }
     }
     EXPECT_GE(files["good"], 3);

@@ -64,9 +64,16 @@ ValueField* makeField(zsg::Parameter const& parameter, QWidget* parent) {
     case Type::FloatArray:
     case Type::AxaltaColor:
         return new TextField(parameter.type(), parent);
-    default:
-        return new SummaryField(parent);
+    case Type::WeavePattern:
+    case Type::ColorGradient:
+    case Type::AnimationCurve:
+        // No default: the compiler asks for the field of a new type.
+#define WORKBENCH_BARE(member, number, T) case Type::member:
+        ZSG_BARE_TYPES(WORKBENCH_BARE)
+#undef WORKBENCH_BARE
+        break;
     }
+    return new SummaryField(parent);
 }
 
 } // namespace workbench

@@ -294,9 +294,13 @@ QString valueText(zsg::Variant const& value) {
         return zsg::tryGet<zsg::WeavePattern>(value)->toJson();
     case Type::Enumerable:
         return QString::number(zsg::tryGet<zsg::Enumerable>(value)->getSelection());
-    default:
-        return {};
+        // No default: the compiler asks for the text of a new type.
+#define WORKBENCH_BARE(member, number, T) case Type::member:
+        ZSG_BARE_TYPES(WORKBENCH_BARE)
+#undef WORKBENCH_BARE
+        break;
     }
+    return {};
 }
 
 std::unique_ptr<zsg::Variant> valueFromText(QString const& text, zsg::Variant const& present) {
