@@ -89,7 +89,7 @@ function comment(    end) {
 
 /^$/ { if (said != "" && picture == "") said = said "\n"; next }
 
-/^event / { said = said "<s>" swatched(escaped($0)) "</s>\n"; next }
+/^(event|[0-9]+ events) / { said = said "<s>" swatched(escaped($0)) "</s>\n"; next }
 
 { said = said swatched(escaped($0)) "\n" }
 
