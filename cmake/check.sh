@@ -16,17 +16,14 @@ do_layering() { cmake/layering.py; }
 
 do_dev() { workflow dev; }
 
-# Both readings of clang in one: its own warnings come out of clang-tidy as well. Nothing is
-# compiled: the asan gate builds and links everything with clang. No precompiled headers here, so
-# that a source which leans on somebody else's includes is found.
+# What clang-tidy says of the library and the programs. The compiler's own warnings, also those of
+# the tests, come with the asan gate, which compiles everything with clang. No precompiled headers
+# here, so that a source which leans on somebody else's includes has less company to hide in.
 do_clang() {
     cmake --preset clang >/dev/null || return 1
-    local tidy=(clang-tidy-14 --quiet -p build/clang '--warnings-as-errors=*')
     # What only Windows compiles is not in the compilation database.
     sources | grep -E '^(src|apps|platform)/.*\.cpp$' | grep -v '_windows\.cpp$' |
-        xargs -P "$jobs" -n 4 "${tidy[@]}" || return 1
-    sources | grep -E '^(tests|examples)/.*\.cpp$' | grep -vE '^tests/(package|embedding)/|_windows\.cpp$' |
-        xargs -P "$jobs" -n 4 "${tidy[@]}" --checks='-*,clang-diagnostic-*,misc-unused-using-decls'
+        cmake/tidy.py build/clang
 }
 
 do_headers() {
