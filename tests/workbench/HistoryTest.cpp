@@ -1,9 +1,13 @@
 #include "workbench/WindowScene.h"
 #include "workbench/history/HistoryModel.h"
+#include "zsg/colors/ColorController.h"
+#include "zsg/colors/ColorDB.h"
 
 #include "zcore/ZUndoCommand.h"
 
 #include <QAbstractItemModelTester>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QTreeView>
 
 #include <random>
@@ -107,4 +111,25 @@ TEST_F(HistoryTest, AStepThatFailsIsSaid) {
     QObject::connect(&scene(), &Scene::said, [&](QString const& text) { said = text; });
     find<QAction>("undo").trigger();
     EXPECT_EQ(said, "A step of the history could not be carried out.");
+}
+
+TEST_F(HistoryTest, WhatComesByWithinACommandIsToldAfterIt) {
+    class Turning final : public ZUndoCommand {
+    public:
+        Turning() : ZUndoCommand(ZCommandId(1000), "Turns") {}
+        bool undo() override { return true; }
+        bool redo() override {
+            QCoreApplication::processEvents();
+            return true;
+        }
+    };
+    int told = 0;
+    QObject::connect(&scene(), &Scene::changed, [&] { ++told; });
+    scene().colorController()->setDisplayName(scene().colorDB()->colors()[0], "Chalk");
+    stack().push(new Turning);
+    EXPECT_EQ(told, 0);
+    for (QDeadlineTimer limit(10'000); told == 0 && !limit.hasExpired();) {
+        settle();
+    }
+    EXPECT_GT(told, 0);
 }

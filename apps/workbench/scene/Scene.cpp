@@ -7,6 +7,7 @@
 #include "zcore/ZUndoStack.h"
 
 #include <QScopedValueRollback>
+#include <QTimer>
 
 namespace workbench {
 
@@ -49,13 +50,14 @@ zsg::ILightLayerController* Scene::lightLayers() const {
 }
 
 void Scene::flush() {
-    // A nested event loop of whatever a command does would come by here.
-    if (!bridge_ || undoStack_->isExecuting()) {
+    if (!bridge_) {
         return;
     }
-    // A row that goes closes its editor, which may make an edit of what was typed: models are told
-    // of that in the next turn, not in the middle of what they are told now.
-    if (isFlushing_) {
+    // A nested event loop comes by while a command runs, or while models are told: a row that goes
+    // closes its editor, which may make an edit of what was typed. Nobody calls again for what has
+    // been collected already.
+    if (undoStack_->isExecuting() || isFlushing_) {
+        QTimer::singleShot(10, this, &Scene::flush);
         return;
     }
     QScopedValueRollback<bool> const flushing(isFlushing_, true);
