@@ -57,28 +57,9 @@ TEST_F(LayerCommandsTest, startsIdsAboveTheLargest) {
     EXPECT_EQ(surface(id).layers()[0].id, 8u);
 }
 
-// What undo of a move does not restore: after a move downwards the layer comes back one higher.
-TEST_F(LayerCommandsTest, undoOfAMoveDownwardsLandsOnePlaceHigher) {
-    struct Row {
-        unsigned from, to;
-        char const *moved, *undone;
-    };
-    for (Row const& row :
-         {Row{2, 0, "C A B", "A B C"}, Row{0, 2, "B C A", "A B C"}, Row{1, 2, "A C B", "B A C"},
-          Row{2, 1, "A C B", "A B C"}, Row{0, 1, "B A C", "A B C"}}) {
-        IPainterSurface& s = surface(addSurfaceLater({"A", "B", "C"}));
-        s.setEditLayer(7); // out of the picture
-        s.moveLayer(row.from, row.to);
-        EXPECT_EQ(list(s), row.moved) << row.from << " to " << row.to;
-        undo.undo();
-        EXPECT_EQ(list(s), row.undone) << row.from << " to " << row.to;
-    }
-}
-
 TEST_F(LayerCommandsTest, mergesBackgroundsWhateverTheirLayers) {
     IPainterSurface& s = surface(addSurface({"A", "B"}));
     auto const background = [&](unsigned index) { return s.layers()[index].background.r; };
-    s.setLayerBackgroundColor(0, {0.25f, 0, 0, 1}, true);
     s.setLayerBackgroundColor(0, {0.5f, 0, 0, 1}, true);
     s.setLayerBackgroundColor(1, {0.75f, 0, 0, 1}, true);
     ASSERT_EQ(undo.count(), 1);
@@ -87,14 +68,6 @@ TEST_F(LayerCommandsTest, mergesBackgroundsWhateverTheirLayers) {
     EXPECT_EQ(background(1), 0.75f) << "the other layer keeps its colour";
     undo.redo();
     EXPECT_EQ(background(0), 0.75f) << "and redo gives it to this one";
-    s.moveLayer(0, 1);
-    s.setLayerBackgroundColor(0, {0, 0, 0, 1}, true);
-    EXPECT_EQ(undo.count(), 3) << "a move shares the number and merges with nothing";
-
-    auto& surface = dynamic_cast<ZPaintSurface&>(s);
-    ZLayerBackgroundCommand first({}, {}, 1, &surface);
-    ZMoveLayerCommand move(1, 0xFFFFFFFF, 2, &surface);
-    EXPECT_FALSE(first.mergeWith(&move) || move.mergeWith(&first) || first.mergeWith(nullptr));
 }
 
 TEST_F(LayerCommandsTest, undoOfVisibilitySetsTheOppositeOfTheNewValue) {
