@@ -177,7 +177,7 @@ std::vector<Act> EventTables::acts() {
              surface->setEditLayer(1), surface->setDeleted(true), painter->createSurface(64, board),
                  painter->changeResolution(board, 128), painter->reload();
          }},
-        {paint, "`createBrush`", [this] { root->painterManager()->createBrush(20, {}); }},
+        {paint, "`createBrush`", [this] { (void)root->painterManager()->createBrush(20, {}); }},
     };
 }
 
