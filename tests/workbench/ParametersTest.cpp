@@ -1,5 +1,6 @@
 #include "workbench/WindowScene.h"
 #include "workbench/colors/ChannelSlider.h"
+#include "workbench/scene/expression.h"
 #include "workbench/values/FieldBinding.h"
 #include "workbench/values/NumberSpin.h"
 #include "workbench/values/ParameterRows.h"
@@ -9,11 +10,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QLocale>
+#include <QStatusBar>
 #include <QTest>
 #include <QToolButton>
 #include <QWheelEvent>
 
 #include <set>
+#include <tuple>
 
 using namespace workbench;
 
@@ -73,6 +77,30 @@ TEST_F(ParametersTest, HintsLimitsAndFlagsMakeTheFields) {
     scene().endDrags();
     EXPECT_EQ(history(), "Set Size;Set Opacity;Set Steps;Set Temperature;Set Percent;Set Steps;|");
     EXPECT_NE(run("param list").find("Float 12000"), std::string::npos);
+}
+
+TEST_F(ParametersTest, NumbersMayBeCalculated) {
+    QLocale const german(QLocale::German);
+    std::tuple<char const*, QLocale, double> const rows[] = {
+        {"255/3", QLocale::c(), 85},      {" 2 + 3*-(1 - .5) ", QLocale::c(), 0.5},
+        {"1e2-1e-1", QLocale::c(), 99.9}, {"1,5*(2+4)", german, 9},
+        {"1.5+1", german, 2.5}, // as in files
+        {"--2", QLocale::c(), 2},
+    };
+    for (auto const& [text, locale, value] : rows) {
+        EXPECT_EQ(evaluate(text, locale), value) << text;
+    }
+    QString const deep = QString(5000, '(') + '1' + QString(5000, ')');
+    for (QString const& text :
+         {QString(), QString("1+"), QString("(1"), QString("1)"), QString("1/0"), QString("0/0"),
+          QString("2 3"), QString("*2"), deep}) {
+        EXPECT_FALSE(evaluate(text, german)) << text.left(20).toStdString();
+    }
+    type(spin("size"), "(1+2)*4");
+    type(spin("size"), "12*(1");
+    EXPECT_EQ(window.statusBar()->currentMessage(), "12*(1 is no number and no calculation.");
+    EXPECT_EQ(spin("size").value(), 12) << "the number before";
+    EXPECT_EQ(history(), "Set Size;|");
 }
 
 TEST_F(ParametersTest, AnEditIsOneEntryAndOnlyAnEditIsOne) {

@@ -1,9 +1,9 @@
 #include "workbench/colors/ChannelRow.h"
 
 #include "workbench/colors/swatch.h"
+#include "workbench/scene/ExpressionSpin.h"
 
 #include <QCoreApplication>
-#include <QDoubleSpinBox>
 #include <QGridLayout>
 #include <QLabel>
 
@@ -71,7 +71,7 @@ ChannelRow::ChannelRow(int channel, QGridLayout& layout, QWidget& parent)
     : QObject(&parent),
       channel_(channel),
       slider_(new ChannelSlider(&parent)),
-      number_(new QDoubleSpinBox(&parent)) {
+      number_(new ExpressionSpin(&parent)) {
     Channel const& c = entry(channel);
     QString const name = QCoreApplication::translate("Channel", c.name);
     auto* const label = new QLabel(name, &parent);
@@ -84,8 +84,6 @@ ChannelRow::ChannelRow(int channel, QGridLayout& layout, QWidget& parent)
     number_->setDecimals(c.decimals);
     number_->setSingleStep(c.scale == 1 ? 0.01 : 1);
     number_->setWrapping(channel == 0);
-    number_->setKeyboardTracking(false); // one change for a number, not one for every digit
-    number_->setFocusPolicy(Qt::StrongFocus);
     int const row = layout.rowCount();
     layout.addWidget(label, row, 0);
     layout.addWidget(slider_, row, 1);

@@ -1,8 +1,8 @@
 #include "workbench/values/NumberSpin.h"
 
-#include <QLineEdit>
+#include "workbench/scene/expression.h"
+
 #include <QSignalBlocker>
-#include <QWheelEvent>
 
 #include <charconv>
 #include <cmath>
@@ -28,7 +28,7 @@ std::string shortest(T number) {
 
 } // namespace
 
-NumberSpin::NumberSpin(Kind kind, QWidget* parent) : QDoubleSpinBox(parent), kind_(kind) {
+NumberSpin::NumberSpin(Kind kind, QWidget* parent) : ExpressionSpin(parent), kind_(kind) {
     if (kind == Kind::Whole) {
         setDecimals(0);
         setRange(double(std::numeric_limits<int>::min()) - 1,
@@ -38,8 +38,6 @@ NumberSpin::NumberSpin(Kind kind, QWidget* parent) : QDoubleSpinBox(parent), kin
         setRange(-farthest, farthest);
         setSingleStep(0.1);
     }
-    setKeyboardTracking(false);
-    setFocusPolicy(Qt::StrongFocus);
     setAccelerated(true);
 }
 
@@ -60,59 +58,24 @@ QString NumberSpin::textFromValue(double number) const {
     return shown.replace('.', locale().decimalPoint());
 }
 
-QString NumberSpin::bare(QString text) const {
-    if (!suffix().isEmpty() && text.endsWith(suffix())) {
-        text.chop(suffix().size());
-    }
-    return text.trimmed();
-}
-
 double NumberSpin::valueFromText(QString const& text) const {
-    QString const number = bare(text);
-    bool ok = false;
-    double value = locale().toDouble(number, &ok);
-    if (!ok) {
-        value = number.toDouble(&ok); // as in files
-    }
-    return ok ? value : first_;
+    return evaluate(bare(text), locale()).value_or(first_);
 }
 
-QValidator::State NumberSpin::validate(QString& text, int& /*at*/) const {
-    QString const number = bare(text);
-    bool isNumber = false;
-    double value = locale().toDouble(number, &isNumber);
-    if (!isNumber) {
-        value = number.toDouble(&isNumber);
-    }
+QValidator::State NumberSpin::validate(QString& text, int& at) const {
     if (text == specialValueText()) {
         return QValidator::Acceptable;
     }
-    if (isNumber && value > minimum() && value <= maximum()) {
-        return QValidator::Acceptable;
-    }
-    // Not yet a number: a sign, an exponent that has begun.
-    for (QChar const c : number) {
-        if (!c.isDigit() && !QString("+-eE.,").contains(c) && c != locale().decimalPoint() &&
-            c != locale().negativeSign()) {
-            return QValidator::Invalid;
-        }
-    }
-    return QValidator::Intermediate;
+    auto const number = evaluate(bare(text), locale());
+    return number && *number == minimum() ? QValidator::Intermediate // it stands for "mixed"
+                                          : ExpressionSpin::validate(text, at);
 }
 
 void NumberSpin::stepBy(int steps) {
     if (!specialValueText().isEmpty() && value() == minimum()) {
         setValue(first_ + steps * singleStep());
     } else {
-        QDoubleSpinBox::stepBy(steps);
-    }
-}
-
-void NumberSpin::wheelEvent(QWheelEvent* event) {
-    if (hasFocus()) {
-        QDoubleSpinBox::wheelEvent(event);
-    } else {
-        event->ignore(); // scrolling past a number must not change it
+        ExpressionSpin::stepBy(steps);
     }
 }
 

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QDoubleSpinBox>
+#include "workbench/scene/ExpressionSpin.h"
 
 namespace workbench {
 
 /// A number as it is stored: no digit more and none less than it takes to get it back, and no
-/// limits but the type's own. The wheel works only with the focus, and a change is told once for a
-/// number that was typed.
-class NumberSpin final : public QDoubleSpinBox {
+/// limits but the type's own.
+class NumberSpin final : public ExpressionSpin {
     Q_OBJECT
 
 public:
@@ -23,12 +22,7 @@ public:
     [[nodiscard]] QValidator::State validate(QString& text, int& at) const override;
     void stepBy(int steps) override;
 
-protected:
-    void wheelEvent(QWheelEvent* event) override;
-
 private:
-    [[nodiscard]] QString bare(QString text) const;
-
     Kind kind_;
     double first_ = 0; ///< of mixed ones
 };
