@@ -121,7 +121,9 @@ if(TARGET zsg-workbench)
 endif()
 
 set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc/libzscenegraph-doc)
-install(FILES README.md DESTINATION ${doc_dir} COMPONENT documentation)
+# What the documents link stands where they link it.
+install(FILES README.md CONTRIBUTING.md DESTINATION ${doc_dir} COMPONENT documentation)
+install(FILES platform/README.md DESTINATION ${doc_dir}/platform COMPONENT documentation)
 if(ZSG_DEBIAN_LAYOUT)
     execute_process(COMMAND gzip -9nc ${PROJECT_SOURCE_DIR}/CHANGELOG.md
         OUTPUT_FILE changelog.gz WORKING_DIRECTORY ${PROJECT_BINARY_DIR}

@@ -18,11 +18,14 @@ fi
 cp /etc/resolv.conf "$root/etc/"
 rm -rf "$root/proof"
 mkdir -p "$root/proof"
-cp build/package/packages/*.deb "$root/proof"
+cp build/package/packages/*.deb build/package/packages/*.ddeb "$root/proof"
 mountpoint -q "$root/proc" || mount -t proc proc "$root/proc"
 trap 'umount "$root/proc"' EXIT
 
+# There are no terminals in here; what an earlier run installed goes.
+echo 'Dpkg::Use-Pty "0";' >"$root/etc/apt/apt.conf.d/90proof"
 inside apt-get update -qq
+inside sh -c 'dpkg-query -W -f "\${Package} " "libzscenegraph*" "zsg-*" 2>/dev/null | xargs -r dpkg --purge >/dev/null'
 inside sh -c 'apt-get install -y -qq --no-install-recommends /proof/zsg-tools_*.deb /proof/libzscenegraph0_*.deb >/dev/null'
 say "the programs are installed: $(inside zsg-console --version)"
 inside zsg-console check /usr/share/zscenegraph/examples/scenes/showroom.json
@@ -55,9 +58,13 @@ cmp "$root/proof/by-pkg-config" "$root/proof/wanted"
 say "README's program is built by pkg-config and runs"
 inside test -e /usr/share/doc/libzscenegraph-doc/html/index.html
 inside sh -c 'apt-get install -y -qq --no-install-recommends gdb >/dev/null'
-inside sh -c 'cd /proof && gdb -batch -ex "set breakpoint pending on" -ex "break zsg::ISceneGraph::create" -ex run \
-    -ex "info auto-load python-scripts" --args build/first_steps examples/scenes/showroom.json 2>&1' |
-    grep -E '^Yes .*libzscenegraph.*-gdb.py' >/dev/null
+inside sh -c 'dpkg -i /proof/libzscenegraph0-dbgsym_*.ddeb >/dev/null && cd /proof &&
+    gdb -batch -ex "set breakpoint pending on" -ex "break zsg::ColorController::setDisplayName" -ex run \
+        -ex "print id" --args build/first_steps examples/scenes/showroom.json' >"$root/proof/gdb.out" 2>&1
+grep -F '$1 = ColorId 1' "$root/proof/gdb.out" >/dev/null || {
+    cat "$root/proof/gdb.out"
+    exit 1
+}
 say "gdb knows the library's types"
 inside sh -c 'dpkg --verify libzscenegraph0 libzscenegraph-dev libzscenegraph-doc zsg-tools zsg-workbench'
 say "all as it should be"
