@@ -75,7 +75,7 @@ do_windows-compile() {
 
 # Every text that users read stands in the catalogues, and every one of the German ones in German.
 do_translations() {
-    catalogue_is_complete zscenegraph src platform/embedded &&
+    catalogue_is_complete zscenegraph src platform/embedded apps/host &&
         catalogue_is_complete workbench apps/workbench
 }
 

@@ -2,6 +2,31 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>DescribeMaterialCommand</name>
+    <message>
+        <source>Describe Material (%1)</source>
+        <translation>Material beschreiben (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>PaintCommand</name>
+    <message>
+        <source>Erase</source>
+        <translation>Radieren</translation>
+    </message>
+    <message>
+        <source>Paint</source>
+        <translation>Malen</translation>
+    </message>
+</context>
+<context>
+    <name>Palette</name>
+    <message>
+        <source>Load Palette (%1)</source>
+        <translation>Palette laden (%1)</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Multi-Color</source>

@@ -12,6 +12,8 @@
 #include "nyxembedded/BrushStroke.h"
 #include "nyxembedded/LayerPixels.h"
 
+#include <QCoreApplication>
+
 #include <ostream>
 #include <utility>
 #include <vector>
@@ -95,16 +97,15 @@ example::PaintCommand::Paint painterOf(Host& host, Stroke stroke) {
     return [stroke = std::move(stroke)](LayerPixels& pixels) { paintStroke(pixels, stroke); };
 }
 
-void paint(Host& host, Stroke stroke, char const* text) {
+void paint(Host& host, Stroke stroke, QString const& text) {
     zsg::IPainterSurface& surface = currentSurface(host);
     auto const layers = surface.layers();
     if (surface.editLayer() >= layers.size() || layers[surface.editLayer()].deleted) {
         throw CommandError("no layer is being edited; \"layer use\" chooses one");
     }
     host.undoStack().push(new example::PaintCommand(
-        QString::fromUtf8(text), host.renderer().painting(), host.taskQueue(),
-        *host.renderer().api(), surface.id(), layers[surface.editLayer()].id,
-        painterOf(host, std::move(stroke))));
+        text, host.renderer().painting(), host.taskQueue(), *host.renderer().api(), surface.id(),
+        layers[surface.editLayer()].id, painterOf(host, std::move(stroke))));
 }
 
 enum class Line { Straight, Smooth };
@@ -117,7 +118,9 @@ void stroke(Host& host, Arguments& arguments) {
         made.points = smooth(made.points);
     }
     made.erase = erase;
-    paint(host, std::move(made), erase ? "Erase" : "Paint");
+    paint(host, std::move(made),
+          erase ? QCoreApplication::translate("PaintCommand", "Erase")
+                : QCoreApplication::translate("PaintCommand", "Paint"));
 }
 
 void memory(Host& host, Arguments&) {

@@ -13,6 +13,8 @@
 #include "zsg/colors/ColorDB.h"
 #include "zsg/core/ISceneGraph.h"
 
+#include <QCoreApplication>
+
 #include <ostream>
 
 namespace app {
@@ -64,9 +66,9 @@ void load(Host& host, Arguments& arguments) {
     SameName const how = word == "change" ? SameName::Change
                          : word == "keep" ? SameName::Keep
                                           : SameName::Rename;
-    PaletteCounts const counts =
-        bringIn(host.root(), host.undoStack(), palette, how,
-                QString("Load Palette (%1)").arg(QString::fromStdString(palette.name)));
+    PaletteCounts const counts = bringIn(host.root(), host.undoStack(), palette, how,
+                                         QCoreApplication::translate("Palette", "Load Palette (%1)")
+                                             .arg(QString::fromStdString(palette.name)));
     host.sceneState<PaletteHeader>() = {palette.name, palette.columns};
     host.out() << "  " << counts.added << " added, " << counts.changed << " changed, "
                << counts.there << " there\n";
