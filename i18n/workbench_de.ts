@@ -55,6 +55,79 @@
     </message>
 </context>
 <context>
+    <name>Palette</name>
+    <message>
+        <source>Import a Palette</source>
+        <translation>Palette importieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n colours of the palette have names that belong to colours of other values here.</source>
+        <translation>
+            <numerusform>%n Farbe der Palette hat einen Namen, den hier eine Farbe mit anderem Wert trägt.</numerusform>
+            <numerusform>%n Farben der Palette haben Namen, die hier Farben mit anderen Werten tragen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Bring Them in Renamed</source>
+        <translation>Umbenannt einfügen</translation>
+    </message>
+    <message>
+        <source>Change Those Here</source>
+        <translation>Die hiesigen ändern</translation>
+    </message>
+    <message>
+        <source>Keep Those Here</source>
+        <translation>Die hiesigen behalten</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Import Palette (%1)</source>
+        <translation>Palette importieren (%1)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n colours brought in. This cannot be undone.</source>
+        <translation>
+            <numerusform>%n Farbe eingefügt. Das lässt sich nicht rückgängig machen.</numerusform>
+            <numerusform>%n Farben eingefügt. Das lässt sich nicht rückgängig machen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n colours changed.</source>
+        <translation>
+            <numerusform>%n Farbe geändert.</numerusform>
+            <numerusform>%n Farben geändert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n colours were there.</source>
+        <translation>
+            <numerusform>%n Farbe war schon da.</numerusform>
+            <numerusform>%n Farben waren schon da.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The palette has no colours.</source>
+        <translation>Die Palette enthält keine Farben.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n colours written.</source>
+        <translation>
+            <numerusform>%n Farbe geschrieben.</numerusform>
+            <numerusform>%n Farben geschrieben.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them were cut to opaque sRGB.</source>
+        <translation>
+            <numerusform>%n davon auf deckendes sRGB beschnitten.</numerusform>
+            <numerusform>%n davon auf deckendes sRGB beschnitten.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ParameterEdit</name>
     <message>
         <source>Set %1</source>
@@ -78,13 +151,6 @@
     <message>
         <source>Bring It in Renamed</source>
         <translation>Umbenannt einfügen</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n colour(s) brought in. This cannot be undone.</source>
-        <translation>
-            <numerusform>%n Farbe eingefügt. Das lässt sich nicht rückgängig machen.</numerusform>
-            <numerusform>%n Farben eingefügt. Das lässt sich nicht rückgängig machen.</numerusform>
-        </translation>
     </message>
     <message>
         <source>A scene has 32 light layers at most, and deleted ones keep their place. Restore one of those instead.</source>
@@ -134,6 +200,13 @@
         <source>There is an attribute %1 already.</source>
         <translation>Es gibt schon ein Attribut %1.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n colours brought in. This cannot be undone.</source>
+        <translation>
+            <numerusform>%n Farbe eingefügt. Das lässt sich nicht rückgängig machen.</numerusform>
+            <numerusform>%n Farben eingefügt. Das lässt sich nicht rückgängig machen.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Swatch</name>
@@ -154,7 +227,7 @@
         <translation>nicht verwendet</translation>
     </message>
     <message numerus="yes">
-        <source>used by %n place(s)</source>
+        <source>used by %n places</source>
         <translation>
             <numerusform>von %n Stelle verwendet</numerusform>
             <numerusform>von %n Stellen verwendet</numerusform>
@@ -230,6 +303,41 @@
     </message>
 </context>
 <context>
+    <name>workbench::BoundColors</name>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Bind the Copied Colour</source>
+        <translation>Kopierte Farbe zuweisen</translation>
+    </message>
+    <message>
+        <source>%1 of node %2</source>
+        <translation>%1 des Knotens %2</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Choose one of the parameters.</source>
+        <translation>Wählen Sie einen der Parameter.</translation>
+    </message>
+    <message>
+        <source>One colour of this scene can be bound.</source>
+        <translation>Zugewiesen werden kann eine Farbe dieser Szene.</translation>
+    </message>
+</context>
+<context>
     <name>workbench::BrushPanel</name>
     <message>
         <source>A stroke of the brush</source>
@@ -274,6 +382,10 @@
         <source>What the material stores and the schema does not know</source>
         <translation>Was das Material speichert und das Schema nicht kennt</translation>
     </message>
+    <message>
+        <source>Shift+Return: several lines</source>
+        <translation>Umschalt+Eingabe: mehrere Zeilen</translation>
+    </message>
 </context>
 <context>
     <name>workbench::ChoiceField</name>
@@ -284,6 +396,31 @@
     <message>
         <source>mixed</source>
         <translation>gemischt</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ColorCard</name>
+    <message>
+        <source>Colours of the scene</source>
+        <translation>Farben der Szene</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n colours</source>
+        <translation>
+            <numerusform>%n Farbe</numerusform>
+            <numerusform>%n Farben</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>nicht verwendet</translation>
+    </message>
+    <message numerus="yes">
+        <source>used by %n places</source>
+        <translation>
+            <numerusform>von %n Stelle verwendet</numerusform>
+            <numerusform>von %n Stellen verwendet</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -460,6 +597,26 @@
         <source>There is no colour on the clipboard.</source>
         <translation>In der Zwischenablage ist keine Farbe.</translation>
     </message>
+    <message>
+        <source>GIMP palettes (*.gpl)</source>
+        <translation>GIMP-Paletten (*.gpl)</translation>
+    </message>
+    <message>
+        <source>&amp;Import Palette…</source>
+        <translation>Palette &amp;importieren…</translation>
+    </message>
+    <message>
+        <source>Import a Palette</source>
+        <translation>Palette importieren</translation>
+    </message>
+    <message>
+        <source>&amp;Export Palette…</source>
+        <translation>Palette &amp;exportieren…</translation>
+    </message>
+    <message>
+        <source>Export a Palette</source>
+        <translation>Palette exportieren</translation>
+    </message>
 </context>
 <context>
     <name>workbench::ColorwayModel</name>
@@ -508,11 +665,11 @@
     </message>
     <message>
         <source>Delete or Restore</source>
-        <translation>Löschen oder wiederherstellen</translation>
+        <translation>Löschen / Zurückholen</translation>
     </message>
     <message>
         <source>Show Deleted</source>
-        <translation>Gelöschte zeigen</translation>
+        <translation>Gelöschte</translation>
     </message>
     <message>
         <source>Leave It as It Is</source>
@@ -722,6 +879,17 @@
     <message>
         <source>Events: %1, older ones dropped: %2</source>
         <translation>Ereignisse: %1, ältere weggelassen: %2</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ExpressionSpin</name>
+    <message>
+        <source>%1 is not from %2 to %3.</source>
+        <translation>%1 liegt nicht zwischen %2 und %3.</translation>
+    </message>
+    <message>
+        <source>%1 is no number and no calculation.</source>
+        <translation>%1 ist keine Zahl und keine Rechnung.</translation>
     </message>
 </context>
 <context>
@@ -1039,7 +1207,7 @@
     </message>
     <message>
         <source>Delete or Restore</source>
-        <translation>Löschen oder wiederherstellen</translation>
+        <translation>Löschen / Zurückholen</translation>
     </message>
     <message>
         <source>Put Selected Lights Here</source>
@@ -1047,7 +1215,7 @@
     </message>
     <message>
         <source>Show Deleted</source>
-        <translation>Gelöschte zeigen</translation>
+        <translation>Gelöschte</translation>
     </message>
 </context>
 <context>
@@ -1238,10 +1406,6 @@
         <translation>Metadaten</translation>
     </message>
     <message>
-        <source>Parameter</source>
-        <translation>Parameter</translation>
-    </message>
-    <message>
         <source>Description</source>
         <translation>Beschreibung</translation>
     </message>
@@ -1302,14 +1466,6 @@
         <translation>Bearbeiten</translation>
     </message>
     <message>
-        <source>%1 of node %2</source>
-        <translation>%1 des Knotens %2</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>keine</translation>
-    </message>
-    <message>
         <source>CMF Schema</source>
         <translation>CMF-Schema</translation>
     </message>
@@ -1336,10 +1492,6 @@
     <message>
         <source>Colours</source>
         <translation>Farben</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>Farbe</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1585,12 +1737,12 @@
         <translation>Bemalte Fläche</translation>
     </message>
     <message>
-        <source>Plus and minus zoom, 0 shows all, arrow keys move the picture</source>
-        <translation>Plus und Minus ändern den Maßstab, 0 zeigt alles, Pfeiltasten verschieben das Bild</translation>
-    </message>
-    <message>
         <source>There is not enough memory to show this surface.</source>
         <translation>Der Speicher reicht nicht, um diese Fläche zu zeigen.</translation>
+    </message>
+    <message>
+        <source>Plus and minus zoom, 0 shows all, arrow keys move the picture; Ctrl and arrow keys move a pen, Return sets it down and lifts it</source>
+        <translation>Plus und Minus ändern den Maßstab, 0 zeigt alles, Pfeiltasten verschieben das Bild; Strg und Pfeiltasten bewegen einen Stift, Eingabe setzt ihn auf und hebt ihn ab</translation>
     </message>
 </context>
 <context>
@@ -1636,12 +1788,6 @@
     <message>
         <source>Surface</source>
         <translation>Fläche</translation>
-    </message>
-    <message>
-        <source>Nothing is painted in this scene yet.
-&quot;New Surface&quot; makes something to paint on.</source>
-        <translation>In dieser Szene ist noch nichts gemalt.
-„Neue Fläche“ legt etwas zum Malen an.</translation>
     </message>
     <message>
         <source>%1 %</source>
@@ -1694,6 +1840,14 @@
     <message>
         <source>The renderer makes no surface of this size.</source>
         <translation>Der Renderer legt keine Fläche dieser Größe an.</translation>
+    </message>
+    <message>
+        <source>Nothing is painted in this scene yet; these are its colours. &quot;New Surface&quot; makes something to paint on.</source>
+        <translation>In dieser Szene ist noch nichts gemalt; dies sind ihre Farben. „Neue Fläche“ legt etwas zum Malen an.</translation>
+    </message>
+    <message>
+        <source>Colours of the scene</source>
+        <translation>Farben der Szene</translation>
     </message>
 </context>
 <context>

@@ -55,6 +55,79 @@
     </message>
 </context>
 <context>
+    <name>Palette</name>
+    <message>
+        <source>Import a Palette</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n colours of the palette have names that belong to colours of other values here.</source>
+        <translation>
+            <numerusform>%n colour of the palette has a name that belongs to a colour of another value here.</numerusform>
+            <numerusform>%n colours of the palette have names that belong to colours of other values here.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Bring Them in Renamed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change Those Here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep Those Here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import Palette (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n colours brought in. This cannot be undone.</source>
+        <translation>
+            <numerusform>%n colour brought in. This cannot be undone.</numerusform>
+            <numerusform>%n colours brought in. This cannot be undone.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n colours changed.</source>
+        <translation>
+            <numerusform>%n colour changed.</numerusform>
+            <numerusform>%n colours changed.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n colours were there.</source>
+        <translation>
+            <numerusform>%n colour was there.</numerusform>
+            <numerusform>%n colours were there.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The palette has no colours.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n colours written.</source>
+        <translation>
+            <numerusform>%n colour written.</numerusform>
+            <numerusform>%n colours written.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them were cut to opaque sRGB.</source>
+        <translation>
+            <numerusform>%n of them was cut to opaque sRGB.</numerusform>
+            <numerusform>%n of them were cut to opaque sRGB.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ParameterEdit</name>
     <message>
         <source>Set %1</source>
@@ -78,13 +151,6 @@
     <message>
         <source>Bring It in Renamed</source>
         <translation type="unfinished"></translation>
-    </message>
-    <message numerus="yes">
-        <source>%n colour(s) brought in. This cannot be undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
     </message>
     <message>
         <source>A scene has 32 light layers at most, and deleted ones keep their place. Restore one of those instead.</source>
@@ -134,6 +200,13 @@
         <source>There is an attribute %1 already.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message numerus="yes">
+        <source>%n colours brought in. This cannot be undone.</source>
+        <translation>
+            <numerusform>%n colour brought in. This cannot be undone.</numerusform>
+            <numerusform>%n colours brought in. This cannot be undone.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Swatch</name>
@@ -154,10 +227,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <source>used by %n place(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <source>used by %n places</source>
+        <translation>
+            <numerusform>used by %n place</numerusform>
+            <numerusform>used by %n places</numerusform>
         </translation>
     </message>
 </context>
@@ -230,6 +303,41 @@
     </message>
 </context>
 <context>
+    <name>workbench::BoundColors</name>
+    <message>
+        <source>Colours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bind the Copied Colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of node %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose one of the parameters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One colour of this scene can be bound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>workbench::BrushPanel</name>
     <message>
         <source>A stroke of the brush</source>
@@ -274,6 +382,10 @@
         <source>What the material stores and the schema does not know</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Shift+Return: several lines</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>workbench::ChoiceField</name>
@@ -284,6 +396,31 @@
     <message>
         <source>mixed</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ColorCard</name>
+    <message>
+        <source>Colours of the scene</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n colours</source>
+        <translation>
+            <numerusform>%n colour</numerusform>
+            <numerusform>%n colours</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>used by %n places</source>
+        <translation>
+            <numerusform>used by %n place</numerusform>
+            <numerusform>used by %n places</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -458,6 +595,26 @@
     </message>
     <message>
         <source>There is no colour on the clipboard.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GIMP palettes (*.gpl)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Import Palette…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import a Palette</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export Palette…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export a Palette</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -721,6 +878,17 @@
     </message>
     <message>
         <source>Events: %1, older ones dropped: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ExpressionSpin</name>
+    <message>
+        <source>%1 is not from %2 to %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no number and no calculation.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1238,10 +1406,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Parameter</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Description</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1302,14 +1466,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 of node %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>CMF Schema</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1335,10 +1491,6 @@
     </message>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Colour</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1585,11 +1737,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Plus and minus zoom, 0 shows all, arrow keys move the picture</source>
+        <source>There is not enough memory to show this surface.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>There is not enough memory to show this surface.</source>
+        <source>Plus and minus zoom, 0 shows all, arrow keys move the picture; Ctrl and arrow keys move a pen, Return sets it down and lifts it</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1635,11 +1787,6 @@
     <name>workbench::PicturePanel</name>
     <message>
         <source>Surface</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Nothing is painted in this scene yet.
-&quot;New Surface&quot; makes something to paint on.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1692,6 +1839,14 @@
     </message>
     <message>
         <source>The renderer makes no surface of this size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is painted in this scene yet; these are its colours. &quot;New Surface&quot; makes something to paint on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colours of the scene</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

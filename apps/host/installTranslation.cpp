@@ -26,18 +26,21 @@ bool isLanguage(QString const& text) {
 std::string installTranslation(std::string const& language, std::string const& catalogue) {
     auto const wanted = QString::fromStdString(language);
     QString const prefix = QString::fromStdString(catalogue) + u'_';
-    if (wanted == u"en" || wanted.startsWith(u"en_")) {
-        return {}; // the texts themselves
-    }
+    bool const isEnglish = wanted == u"en" || wanted.startsWith(u"en_");
     auto translator = std::make_unique<QTranslator>();
     if (isLanguage(wanted) && translator->load(prefix + wanted, folder())) {
         translator->setParent(QCoreApplication::instance());
         QCoreApplication::installTranslator(translator.release());
         return {};
     }
+    if (isEnglish) {
+        return {}; // the texts themselves; a catalogue has their plurals only
+    }
     QStringList known{QStringLiteral("en")};
     for (QString const& file : QDir(folder()).entryList({prefix + u'*'}, QDir::Files)) {
-        known.prepend(file.chopped(3).mid(prefix.size())); // without ".qm"
+        if (QString const there = file.chopped(3).mid(prefix.size()); there != u"en") {
+            known.prepend(there);
+        }
     }
     QString text = QStringLiteral("--lang %1: there is no such translation; there are: %2")
                        .arg(wanted, known.join(u", "));

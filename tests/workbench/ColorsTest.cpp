@@ -143,6 +143,11 @@ TEST_F(ColorsTest, SwatchesTravel) {
     paste->trigger();
     EXPECT_TRUE(other.panel("colours")->select("Wheat 1"));
     EXPECT_EQ(history(), "|") << "the first window has heard nothing";
+    run("color name Teal Petrol");
+    EXPECT_TRUE(other.panel("colours")->select("Teal")) << "nor the second";
+    QLineEdit editor;
+    editor.paste();
+    EXPECT_EQ(editor.text(), "Wheat #f5deb3");
 
     QMimeData wrong;
     for (char const* const text : {"", "{", "[1]", R"({"colors":[1,{}]})", R"({"colors":{}})"}) {

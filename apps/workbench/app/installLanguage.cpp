@@ -15,6 +15,8 @@ namespace workbench {
 std::string installLanguage(CommandLine const& line) {
     bool const isAsked = !line.language.isEmpty();
     if (!isAsked && (line.isBatch() || !line.script.isEmpty())) {
+        static_cast<void>(
+            app::installTranslation("en", "workbench")); // "1 colour", where it is there
         return {};
     }
     QLocale const locale = isAsked ? QLocale(line.language) : QLocale::system();

@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -135,6 +136,23 @@ void ColorsPanel::makeActions() {
                [this] { toggleMulti(); });
     makeAction(tr("&Copy"), "copyColour", QKeySequence::Copy, [this] { copy(); });
     makeAction(tr("&Paste"), "pasteColour", QKeySequence::Paste, [this] { paste(); });
+    QString const palettes = tr("GIMP palettes (*.gpl)");
+    makeAction(tr("&Import Palette…"), "importPalette", QKeySequence("Ctrl+Shift+I"),
+               [this, palettes] {
+                   QString const path =
+                       QFileDialog::getOpenFileName(this, tr("Import a Palette"), {}, palettes);
+                   if (!path.isEmpty()) {
+                       importFrom(path);
+                   }
+               });
+    makeAction(
+        tr("&Export Palette…"), "exportPalette", QKeySequence("Ctrl+Shift+E"), [this, palettes] {
+            QString const path =
+                QFileDialog::getSaveFileName(this, tr("Export a Palette"), "colours.gpl", palettes);
+            if (!path.isEmpty()) {
+                exportTo(path);
+            }
+        });
 }
 
 QAbstractItemView* ColorsPanel::view() const {
@@ -244,6 +262,17 @@ void ColorsPanel::paste() {
     scene_.flush();
     if (!ids.empty()) {
         setCurrent(ids.back());
+    }
+}
+
+void ColorsPanel::importFrom(QString const& path) { importPalette(scene_, path, header_, this); }
+
+void ColorsPanel::exportTo(QString const& path) {
+    if (scene_.colorDB()) {
+        auto const all = scene_.colorDB()->colors();
+        auto const some = selected();
+        exportPalette(scene_, some.size() > 1 ? some : std::vector(all.begin(), all.end()), path,
+                      header_, this);
     }
 }
 

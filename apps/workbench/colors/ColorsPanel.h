@@ -1,5 +1,6 @@
 #pragma once
 
+#include "workbench/colors/paletteFiles.h"
 #include "workbench/scene/Panel.h"
 
 #include "nyxrender/Ids.h"
@@ -34,6 +35,11 @@ public:
     bool select(QString const& text) override;
     [[nodiscard]] QWidget* filterField() override;
 
+    /// Brings the colours of a GIMP palette in, and writes those that are selected, or all when it
+    /// is one at most; both report in the window.
+    void importFrom(QString const& path);
+    void exportTo(QString const& path);
+
 signals:
     void currentChanged(nyx::ColorId id);
 
@@ -58,6 +64,7 @@ private:
     QTreeView* list_;
     QItemSelectionModel* selection_;
     nyx::ColorId current_;
+    PaletteHeader header_; ///< of the palette that was brought in last
 };
 
 } // namespace workbench

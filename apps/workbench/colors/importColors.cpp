@@ -77,7 +77,7 @@ std::vector<nyx::ColorId> importColors(Scene& scene, std::vector<ZColorExt> colo
     }
     scene.noteUnrecordedChange();
     scene.say(
-        QObject::tr("%n colour(s) brought in. This cannot be undone.", nullptr, int(ids.size())));
+        QObject::tr("%n colours brought in. This cannot be undone.", nullptr, int(ids.size())));
     return ids;
 }
 

@@ -72,7 +72,7 @@ QString describe(Swatch const& swatch) {
     }
     return text + ", " +
            (swatch.uses == 0 ? QCoreApplication::translate("Swatch", "not used")
-                             : QCoreApplication::translate("Swatch", "used by %n place(s)", nullptr,
+                             : QCoreApplication::translate("Swatch", "used by %n places", nullptr,
                                                            int(swatch.uses)));
 }
 
