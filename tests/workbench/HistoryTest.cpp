@@ -124,7 +124,8 @@ TEST_F(HistoryTest, WhatComesByWithinACommandIsToldAfterIt) {
         }
     };
     int told = 0;
-    QObject::connect(&scene(), &Scene::changed, [&] { ++told; });
+    QObject const watch; // the scene outlives both
+    QObject::connect(&scene(), &Scene::changed, &watch, [&] { ++told; });
     scene().colorController()->setDisplayName(scene().colorDB()->colors()[0], "Chalk");
     stack().push(new Turning);
     EXPECT_EQ(told, 0);
