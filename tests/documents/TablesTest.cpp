@@ -1,6 +1,7 @@
 #include "documents/documentText.h"
 #include "zsg/core/EventType.h"
 
+#include <QRegularExpression>
 #include <QString>
 #include <QStringList>
 #include <gtest/gtest.h>
@@ -33,6 +34,21 @@ TEST(Tables, EveryEventHasItsRow) {
         EXPECT_TRUE(wanted.removeOne(row.mid(0, 5).join(" | "))) << row.join(" | ").toStdString();
     }
     EXPECT_EQ(wanted.join("\n").toStdString(), "") << "have no row";
+}
+
+TEST(Tables, EveryCommandOfTheProgramsHasItsRow) {
+    QString const code = sources({"apps", "examples/painting"}, {"*.h", "*.cpp"});
+    QString const document = read("docs/undo.md");
+    for (QStringList const& row : rowsOf(document, "Applications")) {
+        EXPECT_TRUE(all(R"(\b)" + row[1] + R"(\b)", code).size()) << row[1].toStdString();
+        for (QString const& text : firstOf("\"([^\"]+)\"", row[2])) {
+            QString const source = QString(text).replace(QRegularExpression(R"(\bX\b)"), "%1");
+            EXPECT_TRUE(code.contains('"' + source + '"')) << text.toStdString();
+        }
+    }
+    for (QString const& name : firstOf(R"(class (\w+) final : public ZUndoCommand)", code)) {
+        EXPECT_TRUE(document.contains('`' + name + '`')) << name.toStdString();
+    }
 }
 
 TEST(Tables, EveryReaderAndWriterOfAFormatIsNamed) {

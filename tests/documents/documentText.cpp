@@ -15,10 +15,10 @@ QString read(QString const& path) {
     return QString::fromUtf8(file.readAll());
 }
 
-QString headers(QStringList const& folders) {
+QString sources(QStringList const& folders, QStringList const& names) {
     QString text;
     for (QString const& folder : folders) {
-        QDirIterator file(QString::fromStdString(sourceDir()) + '/' + folder, {"*.h"}, QDir::Files,
+        QDirIterator file(QString::fromStdString(sourceDir()) + '/' + folder, names, QDir::Files,
                           QDirIterator::Subdirectories);
         while (file.hasNext()) {
             text += read(file.next().mid(static_cast<qsizetype>(sourceDir().size()) + 1));
@@ -26,6 +26,8 @@ QString headers(QStringList const& folders) {
     }
     return text;
 }
+
+QString headers(QStringList const& folders) { return sources(folders, {"*.h"}); }
 
 std::vector<QStringList> all(QString const& pattern, QString const& text) {
     std::vector<QStringList> found;

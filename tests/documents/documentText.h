@@ -11,6 +11,9 @@ namespace documents {
 /// A file, by its path in the project.
 QString read(QString const& path);
 
+/// All files of such names below some folders of the project, one after the other.
+QString sources(QStringList const& folders, QStringList const& names);
+
 /// All headers below some folders of the project, one after the other.
 QString headers(QStringList const& folders);
 
