@@ -66,5 +66,10 @@ grep -F '$1 = ColorId 1' "$root/proof/gdb.out" >/dev/null || {
     exit 1
 }
 say "gdb knows the library's types"
-inside sh -c 'dpkg --verify libzscenegraph0 libzscenegraph-dev libzscenegraph-doc zsg-tools zsg-workbench'
+# dpkg tells what was changed, and succeeds.
+changed=$(inside dpkg --verify libzscenegraph0 libzscenegraph0-dbgsym libzscenegraph-dev libzscenegraph-doc zsg-tools zsg-workbench)
+[[ -z $changed ]] || {
+    echo "$changed"
+    exit 1
+}
 say "all as it should be"

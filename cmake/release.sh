@@ -106,4 +106,6 @@ case ${1-} in
 *) wanted=("${all[@]}") ;;
 esac
 must_know release "${wanted[@]}"
+[[ -d build/package/lib || " ${wanted[*]} " == *' packages '* ]] ||
+    echo 'Nothing is packaged yet: only version, changelog and documents can pass before ./dev package.'
 run_steps release "${wanted[@]}"
