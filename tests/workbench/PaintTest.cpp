@@ -139,6 +139,28 @@ TEST_F(PaintTest, APenPaintsByItsPressureAndItsOtherEndErases) {
     EXPECT_LT(composite()[(128 * 256 + 120) * 4 + 3], 80); // by as much as the brush paints
 }
 
+TEST_F(PaintTest, KeysMoveAPenAsWell) {
+    view().setFocus();
+    auto const press = [&](int key, Qt::KeyboardModifiers with = Qt::ControlModifier) {
+        QTest::keyClick(&view(), Qt::Key(key), with);
+    };
+    press(Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(composite(), start) << "it is lifted";
+    press(Qt::Key_Return, {});
+    for (int i = 0; i < 4; ++i) {
+        press(Qt::Key_Right);
+    }
+    press(Qt::Key_Return, {});
+    settleAll();
+    EXPECT_EQ(history(), "Paint;|");
+    auto const painted = composite();
+    EXPECT_GT(painted[(128 * 256 + 128) * 4 + 3], 0);
+    press(Qt::Key_Return, {});
+    press(Qt::Key_Down);
+    press(Qt::Key_Escape, {});
+    EXPECT_EQ(composite(), painted) << "given up";
+}
+
 TEST_F(PaintTest, RefusesWhereNothingWouldBeSeen) {
     QString said;
     QObject::connect(&scene(), &Scene::said, [&](QString const& text) { said = text; });

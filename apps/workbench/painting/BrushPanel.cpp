@@ -32,7 +32,7 @@ QString ownFolder() {
 
 /// Those that come with the program.
 QString sharedFolder() {
-    return QCoreApplication::applicationDirPath() + "/../share/zscenegraph/examples/brushes";
+    return QCoreApplication::applicationDirPath() + "/../share/zscenegraph/brushes";
 }
 
 } // namespace

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace workbench {
 
@@ -49,7 +50,9 @@ PaintView::PaintView(Scene& scene, Canvas& canvas, QWidget* parent)
     : QWidget(parent), scene_(scene), canvas_(canvas) {
     setObjectName("paintView");
     setAccessibleName(tr("Painted surface"));
-    setAccessibleDescription(tr("Plus and minus zoom, 0 shows all, arrow keys move the picture"));
+    setAccessibleDescription(
+        tr("Plus and minus zoom, 0 shows all, arrow keys move the picture; Ctrl and "
+           "arrow keys move a pen, Return sets it down and lifts it"));
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(fontMetrics().height() * 8, fontMetrics().height() * 8);
@@ -121,6 +124,37 @@ void PaintView::paintEvent(QPaintEvent* event) {
     painter.fillRect(surface, checkers());
     painter.setClipRect(exposed);
     picture_.paint(painter, exposed, origin, zoom_, devicePixelRatioF());
+    if (keyPen_ && hasFocus()) {
+        int const arm = fontMetrics().height() / 2;
+        QPoint const at = fromTexel(*keyPen_).toPoint();
+        for (auto const& [color, width] : {std::pair(Qt::white, 3), std::pair(Qt::black, 1)}) {
+            painter.setPen(QPen(color, width)); // seen on every ground
+            painter.drawLine(at - QPoint(arm, 0), at + QPoint(arm, 0));
+            painter.drawLine(at - QPoint(0, arm), at + QPoint(0, arm));
+        }
+    }
+}
+
+void PaintView::moveKeyPen(QPoint const& direction, bool isFine) {
+    double const side = picture_.resolution();
+    QPointF const seen(std::clamp(center_.x(), 0.0, side), std::clamp(center_.y(), 0.0, side));
+    QPointF at =
+        keyPen_.value_or(seen) + QPointF(direction) * (isFine ? 1 : std::max(1.0, 8 / zoom_));
+    at = {std::clamp(at.x(), 0.0, side), std::clamp(at.y(), 0.0, side)};
+    keyPen_ = at;
+    if (canvas_.isStroking()) {
+        sample(fromTexel(at), 1);
+    }
+    update();
+}
+
+void PaintView::toggleKeyPen() {
+    if (canvas_.isStroking()) {
+        stroke_->end();
+    } else {
+        moveKeyPen({}, true); // it is somewhere
+        begin(fromTexel(*keyPen_), 1, erasing_ ? Canvas::Ink::Erase : Canvas::Ink::Paint);
+    }
 }
 
 void PaintView::begin(QPointF const& at, double pressure, Canvas::Ink ink) {
@@ -217,7 +251,10 @@ void PaintView::wheelEvent(QWheelEvent* event) {
 
 void PaintView::keyPressEvent(QKeyEvent* event) {
     QPointF const step = QPointF(width(), height()) / 8 / zoom_;
-    auto const go = [&](double x, double y) {
+    auto const go = [&](int x, int y) {
+        if (event->modifiers().testFlag(Qt::ControlModifier)) {
+            return moveKeyPen({x, y}, event->modifiers().testFlag(Qt::ShiftModifier));
+        }
         center_ += QPointF(x * step.x(), y * step.y());
         isFitted_ = false;
         update();
@@ -229,6 +266,9 @@ void PaintView::keyPressEvent(QKeyEvent* event) {
         }
         canvas_.cancelStroke();
         return stroke_->end();
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return event->isAutoRepeat() ? event->accept() : toggleKeyPen();
     case Qt::Key_Space:
         isSpaceDown_ = true;
         return showCursor();
@@ -266,6 +306,7 @@ bool PaintView::event(QEvent* event) {
     if (event->type() == QEvent::FocusOut) {
         isSpaceDown_ = false;
         showCursor();
+        update(); // the keys' pen
     } else if (event->type() == QEvent::UngrabMouse) {
         moving_.reset();
     }

@@ -19,6 +19,9 @@ class Scene;
 /// A pen paints with its pressure and erases with its other end; its mouse events are ignored. The
 /// wheel zooms, the middle button (or the left one with the space bar) moves the picture, arrow
 /// keys too; Escape takes off the stroke that is being made.
+///
+/// Without a pointer: Ctrl and arrow keys move a pen over the picture (with Shift by a texel),
+/// Return sets it down and lifts it.
 class PaintView final : public QWidget {
     Q_OBJECT
 
@@ -63,6 +66,8 @@ private:
     void begin(QPointF const& at, double pressure, Canvas::Ink ink);
     void sample(QPointF const& at, double pressure);
     void showCursor();
+    void moveKeyPen(QPoint const& direction, bool isFine);
+    void toggleKeyPen();
 
     Scene& scene_;
     Canvas& canvas_;
@@ -74,6 +79,7 @@ private:
     bool isPenDown_ = false;
     bool isSpaceDown_ = false;
     std::optional<QPointF> moving_; ///< where the pointer was that moves the picture
+    std::optional<QPointF> keyPen_; ///< texel at which the pen is that keys move
     std::unique_ptr<EditDrag> stroke_;
 };
 

@@ -1,5 +1,6 @@
 #include "workbench/painting/PicturePanel.h"
 
+#include "workbench/colors/ColorCard.h"
 #include "workbench/painting/Canvas.h"
 #include "workbench/painting/PaintView.h"
 #include "workbench/scene/Scene.h"
@@ -11,6 +12,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLocale>
+#include <QScrollArea>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -29,11 +31,21 @@ PicturePanel::PicturePanel(Scene& scene, Canvas& canvas, QWidget* parent)
     surfaces_->setObjectName("surfaces");
     surfaces_->setAccessibleName(tr("Surface"));
     surfaces_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    auto* const nothing =
-        new QLabel(tr("Nothing is painted in this scene yet.\n\"New Surface\" makes something to "
-                      "paint on."));
+    auto* const nothing = new QLabel(
+        tr("Nothing is painted in this scene yet; these are its colours. \"New Surface\" "
+           "makes something to paint on."));
     nothing->setAlignment(Qt::AlignCenter);
-    pages_->addWidget(nothing);
+    nothing->setWordWrap(true);
+    auto* const scroll = new QScrollArea;
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidget(new ColorCard(scene));
+    scroll->setAccessibleName(tr("Colours of the scene"));
+    auto* const empty = new QWidget;
+    auto* const page = new QVBoxLayout(empty);
+    page->addWidget(nothing);
+    page->addWidget(scroll, 1);
+    pages_->addWidget(empty);
     pages_->addWidget(view_);
     auto* const bar = new QHBoxLayout;
     bar->addWidget(surfaces_);
@@ -102,6 +114,7 @@ void PicturePanel::showSurfaces() {
     }
     surfaces_->setEnabled(surfaces_->count() > 0);
     pages_->setCurrentIndex(shown ? 1 : 0);
+    zoom_->setVisible(shown);
 }
 
 void PicturePanel::makeSurface() {
