@@ -1,10 +1,13 @@
 #include "support/sourceDir.h"
 #include "workbench/WindowScene.h"
+#include "workbench/colors/colorMime.h"
+#include "workbench/materials/BoundColors.h"
 #include "workbench/materials/CMFForm.h"
 #include "workbench/materials/ImageField.h"
 #include "workbench/materials/MaterialPanel.h"
 #include "workbench/materials/MetadataTree.h"
 #include "workbench/materials/schemaEdits.h"
+#include "zsg/colors/ColorDB.h"
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/materials/ICMFManager.h"
 
@@ -13,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QTest>
 #include <QTreeWidget>
 #include <QUrl>
@@ -155,6 +159,47 @@ TEST_F(MaterialsTest, BoundColoursFollowAndLeadToTheirColour) {
     EXPECT_EQ(colors(), "diffuse_color=Tan;specular_tint=AntiqueWhite;");
     run("color name Tan Sand");
     EXPECT_EQ(colors(), "diffuse_color=Sand;specular_tint=AntiqueWhite;");
+
+    // A colour that is dropped on a place, or pasted there, is bound to it and to no other.
+    window.showPanel("material");
+    auto& tree = find<BoundColors>("boundColours");
+    window.panel("colours")->select("Gold");
+    find<QAction>("copyColour").trigger();
+    int const entries = stack().count();
+    find<QAction>("bindCopied").trigger();
+    EXPECT_EQ(stack().count(), entries) << "no place was chosen";
+    tree.setCurrentItem(tree.topLevelItem(1));
+    find<QAction>("bindCopied").trigger();
+    EXPECT_EQ(colors(), "diffuse_color=Sand;specular_tint=Gold;");
+    EXPECT_EQ(stack().count(), entries + 1);
+    auto const plum = scene().colorDB()->colors()[1];
+    auto const dragged = makeColorMime(scene(), {plum});
+    tree.model()->dropMimeData(dragged.get(), Qt::CopyAction, -1, -1, tree.model()->index(0, 0));
+    QString const name = QString::fromStdString(scene().colorDB()->colorName(plum));
+    EXPECT_EQ(colors(), "diffuse_color=" + name.toStdString() + ";specular_tint=Gold;");
+    stack().undo();
+    stack().undo();
+    EXPECT_EQ(colors(), "diffuse_color=Sand;specular_tint=AntiqueWhite;");
+}
+
+TEST_F(MaterialsTest, AValueMayHaveLines) {
+    window.showPanel("material");
+    panel().select("Piping");
+    field("Vendor").setFocus();
+    QTest::keyClicks(&field("Vendor"), " &");
+    field("Notes").setFocus();
+    QTest::keyClicks(&field("Notes"), "soft");
+    QTest::keyClick(&field("Notes"), Qt::Key_Return, Qt::ShiftModifier);
+    ASSERT_EQ(fields<QPlainTextEdit>().size(), 1);
+    QTest::keyClicks(fields<QPlainTextEdit>()[0], "grey");
+    scene().endDrags();
+    settle();
+    EXPECT_NE(run("material show Piping").find("soft\\ngrey"), std::string::npos);
+    EXPECT_EQ(field("Vendor").text(), " &Norrland Textiles");
+    EXPECT_EQ(stack().count(), 2);
+    panel().select("Armrest Leather");
+    panel().select("Piping");
+    EXPECT_EQ(fields<QPlainTextEdit>()[0]->toPlainText(), "soft\ngrey");
 }
 
 TEST_F(MaterialsTest, AnotherSchemaRearrangesTheFormAndKeepsWhatIsTyped) {

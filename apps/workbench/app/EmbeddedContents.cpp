@@ -1,6 +1,7 @@
 #include "workbench/app/EmbeddedContents.h"
 
 #include "host/Host.h"
+#include "zsg/materials/ISceneMaterialManager.h"
 
 #include <map>
 
@@ -46,6 +47,10 @@ std::vector<SceneContents::Place> EmbeddedContents::places(nyx::MaterialId mater
         }
     }
     return places;
+}
+
+zsg::IMaterialEdit* EmbeddedContents::materialEdit(nyx::MaterialId material) const {
+    return host_.materialManager().createMaterialEdit(material);
 }
 
 } // namespace workbench

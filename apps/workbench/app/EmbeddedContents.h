@@ -17,6 +17,7 @@ public:
     [[nodiscard]] std::vector<Item> items() const override;
     [[nodiscard]] std::vector<nyx::MaterialId> materials() const override;
     [[nodiscard]] std::vector<Place> places(nyx::MaterialId material) const override;
+    [[nodiscard]] zsg::IMaterialEdit* materialEdit(nyx::MaterialId material) const override;
 
 private:
     app::Host& host_;

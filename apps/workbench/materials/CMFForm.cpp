@@ -3,12 +3,15 @@
 #include "host/cmfAttributeKey.h"
 #include "workbench/materials/ImageField.h"
 
+#include <QEvent>
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextCursor>
 #include <QVBoxLayout>
 
-#include <set>
 #include <utility>
 
 namespace workbench {
@@ -20,6 +23,32 @@ constexpr int longestValue = 1 << 20;
 
 } // namespace
 
+QWidget* CMFForm::Field::widget() const { return line ? static_cast<QWidget*>(line) : lines; }
+
+QString CMFForm::Field::text() const { return line ? line->text() : lines->toPlainText(); }
+
+void CMFForm::Field::setText(QString const& text) const {
+    if (line) {
+        line->setText(text);
+        line->setCursorPosition(0);
+    } else {
+        lines->setPlainText(text);
+        lines->document()->setModified(false);
+    }
+}
+
+bool CMFForm::Field::isModified() const {
+    return line ? line->isModified() : lines->document()->isModified();
+}
+
+void CMFForm::Field::setModified(bool modified) const {
+    if (line) {
+        line->setModified(modified);
+    } else {
+        lines->document()->setModified(modified);
+    }
+}
+
 CMFForm::CMFForm(QWidget* parent) : QWidget(parent) {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -27,7 +56,8 @@ CMFForm::CMFForm(QWidget* parent) : QWidget(parent) {
     build();
 }
 
-std::vector<CMFForm::Row> CMFForm::rowsOf(zsg::ZCMFSchema const& schema, Values const& values) {
+std::vector<CMFForm::Row> CMFForm::rowsOf(zsg::ZCMFSchema const& schema,
+                                          Values const& values) const {
     std::vector<Row> rows;
     std::set<std::string> known;
     for (std::size_t i = 0; i < schema.attributes.size(); ++i) {
@@ -43,13 +73,20 @@ std::vector<CMFForm::Row> CMFForm::rowsOf(zsg::ZCMFSchema const& schema, Values 
             rows.push_back({key, QString::fromStdString(key)});
         }
     }
+    for (Row& row : rows) {
+        auto const value = values.find(row.key);
+        bool const hasLines =
+            value != values.end() && value->second.find('\n') != std::string::npos;
+        row.isLong = !row.isImage && (hasLines || longKeys_.contains(row.key));
+    }
     return rows;
 }
 
 void CMFForm::build() {
     // It may be a field of the page that has just been confirmed.
     for (Field const& field : fields_) {
-        field.line->disconnect(this);
+        field.widget()->disconnect(this);
+        field.widget()->removeEventFilter(this);
     }
     fields_.clear();
     if (page_) {
@@ -67,32 +104,85 @@ void CMFForm::build() {
             heading->setToolTip(tr("What the material stores and the schema does not know"));
             form->addRow(heading);
         }
-        Field field;
-        QWidget* editor = nullptr;
-        if (row.isImage) {
-            field.image = new ImageField(page_);
-            field.line = &field.image->line();
-            editor = field.image;
-            connect(field.image, &ImageField::chosen, this,
-                    [this, key = row.key](QString const& path) {
-                        commit();
-                        emit edited(key, path.toStdString());
-                    });
-        } else {
-            editor = field.line = new QLineEdit(page_);
-        }
-        field.line->setMaxLength(longestValue);
-        field.line->setAccessibleName(row.label);
-        connect(field.line, &QLineEdit::editingFinished, this, [this, i] { commit(i); });
+        Field const field = makeField(i);
         // As it is: an attribute's name may hold what labels take for a shortcut or for markup.
         auto* const label = new QLabel(page_);
         label->setTextFormat(Qt::PlainText);
         label->setText(row.label);
         label->setWordWrap(true);
-        form->addRow(label, editor);
+        form->addRow(label, field.image ? field.image : field.widget());
         fields_.push_back(field);
     }
     static_cast<QVBoxLayout*>(layout())->insertWidget(0, page_);
+}
+
+CMFForm::Field CMFForm::makeField(std::size_t row) {
+    Field field;
+    QString const& name = rows_[row].label;
+    if (rows_[row].isLong) {
+        field.lines = new QPlainTextEdit(page_);
+        field.lines->setFixedHeight(5 * fontMetrics().lineSpacing());
+        field.lines->setTabChangesFocus(true);
+    } else if (rows_[row].isImage) {
+        field.image = new ImageField(page_);
+        field.line = &field.image->line();
+        connect(field.image, &ImageField::chosen, this,
+                [this, key = rows_[row].key](QString const& path) {
+                    commit();
+                    emit edited(key, path.toStdString());
+                });
+    } else {
+        field.line = new QLineEdit(page_);
+        field.line->setToolTip(tr("Shift+Return: several lines"));
+    }
+    if (field.line) {
+        field.line->setMaxLength(longestValue);
+        connect(field.line, &QLineEdit::editingFinished, this, [this, row] { commit(row); });
+    }
+    field.widget()->setAccessibleName(name);
+    field.widget()->installEventFilter(this);
+    return field;
+}
+
+/// Lines are confirmed when they are left; a line becomes lines.
+bool CMFForm::eventFilter(QObject* watched, QEvent* event) {
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        if (watched == fields_[i].lines && event->type() == QEvent::FocusOut) {
+            commit(i);
+            break;
+        }
+        if (watched == fields_[i].line && event->type() == QEvent::KeyPress && !fields_[i].image) {
+            auto const& key = static_cast<QKeyEvent const&>(*event);
+            bool const isReturn = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+            if (isReturn && key.modifiers().testFlag(Qt::ShiftModifier)) {
+                makeLong(i);
+                return true;
+            }
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void CMFForm::makeLong(std::size_t row) {
+    std::vector<QString> texts;
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        texts.push_back(fields_[i].text());
+        if (i != row) {
+            commit(i);
+        }
+    }
+    bool const wasTyped = fields_[row].isModified();
+    rows_[row].isLong = true;
+    longKeys_.insert(rows_[row].key);
+    build();
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        fields_[i].setText(texts[i]);
+    }
+    QPlainTextEdit& lines = *fields_[row].lines;
+    lines.setFocus();
+    lines.moveCursor(QTextCursor::End);
+    lines.insertPlainText("\n");
+    lines.document()->setModified(wasTyped);
 }
 
 void CMFForm::show(zsg::ZCMFSchema const& schema, Values const& values, bool sameMaterial) {
@@ -102,13 +192,12 @@ void CMFForm::show(zsg::ZCMFSchema const& schema, Values const& values, bool sam
         build();
     }
     for (std::size_t i = 0; i < rows_.size(); ++i) {
-        QLineEdit& line = *fields_[i].line;
+        Field const& field = fields_[i];
         auto const found = values.find(rows_[i].key);
         QString const text =
             found == values.end() ? QString() : QString::fromStdString(found->second);
-        if (!(sameMaterial && line.isModified()) && line.text() != text) {
-            line.setText(text);
-            line.setCursorPosition(0);
+        if (!(sameMaterial && field.isModified()) && field.text() != text) {
+            field.setText(text);
         }
         if (fields_[i].image) {
             fields_[i].image->showPicture();
@@ -117,10 +206,10 @@ void CMFForm::show(zsg::ZCMFSchema const& schema, Values const& values, bool sam
 }
 
 void CMFForm::commit(std::size_t row) {
-    QLineEdit& line = *fields_[row].line;
-    if (line.isModified()) {
-        line.setModified(false);
-        emit edited(rows_[row].key, line.text().toStdString());
+    Field const& field = fields_[row];
+    if (field.isModified()) {
+        field.setModified(false);
+        emit edited(rows_[row].key, field.text().toStdString());
     }
 }
 
@@ -132,13 +221,13 @@ void CMFForm::commit() {
 
 void CMFForm::drop() {
     for (Field const& field : fields_) {
-        field.line->setModified(false);
+        field.setModified(false);
     }
 }
 
 int CMFForm::currentAttribute() const {
     for (std::size_t i = 0; i < fields_.size(); ++i) {
-        if (fields_[i].line->hasFocus()) {
+        if (fields_[i].widget()->hasFocus()) {
             return rows_[i].attribute;
         }
     }
@@ -148,7 +237,7 @@ int CMFForm::currentAttribute() const {
 bool CMFForm::focus(QString const& label) {
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         if (rows_[i].label == label) {
-            fields_[i].line->setFocus();
+            fields_[i].widget()->setFocus();
             return true;
         }
     }

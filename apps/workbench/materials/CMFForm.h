@@ -6,12 +6,14 @@
 #include <QWidget>
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
 class QFormLayout;
 class QLabel;
 class QLineEdit;
+class QPlainTextEdit;
 
 namespace workbench {
 
@@ -19,7 +21,8 @@ class ImageField;
 
 /// The CMF values of a material as fields: those of a schema's visible attributes in its order, and
 /// below them what the schema does not know. A value is reported when it was typed and confirmed,
-/// or left; looking at one changes nothing.
+/// or left; looking at one changes nothing. A value of several lines has a field of several lines,
+/// and Shift+Return in a line makes it one.
 class CMFForm final : public QWidget {
     Q_OBJECT
 
@@ -40,6 +43,9 @@ public:
     /// By label; false when there is none.
     bool focus(QString const& label);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 signals:
     /// An empty value takes the key out.
     void edited(std::string const& key, std::string const& value);
@@ -50,20 +56,32 @@ private:
         QString label;
         int attribute = -1; ///< place in the schema
         bool isImage = false;
+        bool isLong = false; ///< several lines
 
         friend bool operator==(Row const&, Row const&) = default;
     };
+    /// A line or lines.
     struct Field {
         QLineEdit* line = nullptr;
+        QPlainTextEdit* lines = nullptr;
         ImageField* image = nullptr;
+
+        [[nodiscard]] QWidget* widget() const;
+        [[nodiscard]] QString text() const;
+        void setText(QString const& text) const;
+        [[nodiscard]] bool isModified() const;
+        void setModified(bool modified) const;
     };
 
-    [[nodiscard]] static std::vector<Row> rowsOf(zsg::ZCMFSchema const& schema,
-                                                 Values const& values);
+    [[nodiscard]] std::vector<Row> rowsOf(zsg::ZCMFSchema const& schema,
+                                          Values const& values) const;
     void build();
+    [[nodiscard]] Field makeField(std::size_t row);
+    void makeLong(std::size_t row);
     void commit(std::size_t row);
 
     std::vector<Row> rows_;
+    std::set<std::string> longKeys_; ///< that became several lines here
     std::vector<Field> fields_;
     QWidget* page_ = nullptr;
 };

@@ -1,7 +1,7 @@
 #include "workbench/materials/MaterialPanel.h"
 
 #include "host/DescribeMaterialCommand.h"
-#include "workbench/colors/swatch.h"
+#include "workbench/materials/BoundColors.h"
 #include "workbench/materials/CMFForm.h"
 #include "workbench/materials/MetadataTree.h"
 #include "workbench/materials/schemaEdits.h"
@@ -18,14 +18,12 @@
 #include <QAction>
 #include <QComboBox>
 #include <QFileDialog>
-#include <QHeaderView>
 #include <QInputDialog>
 #include <QMenu>
 #include <QMessageBox>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QToolButton>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -39,7 +37,7 @@ MaterialPanel::MaterialPanel(Scene& scene, QWidget* parent)
       tabs_(new QTabWidget(this)),
       form_(new CMFForm),
       metadata_(new MetadataTree),
-      colors_(new QTreeWidget) {
+      colors_(new BoundColors(scene)) {
     material_->setObjectName("material");
     material_->setAccessibleName(tr("Material"));
     material_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -54,6 +52,10 @@ MaterialPanel::MaterialPanel(Scene& scene, QWidget* parent)
     layout->addWidget(tabs_, 1);
     connect(material_, &QComboBox::currentIndexChanged, this, &MaterialPanel::read);
     connect(&scene, &Scene::changed, this, &MaterialPanel::follow);
+    // No event tells of a place that was bound.
+    connect(
+        &scene, &Scene::historyChanged, colors_, [this] { colors_->show(current()); },
+        Qt::QueuedConnection);
     connect(&scene, &Scene::dragsEnding, form_, qOverload<>(&CMFForm::commit));
     connect(&scene, &Scene::rootEnding, form_, &CMFForm::drop);
     readMaterials();
@@ -81,11 +83,6 @@ void MaterialPanel::makeTabs() {
         changeDescription(
             [&](zsg::IMaterialDescriptor& description) { description.setMetadata(metadata); });
     });
-    colors_->setObjectName("boundColours");
-    colors_->setAccessibleName(tr("Colours"));
-    colors_->setRootIsDecorated(false);
-    colors_->setHeaderLabels({tr("Parameter"), tr("Colour")});
-    colors_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     connect(colors_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem const* item) {
         emit colorWanted(nyx::ColorId(item->data(1, Qt::UserRole).toUInt()));
     });
@@ -171,7 +168,7 @@ void MaterialPanel::follow(Changes const& changes) {
     } else if (changes.materials) {
         read();
     } else if (!changes.colors.empty()) {
-        showColors();
+        colors_->show(current());
     }
 }
 
@@ -202,29 +199,7 @@ void MaterialPanel::read() {
                     sameMaterial);
     }
     metadata_->show(description ? description->metadata() : nlohmann::json());
-    showColors();
-}
-
-void MaterialPanel::showColors() {
-    colors_->clear();
-    if (!scene_.contents()) {
-        return;
-    }
-    for (SceneContents::Place const& place : scene_.contents()->places(current())) {
-        Swatch const swatch = swatchOf(scene_.colorDB(), place.color);
-        auto* const item = new QTreeWidgetItem(colors_);
-        item->setText(0, place.parameter);
-        item->setToolTip(0, tr("%1 of node %2").arg(place.parameter, QString::number(place.node)));
-        item->setData(1, Qt::UserRole, place.color.toUint());
-        if (!swatch.id.isValid()) {
-            item->setText(1, tr("none"));
-            continue;
-        }
-        item->setText(1, shownName(swatch.name));
-        item->setIcon(1, swatchIcon(swatch, fontMetrics().height()));
-        item->setToolTip(1, describe(swatch));
-        item->setData(1, Qt::AccessibleTextRole, describe(swatch));
-    }
+    colors_->show(current());
 }
 
 void MaterialPanel::changeDescription(

@@ -10,7 +10,6 @@
 class QBoxLayout;
 class QComboBox;
 class QTabWidget;
-class QTreeWidget;
 
 namespace zsg {
 class IMaterialDescriptor;
@@ -18,6 +17,7 @@ class IMaterialDescriptor;
 
 namespace workbench {
 
+class BoundColors;
 class CMFForm;
 class MetadataTree;
 class Scene;
@@ -49,7 +49,6 @@ private:
     void follow(Changes const& changes);
     void readMaterials();
     void read();
-    void showColors();
     void changeDescription(std::function<void(zsg::IMaterialDescriptor&)> const& change);
     void saveSchema();
     void nameAttribute(int attribute);
@@ -60,7 +59,7 @@ private:
     QTabWidget* tabs_;
     CMFForm* form_;
     MetadataTree* metadata_;
-    QTreeWidget* colors_;
+    BoundColors* colors_;
     nyx::MaterialId shown_;
 };
 

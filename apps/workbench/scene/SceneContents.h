@@ -7,6 +7,10 @@
 #include <cstdint>
 #include <vector>
 
+namespace zsg {
+class IMaterialEdit;
+}
+
 namespace workbench {
 
 /// What a scene holds that the library keeps no list of, because the renderer does. The program
@@ -36,6 +40,8 @@ public:
     [[nodiscard]] virtual std::vector<nyx::MaterialId> materials() const = 0;
     /// Empty for an unknown material.
     [[nodiscard]] virtual std::vector<Place> places(nyx::MaterialId material) const = 0;
+    /// By which its places are bound, so that it can be undone; null for an unknown material.
+    [[nodiscard]] virtual zsg::IMaterialEdit* materialEdit(nyx::MaterialId material) const = 0;
 };
 
 } // namespace workbench

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "nyxrender/Ids.h"
+
+#include <QTreeWidget>
+
+namespace workbench {
+
+class Scene;
+
+/// The places of a material and the colours that are bound to them. A colour that is dropped on a
+/// place, or pasted while it is the current one, is bound to it; that can be undone.
+class BoundColors final : public QTreeWidget {
+    Q_OBJECT
+
+public:
+    explicit BoundColors(Scene& scene, QWidget* parent = nullptr);
+
+    void show(nyx::MaterialId material);
+
+protected:
+    [[nodiscard]] QStringList mimeTypes() const override;
+    [[nodiscard]] Qt::DropActions supportedDropActions() const override;
+    bool dropMimeData(QTreeWidgetItem* parent, int index, QMimeData const* mime,
+                      Qt::DropAction action) override;
+
+private:
+    bool bind(QTreeWidgetItem const* item, QMimeData const* mime);
+
+    Scene& scene_;
+    nyx::MaterialId material_;
+};
+
+} // namespace workbench
