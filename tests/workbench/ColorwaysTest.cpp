@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QListView>
 #include <QMimeData>
+#include <QStatusBar>
 #include <QTableView>
 #include <QToolButton>
 
@@ -72,6 +73,7 @@ TEST_F(ColorwaysTest, SubColoursAreDraggedRemovedAndActivated) {
     find<QToolButton>("lockSubs").setChecked(true);
     drop(*black, Qt::MoveAction, -1);
     EXPECT_EQ(stack().count(), 2) << "locked";
+    EXPECT_TRUE(window.statusBar()->currentMessage().contains("locked"));
     find<QToolButton>("lockSubs").setChecked(false);
 
     list.setCurrentIndex(list.model()->index(2, 0));
@@ -122,6 +124,8 @@ TEST_F(ColorwaysTest, TheBoardFollowsEveryEdit) {
     find<QAction>("applyColorway").trigger();
     settle();
     EXPECT_EQ(columnTexts(1).substr(0, 15), "Studio, active:");
+    window.panel("colours")->select("Cable");
+    EXPECT_EQ(subs(), "LightGray *Black FireBrick ") << "the swatches follow";
     auto& panel = static_cast<ColorwaysPanel&>(*window.panel("colorways"));
     auto const cover = scene().colorDB()->multiColors()[0];
     auto const other = scene().colorDB()->colorFromId(cover).getSubColorId(0);

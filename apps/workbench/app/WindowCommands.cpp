@@ -5,6 +5,11 @@
 #include "workbench/app/MainWindow.h"
 #include "workbench/scene/Panel.h"
 
+#include <QAbstractItemView>
+#include <QCoreApplication>
+
+#include <ostream>
+
 namespace workbench {
 
 namespace {
@@ -46,6 +51,33 @@ void expectRows(MainWindow& window, app::Arguments& arguments) {
     }
 }
 
+/// Where a widget, or a row of it, is on the display: for programs that move its pointer.
+void where(MainWindow& window, app::Arguments& arguments) {
+    std::string const name = arguments.word("the name of a widget");
+    auto* const widget = window.findChild<QWidget*>(QString::fromStdString(name));
+    if (!widget) {
+        throw app::CommandError("there is no widget \"" + name + '"');
+    }
+    QRect place = widget->rect();
+    QWidget const* within = widget;
+    if (auto* const view = qobject_cast<QAbstractItemView*>(widget); view && !arguments.empty()) {
+        std::string const text = arguments.word("the text of a row");
+        QModelIndexList const found =
+            view->model()->match(view->model()->index(0, 0), Qt::DisplayRole,
+                                 QString::fromStdString(text), 1, Qt::MatchExactly);
+        if (found.isEmpty()) {
+            throw app::CommandError("there is no row \"" + text + '"');
+        }
+        view->scrollTo(found.front());
+        place = view->visualRect(found.front());
+        within = view->viewport();
+    }
+    arguments.done();
+    QPoint const at = within->mapToGlobal(place.center());
+    window.document().host().out() << "  " << name << ' ' << at.x() << ' ' << at.y() << ' '
+                                   << place.width() << ' ' << place.height() << '\n';
+}
+
 } // namespace
 
 bool runWindowCommand(MainWindow& window, std::vector<std::string> const& words) {
@@ -56,11 +88,15 @@ bool runWindowCommand(MainWindow& window, std::vector<std::string> const& words)
     window.document().scene().flush();
     window.document().scene().noteCommands();
     app::Arguments arguments({words.begin() + 1, words.end()});
-    std::string const what = arguments.oneOf({"show", "select", "grab", "expect"});
+    std::string const what = arguments.oneOf({"show", "select", "grab", "expect", "where"});
     if (what == "grab") {
         grab(window, arguments);
     } else if (what == "expect") {
         expectRows(window, arguments);
+    } else if (what == "where") {
+        // What the display makes of the window's place takes a moment.
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 100);
+        where(window, arguments);
     } else if (what == "show") {
         QString name;
         takePanel(window, arguments, &name);

@@ -46,16 +46,17 @@ int runBatch(CommandLine const& line, MainWindow& window) {
 } // namespace
 
 int runWorkbench(CommandLine const& line) {
+    // First: a window that is there follows a turn of the event loop later, behind a script.
+    if (!line.palette.isEmpty()) {
+        MainWindow::setPaletteKind(line.palette == "dark" ? MainWindow::PaletteKind::Dark
+                                                          : MainWindow::PaletteKind::Light);
+    }
     QString const folder =
         QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/autosave";
     Document document(folder);
     MainWindow window(document);
     document.interpreter().setOwnCommands(
         [&](std::vector<std::string> const& words) { return runWindowCommand(window, words); });
-    if (!line.palette.isEmpty()) {
-        MainWindow::setPaletteKind(line.palette == "dark" ? MainWindow::PaletteKind::Dark
-                                                          : MainWindow::PaletteKind::Light);
-    }
     if (!line.scene.isEmpty()) {
         if (std::string const message = document.open(line.scene); !message.empty()) {
             return fail(message);
