@@ -61,7 +61,7 @@ TEST(Completion, FollowsTheCommandAndItsArguments) {
         {"color drag Teal #fff000 i", "color drag Teal #fff000 in |"},
         {"color drag Teal 0.1 0.2 0.3 i", "color drag Teal 0.1 0.2 0.3 in |"},
         {"color drag Teal rgb(1, 2, 3) i", "color drag Teal rgb(1, 2, 3) in |"},
-        {"color set Teal 1 1 1 1 name X l", "color set Teal 1 1 1 1 name X last |"},
+        {"color set Teal 1 1 1 1 name X m", "color set Teal 1 1 1 1 name X merge |"},
         {"multi switch Upholstery Li", "multi switch Upholstery Linen |"},
         {"multi remove Upholstery Linen S", "multi remove Upholstery Linen S|Sienna,SteelBlue,"},
         {"colorway set Studio Uph", "colorway set Studio Upholstery:|"},

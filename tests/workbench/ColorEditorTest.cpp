@@ -138,7 +138,7 @@ TEST_F(ColorEditorTest, EveryWayOutEndsTheDrag) {
 }
 
 TEST_F(ColorEditorTest, AnEntryThatWasLeftOpenStays) {
-    run("color set Teal 0.5 0.5 0.5"); // a script says nothing of the last step
+    run("color set Teal 0.5 0.5 0.5 merge");
     std::string const before = valueOf("Teal");
     dragHue(4);
     QTest::keyClick(&wheel(), Qt::Key_Escape);

@@ -134,7 +134,7 @@ void set(Host& host, Arguments& arguments) {
     nyxColor_rgba const rgba = takeRgba(host, arguments);
     std::string const name = arguments.flag("name") ? arguments.word("a name") : std::string();
     auto const merge =
-        arguments.flag("last") ? zsg::AllowForwardUndoMerge::No : zsg::AllowForwardUndoMerge::Yes;
+        arguments.flag("merge") ? zsg::AllowForwardUndoMerge::Yes : zsg::AllowForwardUndoMerge::No;
     arguments.done();
     controller(host).setColor(id, ZColor(rgba, name), merge);
 }
@@ -223,8 +223,9 @@ constexpr Command table[] = {
      "color materials Upholstery direct", materials},
     {"color uses", "[COLOR]", "count the materials in use that use a colour", "color uses Linen",
      uses},
-    {"color set", "COLOR RGBA [name NAME] [last]",
-     "set a value; the next one merges unless this is the last", "color set Teal #00a0a0", set},
+    {"color set", "COLOR RGBA [name NAME] [merge]",
+     "set a value; merge: the next one joins this edit, whatever colour it sets",
+     "color set Teal #00a0a0", set},
     {"color drag", "COLOR RGBA in STEPS", "set a value in steps that merge, as a picker does",
      "color drag Teal rgb(0, 120, 140) in 20", drag},
     {"color name", "COLOR NAME", "rename a colour", "color name Teal Petrol", name},
