@@ -72,10 +72,9 @@ zsg_debian_package(tools zsg-tools graphics "${same_version}"
     "This package has zsg-console, which works on scenes by commands, and\nexamples.")
 if(TARGET zsg-workbench) # of its own, so that a console needs no window system
     list(APPEND CPACK_COMPONENTS_ALL workbench)
-    # Its brush presets are among the examples, Qt's own words for OK and Cancel in Qt's package.
-    zsg_debian_package(workbench zsg-workbench graphics
-        "${same_version}, zsg-tools (= ${full_version})"
+    zsg_debian_package(workbench zsg-workbench graphics "${same_version}"
         "This package has zsg-workbench, a window that shows and edits scenes.")
+    # Qt's own words, such as Cancel.
     set(CPACK_DEBIAN_WORKBENCH_PACKAGE_RECOMMENDS qt6-translations-l10n)
 endif()
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS libzscenegraph-doc)

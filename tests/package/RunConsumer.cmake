@@ -19,7 +19,7 @@ file(RENAME ${WORK_DIR}/prefix ${prefix})
 # What is promised, file by file: a header that slips in is a promise that nobody made.
 if(INSTALLED)
     file(GLOB_RECURSE found LIST_DIRECTORIES false RELATIVE ${prefix} ${prefix}/*)
-    list(FILTER found EXCLUDE REGEX "^share/(doc|zscenegraph/examples)/")
+    list(FILTER found EXCLUDE REGEX "^share/(doc|zscenegraph/(brushes|examples))/")
     list(TRANSFORM found REPLACE "Targets-(debug|release|relwithdebinfo|noconfig)" "Targets-CONFIG")
     # Where the debugger's views stand follows the prefix that was configured.
     list(TRANSFORM found REPLACE "gdb/auto-load/.*/" "gdb/auto-load/")
