@@ -1,3 +1,4 @@
+#include "workbench/CountingProxy.h"
 #include "workbench/WindowScene.h"
 #include "workbench/history/HistoryModel.h"
 #include "zsg/colors/ColorController.h"
@@ -8,7 +9,7 @@
 #include <QAbstractItemModelTester>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QTreeView>
+#include <QTableView>
 
 #include <random>
 
@@ -37,10 +38,10 @@ std::string rows(QAbstractItemModel const& model) {
 } // namespace
 
 TEST_F(HistoryTest, ShowsWhatIsDoneUndoneAndSaved) {
-    auto& view = find<QTreeView>("historyView");
+    auto& view = find<QTableView>("historyView");
     QAbstractItemModel& model = *view.model();
     EXPECT_EQ(rows(model), "[Start*]");
-    run("color name Teal Petrol");
+    run("color name 1 Petrol");
     run("color name Linen Flax");
     EXPECT_EQ(rows(model), " Start*  Set Color name (Petrol) [Set Color name (Flax)]");
     EXPECT_EQ(find<QAction>("undo").text(), "&Undo Set Color name (Flax)");
@@ -97,6 +98,27 @@ TEST_F(HistoryTest, FollowsEveryTurnOfTheStack) {
         }
         ASSERT_EQ(rows(model), rows(HistoryModel(scene()))) << i;
     }
+}
+
+TEST_F(HistoryTest, APushCostsWhatIsSeen) {
+    auto& view = find<QTableView>("historyView");
+    window.showPanel("history");
+    auto& counting = *new CountingProxy(view.model(), &window);
+    view.setModel(&counting);
+    auto const askedByPushes = [&](int depth) {
+        while (stack().count() < depth) {
+            run("color name 1 " + std::to_string(stack().count()));
+        }
+        counting.cells = counting.rows = 0;
+        for (int i = 0; i < 10; ++i) {
+            run("color name 1 A" + std::to_string(i));
+        }
+        EXPECT_TRUE(view.visualRect(view.currentIndex()).intersects(view.viewport()->rect()));
+        return counting.cells + counting.rows;
+    };
+    int const few = askedByPushes(100);
+    EXPECT_GT(few, 0);
+    EXPECT_LT(askedByPushes(400), few + few / 10) << "whatever the depth";
 }
 
 TEST_F(HistoryTest, AStepThatFailsIsSaid) {

@@ -132,7 +132,7 @@ TEST_F(ParametersTest, AnEditIsOneEntryAndOnlyAnEditIsOne) {
     ASSERT_NE(label, nullptr);
     QTest::mousePress(label, Qt::LeftButton, {}, QPoint(2, 5));
     QTest::mouseMove(label, QPoint(40, 5));
-    QTest::qWait(40);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return stack().index() > 0; }));
     EXPECT_GT(spin("opacity").value(), 0);
     QTest::keyClick(label, Qt::Key_Escape);
     settle();

@@ -65,7 +65,7 @@ TEST_F(ValuesTest, AWeaveIsPaintedInOneEntry) {
     EXPECT_EQ(run("weave show cloth").substr(0, 6), "  ..##");
     int const entries = stack().count();
     QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, at(3, 0).toPoint());
-    QTest::qWait(30);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return stack().count() > entries; }));
     QTest::keyClick(grid.viewport(), Qt::Key_Escape);
     QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, at(3, 0).toPoint());
     EXPECT_EQ(stack().count(), entries);

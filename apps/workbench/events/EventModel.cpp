@@ -3,6 +3,8 @@
 #include "workbench/scene/Scene.h"
 #include "zsg/core/ISceneGraph.h"
 
+#include <QDateTime>
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -54,7 +56,7 @@ QString EventModel::cell(RecordedEvent const& event, int column) const {
     case PayloadColumn:
         return event.payload;
     default:
-        return event.time.toString(QStringLiteral("HH:mm:ss.zzz"));
+        return QDateTime::fromMSecsSinceEpoch(event.time).toString(QStringLiteral("HH:mm:ss.zzz"));
     }
 }
 

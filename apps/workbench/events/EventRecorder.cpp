@@ -4,6 +4,8 @@
 #include "zsg/core/IEventQueue.h"
 #include "zsg/core/eventPayloadText.h"
 
+#include <QDateTime>
+
 #include <utility>
 
 namespace workbench {
@@ -20,7 +22,7 @@ void EventRecorder::onEvent(zsg::Event const* event) {
     // Not eventTypeString(), which has no names for the kinds of light layers.
     taken_.events.push_back({event->eventId(), QString::fromUtf8(zsg::eventKindText(event->type())),
                              QString::fromStdString(zsg::eventPayloadText(*event)),
-                             QDateTime::currentDateTime()});
+                             QDateTime::currentMSecsSinceEpoch()});
     if (taken_.events.size() > mostKept) {
         taken_.events.pop_front();
         ++taken_.dropped;

@@ -3,7 +3,6 @@
 #include "zsg/core/IEventListener.h"
 #include "zsg/core/Subscription.h"
 
-#include <QDateTime>
 #include <QString>
 
 #include <cstddef>
@@ -21,7 +20,7 @@ struct RecordedEvent {
     unsigned id = 0;
     QString type;
     QString payload;
-    QDateTime time;
+    qint64 time = 0; ///< milliseconds since 1970: many come at once, few are read
 };
 
 /// Writes down every event of a queue until somebody takes them. It keeps the newest ones and

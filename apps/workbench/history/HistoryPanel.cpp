@@ -5,7 +5,8 @@
 
 #include "zcore/ZUndoStack.h"
 
-#include <QTreeView>
+#include <QHeaderView>
+#include <QTableView>
 #include <QVBoxLayout>
 
 namespace workbench {
@@ -14,13 +15,20 @@ HistoryPanel::HistoryPanel(Scene& scene, QWidget* parent)
     : Panel(parent),
       scene_(scene),
       model_(new HistoryModel(scene, this)),
-      view_(new QTreeView(this)) {
-    // A tree, because a list view measures all rows again whenever one of them changes.
+      view_(new QTableView(this)) {
+    // A table, because lists and trees lay all of their rows out again for each that comes.
     view_->setObjectName("historyView");
     view_->setAccessibleName(tr("History"));
-    view_->setHeaderHidden(true);
-    view_->setRootIsDecorated(false);
-    view_->setUniformRowHeights(true);
+    view_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    view_->setSelectionMode(QAbstractItemView::SingleSelection);
+    view_->setTabKeyNavigation(false);
+    view_->setShowGrid(false);
+    view_->setWordWrap(false);
+    view_->horizontalHeader()->hide();
+    view_->horizontalHeader()->setStretchLastSection(true);
+    view_->verticalHeader()->hide();
+    view_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    view_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 5 / 4);
     view_->setModel(model_);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -44,7 +52,7 @@ bool HistoryPanel::select(QString const& text) {
 
 void HistoryPanel::showCurrent() {
     following_ = true;
-    view_->setCurrentIndex(model_->index(model_->currentRow()));
+    view_->setCurrentIndex(view_->model()->index(model_->currentRow(), 0));
     following_ = false;
 }
 

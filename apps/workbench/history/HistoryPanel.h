@@ -2,7 +2,7 @@
 
 #include "workbench/scene/Panel.h"
 
-class QTreeView;
+class QTableView;
 
 namespace workbench {
 
@@ -25,7 +25,7 @@ private:
 
     Scene& scene_;
     HistoryModel* model_;
-    QTreeView* view_;
+    QTableView* view_;
     bool following_ = false; ///< the view follows the history, not the other way round
 };
 

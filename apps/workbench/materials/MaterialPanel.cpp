@@ -25,6 +25,7 @@
 #include <QTabWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <nlohmann/json.hpp>
 
 #include <utility>
 

@@ -1,6 +1,7 @@
 #include "workbench/materials/MetadataTree.h"
 
 #include <QHeaderView>
+#include <nlohmann/json.hpp>
 
 #include <utility>
 
@@ -24,9 +25,27 @@ QString textOf(nlohmann::json const& value) {
                           : value.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
 }
 
+void fill(QTreeWidgetItem& parent, nlohmann::json const& value, Pointer const& place) {
+    for (auto const& [key, member] : value.items()) {
+        Pointer const below =
+            value.is_array() ? place / static_cast<std::size_t>(std::stoull(key)) : place / key;
+        auto* const item = new QTreeWidgetItem(&parent);
+        item->setText(KeyColumn, QString::fromStdString(key));
+        item->setData(KeyColumn, placeRole, QString::fromStdString(below.to_string()));
+        if (member.is_structured() && !member.empty()) {
+            fill(*item, member, below);
+        } else {
+            item->setText(ValueColumn, textOf(member));
+            item->setToolTip(ValueColumn, textOf(member));
+            item->setFlags(item->flags() | Qt::ItemIsEditable);
+        }
+    }
+}
+
 } // namespace
 
-MetadataTree::MetadataTree(QWidget* parent) : QTreeWidget(parent) {
+MetadataTree::MetadataTree(QWidget* parent)
+    : QTreeWidget(parent), metadata_(std::make_unique<nlohmann::json>()) {
     setColumnCount(2);
     setHeaderLabels({tr("Key"), tr("Value")});
     setUniformRowHeights(true);
@@ -45,13 +64,15 @@ MetadataTree::MetadataTree(QWidget* parent) : QTreeWidget(parent) {
     });
 }
 
+MetadataTree::~MetadataTree() = default;
+
 void MetadataTree::show(nlohmann::json const& metadata) {
-    if (metadata == metadata_) {
+    if (metadata == *metadata_) {
         return;
     }
     filling_ = true;
     clear();
-    metadata_ = metadata;
+    *metadata_ = metadata;
     if (metadata.is_structured()) {
         fill(*invisibleRootItem(), metadata, Pointer());
     } else if (!metadata.is_null()) {
@@ -63,26 +84,8 @@ void MetadataTree::show(nlohmann::json const& metadata) {
     filling_ = false;
 }
 
-void MetadataTree::fill(QTreeWidgetItem& parent, nlohmann::json const& value,
-                        Pointer const& place) {
-    for (auto const& [key, member] : value.items()) {
-        Pointer const below =
-            value.is_array() ? place / static_cast<std::size_t>(std::stoull(key)) : place / key;
-        auto* const item = new QTreeWidgetItem(&parent);
-        item->setText(KeyColumn, QString::fromStdString(key));
-        item->setData(KeyColumn, placeRole, QString::fromStdString(below.to_string()));
-        if (member.is_structured() && !member.empty()) {
-            fill(*item, member, below);
-        } else {
-            item->setText(ValueColumn, textOf(member));
-            item->setToolTip(ValueColumn, textOf(member));
-            item->setFlags(item->flags() | Qt::ItemIsEditable);
-        }
-    }
-}
-
 void MetadataTree::take(QTreeWidgetItem* item) {
-    nlohmann::json changed = metadata_;
+    nlohmann::json changed = *metadata_;
     nlohmann::json& value = changed[placeOf(*item)];
     std::string const text = item->text(ValueColumn).toStdString();
     if (value.is_string()) {
@@ -91,13 +94,13 @@ void MetadataTree::take(QTreeWidgetItem* item) {
         nlohmann::json const read = nlohmann::json::parse(text, nullptr, false);
         value = read.is_discarded() ? nlohmann::json(text) : read;
     }
-    if (changed != metadata_) {
+    if (changed != *metadata_) {
         emit edited(changed);
     }
 }
 
 void MetadataTree::add(QString const& key) {
-    nlohmann::json changed = metadata_.is_null() ? nlohmann::json::object() : metadata_;
+    nlohmann::json changed = metadata_->is_null() ? nlohmann::json::object() : *metadata_;
     std::string const name = key.toStdString();
     if (changed.is_object() && !changed.contains(name)) {
         changed[name] = "";
@@ -110,7 +113,7 @@ void MetadataTree::removeCurrent() {
     if (!item) {
         return;
     }
-    nlohmann::json changed = metadata_;
+    nlohmann::json changed = *metadata_;
     Pointer const place = placeOf(*item);
     if (place.empty()) {
         changed = nullptr;

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QTreeWidget>
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
+
+#include <memory>
 
 namespace workbench {
 
@@ -12,6 +14,7 @@ class MetadataTree final : public QTreeWidget {
 
 public:
     explicit MetadataTree(QWidget* parent = nullptr);
+    ~MetadataTree() override;
 
     /// Null is an empty tree.
     void show(nlohmann::json const& metadata);
@@ -23,11 +26,9 @@ signals:
     void edited(nlohmann::json const& metadata);
 
 private:
-    void fill(QTreeWidgetItem& parent, nlohmann::json const& value,
-              nlohmann::json::json_pointer const& place);
     void take(QTreeWidgetItem* item);
 
-    nlohmann::json metadata_;
+    std::unique_ptr<nlohmann::json> metadata_;
     bool filling_ = false;
 };
 
