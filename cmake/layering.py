@@ -55,8 +55,8 @@ ROWS = [
      "declarations export core values colors materials lightlayers painting host"
      "|material manager"),
     ("window", "apps/workbench/*",
-     "declarations export core colors painting host panels|facade headers|nyxembedded headers"
-     "|example of painting"),
+     "declarations export core colors painting host panels|material manager|facade headers"
+     "|nyxembedded headers|example of painting"),
     ("console", "apps/console/*", "core colors host|facade headers|nyxembedded headers"),
 ]
 ROOTS = ["include", "src", "platform/include", "platform/embedded/include", "platform/embedded",
