@@ -142,6 +142,11 @@ TEST_F(LayersTest, DraggingOverEyesIsOneEntryAndEscapeGivesUp) {
     over(2, 2); // a click
     QTest::mouseRelease(viewport, Qt::LeftButton, {}, eye(2));
     EXPECT_EQ(rows(), "F*E(D)(C)BA-");
+    over(0, 1);
+    find<QAction>("undo").trigger(); // ends it, then takes it back
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, eye(1));
+    EXPECT_EQ(rows(), "F*E(D)(C)BA-");
+    EXPECT_EQ(stack().text(stack().index()), "Hide Layers");
 }
 
 TEST_F(LayersTest, FollowsWhateverChangesThem) {

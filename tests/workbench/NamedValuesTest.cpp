@@ -1,6 +1,7 @@
 #include "support/sourceDir.h"
 #include "workbench/ValuesScene.h"
 #include "workbench/app/KeptValues.h"
+#include "workbench/values/MetalView.h"
 
 #include <QAction>
 #include <QApplication>
@@ -35,6 +36,7 @@ TEST_F(NamedValuesTest, MetalsAreLoadedAndShown) {
     EXPECT_NEAR(nearest, 0.96, 0.01);
     find<QAction>("copyValue").trigger();
     EXPECT_EQ(QApplication::clipboard()->text().count('\n'), table.rowCount());
+    EXPECT_EQ(metalCsv({550.125F, 0.123456789F, 1e-7F}), "550.125, 0.12345679, 1e-07\n");
     QFile broken(inFolder("broken.nk"));
     ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
     broken.write("no header at all\n1 2\n");

@@ -79,6 +79,7 @@ TEST_F(PaintTest, AStrokeIsSeenWhileItIsMadeAndIsOneEntryOfTheSamePixels) {
     drag(at(60, 128), at(200, 128));
     EXPECT_NE(seen(128, 128), blank); // before the release
     EXPECT_EQ(history(), "|");
+    QTest::mousePress(&view(), Qt::MiddleButton, {}, at(200, 128)); // which would move the picture
     QTest::mouseRelease(&view(), Qt::LeftButton, {}, at(200, 128));
     settleAll();
     EXPECT_EQ(history(), "Paint;|");
@@ -137,6 +138,12 @@ TEST_F(PaintTest, APenPaintsByItsPressureAndItsOtherEndErases) {
     settleAll();
     EXPECT_EQ(history(), "Paint;Erase;|");
     EXPECT_LT(composite()[(128 * 256 + 120) * 4 + 3], 80); // by as much as the brush paints
+    pen(QEvent::TabletPress, at(40, 128), 1);
+    QEvent deactivated(QEvent::WindowDeactivate);
+    QCoreApplication::sendEvent(&window, &deactivated); // its release goes elsewhere
+    drag(at(60, 60), at(100, 60));
+    QTest::mouseRelease(&view(), Qt::LeftButton, {}, at(100, 60));
+    EXPECT_EQ(history(), "Paint;Erase;Paint;Paint;|") << "the mouse is not locked out";
 }
 
 TEST_F(PaintTest, KeysMoveAPenAsWell) {

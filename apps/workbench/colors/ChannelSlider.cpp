@@ -42,6 +42,10 @@ QSize ChannelSlider::sizeHint() const {
     return {8 * fontMetrics().height(), fontMetrics().height() * 5 / 4};
 }
 
+QSize ChannelSlider::minimumSizeHint() const {
+    return {4 * fontMetrics().height(), sizeHint().height()};
+}
+
 void ChannelSlider::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QRect const bar = rect().adjusted(2, 2, -2, -2);

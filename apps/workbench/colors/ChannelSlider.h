@@ -25,6 +25,7 @@ public:
     void setRamp(Ramp const& ramp);
 
     [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 signals:
     void cancelled();

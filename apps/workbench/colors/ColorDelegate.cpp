@@ -13,7 +13,7 @@ namespace workbench {
 
 ColorDelegate::ColorDelegate(Scene& scene, Form form,
                              std::function<nyx::ColorId(QModelIndex const&)> idOf, QObject* parent)
-    : QStyledItemDelegate(parent), scene_(scene), form_(form), idOf_(std::move(idOf)) {}
+    : NameDelegate(parent), scene_(scene), form_(form), idOf_(std::move(idOf)) {}
 
 ColorDelegate::Areas ColorDelegate::areas(QStyleOptionViewItem const& option) const {
     int const line = option.fontMetrics.height();

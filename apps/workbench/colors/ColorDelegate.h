@@ -1,8 +1,8 @@
 #pragma once
 
-#include "nyxrender/Ids.h"
+#include "workbench/scene/NameDelegate.h"
 
-#include <QStyledItemDelegate>
+#include "nyxrender/Ids.h"
 
 #include <functional>
 
@@ -12,7 +12,7 @@ class Scene;
 
 /// Paints colours as swatches. It paints them itself: styles tint the decoration of a selected
 /// item, which would show the selected colour wrong.
-class ColorDelegate final : public QStyledItemDelegate {
+class ColorDelegate final : public NameDelegate {
     Q_OBJECT
 
 public:

@@ -118,6 +118,7 @@ bool ColorModel::setData(QModelIndex const& index, QVariant const& value, int ro
     if (name == scene_.colorDB()->colorName(id)) {
         return false;
     }
+    scene_.endDrags();
     scene_.colorController()->setDisplayName(id, name);
     return true;
 }

@@ -74,6 +74,8 @@ ColorsPanel::ColorsPanel(Scene& scene, QWidget* parent)
 }
 
 void ColorsPanel::makeViews() {
+    // Before the selection hears of it: where its row goes it takes another one, whatever that is.
+    connect(model_, &QAbstractItemModel::rowsAboutToBeRemoved, this, [this] { rowsGo_ = true; });
     auto const idOf = [this](QModelIndex const& index) { return model_->idAt(index); };
     grid_->setObjectName("colourGrid");
     grid_->setViewMode(QListView::IconMode);
@@ -113,13 +115,22 @@ void ColorsPanel::makeViews() {
     connect(selection_, &QItemSelectionModel::currentChanged, this,
             [this](QModelIndex const& index) {
                 // A search takes rows away; the colour stays the one to work on.
-                nyx::ColorId const id = model_->idAt(index);
+                nyx::ColorId const id = rowsGo_ ? nyx::ColorId() : model_->idAt(index);
                 if (id.isValid() && id != current_) {
                     current_ = id;
                     emit currentChanged(id);
                 }
             });
+    connect(model_, &QAbstractItemModel::rowsRemoved, this, [this] {
+        rowsGo_ = false;
+        showCurrent();
+    });
+    connect(model_, &QAbstractItemModel::rowsInserted, this, &ColorsPanel::showCurrent);
     connect(&scene_, &Scene::changed, this, &ColorsPanel::keepCurrent);
+    connect(&scene_, &Scene::rootEnding, this, [this] { // its ids mean nothing in another scene
+        current_ = {};
+        emit currentChanged(current_);
+    });
 }
 
 void ColorsPanel::makeActions() {
@@ -173,11 +184,21 @@ void ColorsPanel::setCurrent(nyx::ColorId id) {
     }
 }
 
-/// The ids of another scene mean nothing here.
 void ColorsPanel::keepCurrent() {
     if (!scene_.colorDB() || !scene_.colorDB()->getColorParameters(current_)) {
         current_ = {};
         emit currentChanged(current_);
+    }
+}
+
+/// Marks the colour to work on as far as it is among those that are found.
+void ColorsPanel::showCurrent() {
+    QModelIndex const index = model_->indexOf(current_);
+    if (selection_->currentIndex() != index) {
+        bool const isOnly = index.isValid() && !selection_->hasSelection();
+        selection_->setCurrentIndex(index, isOnly ? QItemSelectionModel::ClearAndSelect |
+                                                        QItemSelectionModel::Rows
+                                                  : QItemSelectionModel::NoUpdate);
     }
 }
 

@@ -49,6 +49,7 @@ private:
     [[nodiscard]] QAbstractItemView* view() const;
     [[nodiscard]] std::vector<nyx::ColorId> selected() const;
     void keepCurrent();
+    void showCurrent();
     void addColor();
     void duplicate();
     void toggleMulti();
@@ -65,6 +66,7 @@ private:
     QItemSelectionModel* selection_;
     nyx::ColorId current_;
     PaletteHeader header_; ///< of the palette that was brought in last
+    bool rowsGo_ = false;  ///< while rows are taken away
 };
 
 } // namespace workbench

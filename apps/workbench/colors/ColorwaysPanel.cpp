@@ -171,7 +171,9 @@ void ColorwaysPanel::apply() {
     // since is switched back, each as an edit of its own.
     ScopedMacro const macro(
         scene_, tr("Switch back (%1)").arg(QString::fromStdString(edit->displayName())));
-    for (zsg::MultiColorPair const& pair : edit->pairs()) {
+    auto const kept = edit->pairs();
+    std::vector<zsg::MultiColorPair> const pairs(kept.begin(), kept.end()); // edits end the edit
+    for (zsg::MultiColorPair const& pair : pairs) {
         zsg::ZColorExtEdit const* const multi =
             scene_.colorDB()->getColorParameters(pair.multiColor);
         if (multi && multi->activeSub() != pair.subColor) {

@@ -3,6 +3,7 @@
 #include "workbench/lights/CheckDelegate.h"
 #include "workbench/lights/LightLayerModel.h"
 #include "workbench/lights/lightEdits.h"
+#include "workbench/scene/NameDelegate.h"
 #include "workbench/scene/Scene.h"
 
 #include <QAction>
@@ -25,6 +26,7 @@ LightLayersPanel::LightLayersPanel(Scene& scene, QWidget* parent)
     view_->setRootIsDecorated(false);
     view_->setUniformRowHeights(true);
     view_->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::DoubleClicked);
+    view_->setItemDelegate(new NameDelegate(view_));
     view_->setItemDelegateForColumn(LightLayerModel::InvertedColumn, new CheckDelegate(view_));
     view_->header()->setStretchLastSection(false);
     view_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);

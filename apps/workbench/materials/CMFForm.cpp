@@ -89,6 +89,7 @@ void CMFForm::build() {
         field.widget()->removeEventFilter(this);
     }
     fields_.clear();
+    current_ = -1;
     if (page_) {
         page_->hide();
         page_->deleteLater();
@@ -105,6 +106,7 @@ void CMFForm::build() {
             form->addRow(heading);
         }
         Field const field = makeField(i);
+        field.widget()->installEventFilter(this);
         // As it is: an attribute's name may hold what labels take for a shortcut or for markup.
         auto* const label = new QLabel(page_);
         label->setTextFormat(Qt::PlainText);
@@ -147,6 +149,9 @@ CMFForm::Field CMFForm::makeField(std::size_t row) {
 /// Lines are confirmed when they are left; a line becomes lines.
 bool CMFForm::eventFilter(QObject* watched, QEvent* event) {
     for (std::size_t i = 0; i < fields_.size(); ++i) {
+        if (watched == fields_[i].widget() && event->type() == QEvent::FocusIn) {
+            current_ = static_cast<int>(i); // a menu that acts on it takes the focus away
+        }
         if (watched == fields_[i].lines && event->type() == QEvent::FocusOut) {
             commit(i);
             break;
@@ -226,12 +231,7 @@ void CMFForm::drop() {
 }
 
 int CMFForm::currentAttribute() const {
-    for (std::size_t i = 0; i < fields_.size(); ++i) {
-        if (fields_[i].widget()->hasFocus()) {
-            return rows_[i].attribute;
-        }
-    }
-    return -1;
+    return current_ < 0 ? -1 : rows_[static_cast<std::size_t>(current_)].attribute;
 }
 
 bool CMFForm::focus(QString const& label) {

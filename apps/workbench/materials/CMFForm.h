@@ -38,17 +38,18 @@ public:
     void drop();
 
     [[nodiscard]] int rowCount() const { return static_cast<int>(rows_.size()); }
-    /// The place in the schema of the attribute whose field has the focus; -1 when there is none.
+    /// The place in the schema of the attribute whose field had the focus last; -1 when there is
+    /// none.
     [[nodiscard]] int currentAttribute() const;
     /// By label; false when there is none.
     bool focus(QString const& label);
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 signals:
     /// An empty value takes the key out.
     void edited(std::string const& key, std::string const& value);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     struct Row {
@@ -84,6 +85,7 @@ private:
     std::set<std::string> longKeys_; ///< that became several lines here
     std::vector<Field> fields_;
     QWidget* page_ = nullptr;
+    int current_ = -1; ///< row of the field that had the focus last
 };
 
 } // namespace workbench

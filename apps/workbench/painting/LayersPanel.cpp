@@ -3,7 +3,9 @@
 #include "host/sRGB.h"
 #include "workbench/colors/swatch.h"
 #include "workbench/painting/PaintLayerModel.h"
+#include "workbench/scene/NameDelegate.h"
 #include "workbench/scene/PointerDrag.h"
+#include "workbench/scene/Scene.h"
 
 #include <QAction>
 #include <QColorDialog>
@@ -49,7 +51,7 @@ public:
 LayersPanel::LayersPanel(Scene& scene, Canvas& canvas, QWidget* parent)
     : Panel(parent), model_(new PaintLayerModel(scene, canvas, this)), view_(new QTreeView(this)) {
     makeView();
-    makeEyes();
+    makeEyes(scene);
     auto* const bar = new QHBoxLayout;
     makeAction(
         tr("New"), "newLayer", QKeySequence("Ctrl+N"), [this] { model_->add(); }, bar);
@@ -81,6 +83,7 @@ void LayersPanel::makeView() {
     view_->setRootIsDecorated(false);
     view_->setUniformRowHeights(true);
     view_->setIconSize(QSize(2, 2) * fontMetrics().height());
+    view_->setItemDelegate(new NameDelegate(view_));
     view_->setItemDelegateForColumn(PaintLayerModel::ModeColumn, new ModeDelegate(view_));
     view_->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::DoubleClicked);
     view_->setDragDropMode(QAbstractItemView::InternalMove);
@@ -107,7 +110,7 @@ void LayersPanel::makeView() {
 }
 
 /// Dragging over eyes does to all what the first one does.
-void LayersPanel::makeEyes() {
+void LayersPanel::makeEyes(Scene& scene) {
     auto const eyeAt = [this](QPointF const& at) {
         QModelIndex const index = view_->indexAt(at.toPoint());
         return index.column() == PaintLayerModel::EyeColumn ? index : QModelIndex();
@@ -140,6 +143,7 @@ void LayersPanel::makeEyes() {
         model_->setVisible(crossed_, shows_);
     });
     connect(drag, &PointerDrag::cancelled, this, [this] { model_->previewVisible({}, shows_); });
+    connect(&scene, &Scene::dragsEnding, drag, &PointerDrag::finish);
 }
 
 int LayersPanel::row() const { return view_->currentIndex().row(); }

@@ -25,7 +25,7 @@ public:
 
 private:
     void makeView();
-    void makeEyes();
+    void makeEyes(Scene& scene);
     void showCurrent();
     void chooseBackground();
     [[nodiscard]] int row() const;

@@ -186,6 +186,9 @@ void PaintView::sample(QPointF const& at, double pressure) {
 }
 
 void PaintView::mousePressEvent(QMouseEvent* event) {
+    if (moving_ || canvas_.isStroking()) {
+        return; // one button at a time
+    }
     bool const isMove =
         event->button() == Qt::MiddleButton || (event->button() == Qt::LeftButton && isSpaceDown_);
     if (isMove) {
@@ -303,8 +306,8 @@ void PaintView::keyReleaseEvent(QKeyEvent* event) {
 }
 
 bool PaintView::event(QEvent* event) {
-    if (event->type() == QEvent::FocusOut) {
-        isSpaceDown_ = false;
+    if (event->type() == QEvent::FocusOut || event->type() == QEvent::WindowDeactivate) {
+        isSpaceDown_ = isPenDown_ = false; // nobody may tell of their end
         showCursor();
         update(); // the keys' pen
     } else if (event->type() == QEvent::UngrabMouse) {

@@ -39,9 +39,9 @@ bool PointerDrag::eventFilter(QObject* watched, QEvent* event) {
         }
         return false;
     case QEvent::UngrabMouse:
-        if (active_) {
-            end(true);
-        }
+    case QEvent::WindowDeactivate:
+    case QEvent::Hide:
+        finish();
         return false;
     case QEvent::ShortcutOverride: // or a dialog around the widget would take Escape
     case QEvent::KeyPress:
@@ -55,6 +55,12 @@ bool PointerDrag::eventFilter(QObject* watched, QEvent* event) {
         return false;
     default:
         return QObject::eventFilter(watched, event);
+    }
+}
+
+void PointerDrag::finish() {
+    if (active_) {
+        end(true);
     }
 }
 

@@ -10,8 +10,8 @@ class QWidget;
 namespace workbench {
 
 /// One button on a widget, from press to release: what everything that is dragged within one
-/// widget has in common. A press alone is no move, Escape gives up, and losing the pointer is a
-/// release. Positions are the widget's.
+/// widget has in common. A press alone is no move, Escape gives up, and losing the pointer, the
+/// window's focus or the sight of the widget is a release. Positions are the widget's.
 class PointerDrag final : public QObject {
     Q_OBJECT
 
@@ -21,6 +21,8 @@ public:
                 Qt::MouseButton button = Qt::LeftButton);
 
     [[nodiscard]] bool isActive() const { return active_; }
+    /// As the release, when there is something to release.
+    void finish();
 
 signals:
     void pressed();

@@ -3,6 +3,7 @@
 #include "host/metalSamples.h"
 #include "workbench/values/MetalPlot.h"
 #include "workbench/values/parameterValue.h"
+#include "workbench/values/valueText.h"
 
 #include <QHeaderView>
 #include <QLocale>
@@ -76,7 +77,9 @@ void MetalView::showMessages(QString const& lines) {
 QString metalCsv(zsg::FloatArray const& triples) {
     QString text;
     for (app::MetalSample const& s : app::metalSamples(triples)) {
-        text += QString("%1, %2, %3\n").arg(s.wavelength).arg(s.n).arg(s.k);
+        // The shortest digits that are read as the same numbers.
+        zsg::FloatArray const numbers{float(s.wavelength), float(s.n), float(s.k)};
+        text += valueText(*makeValue(numbers)).replace(' ', ", ") + '\n';
     }
     return text;
 }

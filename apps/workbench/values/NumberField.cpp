@@ -92,7 +92,9 @@ NumberField::NumberField(zsg::Parameter const& parameter, QWidget* parent)
         }
     }
     spin_->setSuffix(unitOf(parameter));
-    spin_->setMinimumWidth(fontMetrics().horizontalAdvance("-00000.000 units"));
+    // Beside a bar it has room for what the bar gives.
+    QString const widest = span_ ? "-000.00" + spin_->suffix() : QString("-00000.000 units");
+    spin_->setMinimumWidth(fontMetrics().horizontalAdvance(widest) + 2 * fontMetrics().height());
     spin_->setSizePolicy(span_ ? QSizePolicy::Fixed : QSizePolicy::Expanding, QSizePolicy::Fixed);
     layout->addWidget(spin_);
     setFocusProxy(spin_);
