@@ -818,6 +818,14 @@
         <source>No copy for after a crash could be written: %1</source>
         <translation>Es konnte keine Sicherungskopie geschrieben werden: %1</translation>
     </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>der Speicher reicht nicht</translation>
+    </message>
+    <message>
+        <source>This failed: %1</source>
+        <translation>Das ist fehlgeschlagen: %1</translation>
+    </message>
 </context>
 <context>
     <name>workbench::EventModel</name>
@@ -989,6 +997,10 @@
     <message>
         <source>Another program has changed %1. Load it?</source>
         <translation>Ein anderes Programm hat %1 geändert. Laden?</translation>
+    </message>
+    <message>
+        <source>Another program has changed %1. Write over it?</source>
+        <translation>Ein anderes Programm hat %1 geändert. Überschreiben?</translation>
     </message>
 </context>
 <context>

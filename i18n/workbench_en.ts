@@ -818,6 +818,14 @@
         <source>No copy for after a crash could be written: %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This failed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>workbench::EventModel</name>
@@ -988,6 +996,10 @@
     </message>
     <message>
         <source>Another program has changed %1. Load it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program has changed %1. Write over it?</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -54,6 +54,15 @@ std::string Host::load(std::string const& path) {
     return message;
 }
 
+std::string Host::save(std::string const& path) {
+    std::string message = embedded_.saveScene(path);
+    if (message.empty()) {
+        savedPath_ = path;
+        ++saves_;
+    }
+    return message;
+}
+
 void Host::watchRoot(std::function<void(zsg::ISceneGraph*)> watcher) {
     watcher_ = std::move(watcher);
     if (watcher_) {

@@ -33,6 +33,10 @@ public:
     /// What was loaded last, as load() was given it; empty before.
     [[nodiscard]] std::string const& path() const { return path_; }
 
+    /// Where the scene was saved last, as save() was given it, and how often; empty before.
+    [[nodiscard]] std::string const& savedPath() const { return savedPath_; }
+    [[nodiscard]] int saveCount() const { return saves_; }
+
     /// `watcher` is called with the root at once and with each one that follows, and with null
     /// before one ends, when the undo stack is empty already. It must not throw; there is one.
     void watchRoot(std::function<void(zsg::ISceneGraph*)> watcher);
@@ -70,7 +74,7 @@ public:
     /// The scene's dump when the render tasks have run out.
     [[nodiscard]] std::string dump();
     /// As nyx::embedded::Host has them.
-    [[nodiscard]] std::string save(std::string const& path) { return embedded_.saveScene(path); }
+    [[nodiscard]] std::string save(std::string const& path);
     [[nodiscard]] std::string saveText() { return embedded_.saveSceneText(); }
 
     /// Whether whoever feeds commands is to stop: when that loses no unsaved edits, about which a
@@ -107,6 +111,8 @@ private:
 
     std::ostream* out_;
     std::string path_;
+    std::string savedPath_;
+    int saves_ = 0;
     std::function<void(zsg::ISceneGraph*)> watcher_;
     std::function<void(EventLog::Entry const&)> eventWatcher_;
     EventPrinter eventPrinter_;

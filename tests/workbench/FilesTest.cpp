@@ -1,12 +1,14 @@
 #include "workbench/WindowScene.h"
 #include "workbench/app/Autosave.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QMenu>
 #include <QProcess>
 #include <QSettings>
-#include <QThread>
+#include <QTest>
+#include <QTimer>
 
 using namespace workbench;
 
@@ -60,6 +62,15 @@ TEST_F(FilesTest, NobodyLeavesWithoutAnAnswer) {
     document.host().renderer().faults().failSaveStep = 0;
 
     EXPECT_EQ(QDir(copies()).entryList({"*.json"}, QDir::Files).size(), 2);
+    QFile broken(inFolder("broken.json"));
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+    broken.write("{");
+    broken.close();
+    answer("Discard");
+    QTimer::singleShot(50, &window, [this] { answer("OK"); });
+    EXPECT_FALSE(window.files().open(inFolder("broken.json")));
+    EXPECT_TRUE(window.isWindowModified());
+    EXPECT_EQ(QDir(copies()).entryList({"*.json"}, QDir::Files).size(), 2) << "still unsaved";
     answer("Discard");
     EXPECT_TRUE(window.close());
     EXPECT_TRUE(QDir(copies()).entryList({"*.json"}, QDir::Files).isEmpty());
@@ -115,10 +126,43 @@ TEST_F(FilesTest, ACopyOutlivesTheProgram) {
     EXPECT_EQ(second.path(), "") << "saving asks where";
     EXPECT_NE(second.host().renderer().dump().find("Petrol"), std::string::npos);
     EXPECT_EQ(contents(inFolder("scene.json")), before);
-    EXPECT_EQ(Autosave::orphans(inFolder("left")).size(), 1u) << "the copy is the only one";
-    answer("Delete It");
-    other.files().offerOrphans(inFolder("left"));
-    EXPECT_TRUE(Autosave::orphans(inFolder("left")).empty());
+    EXPECT_TRUE(QFile::exists(orphans[0].file)) << "the copy is the only one";
+    EXPECT_TRUE(Autosave::orphans(inFolder("left")).empty()) << "another window cannot take it";
+    second.scene().noteUnrecordedChange();
+    second.autosave();
+    EXPECT_TRUE(
+        contents(inFolder("left/" + name).replace(".lock", ".origin.json")).contains("scene.json"))
+        << "what it is a copy of stays known";
+    EXPECT_TRUE(other.files().saveAs(inFolder("saved.json")));
+    EXPECT_FALSE(QFile::exists(orphans[0].file));
+}
+
+TEST_F(FilesTest, CommandsOfTheConsoleLoseNothing) {
+    scratch = true;
+    run("color list");
+    EXPECT_FALSE(document.isModified());
+    run("raw color new Draft 1 0 0");
+    EXPECT_TRUE(document.isModified()) << "there is no entry for it";
+    run("scene save " + inFolder("other.json").toStdString());
+    EXPECT_EQ(document.path(), inFolder("other.json"));
+    EXPECT_FALSE(document.isModified());
+    run("lightlayer name 1 Evening");
+    EXPECT_TRUE(document.isModified());
+    run("macro begin Unfinished");
+    run("color name Teal Petrol");
+    EXPECT_TRUE(window.files().save());
+    EXPECT_FALSE(document.isModified()) << "the macro has ended";
+    EXPECT_EQ(history(), "Unfinished;|");
+    run("color name Petrol Lagoon");
+    run("scene load " + inFolder("scene.json").toStdString());
+    EXPECT_EQ(history(), "|");
+    EXPECT_EQ(document.path(), inFolder("scene.json"));
+    auto const kept = Autosave::orphans(copies());
+    ASSERT_EQ(kept.size(), 1u) << "what the command did not ask about";
+    EXPECT_EQ(kept[0].original, inFolder("other.json"));
+    EXPECT_TRUE(contents(kept[0].file).contains("Lagoon"));
+    run("macro begin Left");
+    EXPECT_EQ(document.open(inFolder("other.json")), "");
 }
 
 TEST_F(FilesTest, RecentFilesStayWhenTheyVanish) {
@@ -145,16 +189,30 @@ TEST_F(FilesTest, RecentFilesStayWhenTheyVanish) {
 
 TEST_F(FilesTest, AnotherProgramMayChangeTheFile) {
     scratch = true;
+    run("color name Ivory Bone");
     QByteArray const bytes = contents(inFolder("scene.json")).replace("\"Teal\"", "\"Lagoon\"");
     QFile file(inFolder("scene.json"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    QTimer::singleShot(50, &window, [this] { answer("Yes"); });
     file.write(bytes);
     file.close();
-    for (int i = 0; i < 100 && asked.isEmpty(); ++i) {
-        QThread::msleep(10);
-        settle();
-    }
+    answer("Cancel");
+    EXPECT_FALSE(window.files().save()) << "nobody has read yet what is there";
+    EXPECT_EQ(asked, "Another program has changed scene.json. Write over it?");
+    QMenu open; // whatever it is about may go with the scene
+    open.popup({});
+    QTest::qWait(100);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    open.close();
+    asked.clear();
+    QTimer waiting;
+    QObject::connect(&waiting, &QTimer::timeout, [this] {
+        if (QApplication::activeModalWidget()) {
+            answer("Yes");
+        }
+    });
+    waiting.start(20);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !asked.isEmpty() && !document.isModified(); }));
+    waiting.stop();
     EXPECT_TRUE(asked.startsWith("Another program has changed scene.json")) << asked.toStdString();
     EXPECT_NE(dump().find("Lagoon"), std::string::npos);
 }

@@ -39,7 +39,7 @@ Autosave::Autosave(QString folder) : folder_(std::move(folder)) { startAnew(); }
 
 Autosave::~Autosave() = default;
 
-QString Autosave::path(QString const& ending) const { return folder_ + '/' + name_ + ending; }
+QString Autosave::path(QString const& ending) const { return base_ + ending; }
 
 std::string Autosave::write(QString const& original, std::string const& scene) {
     if (!QDir().mkpath(folder_)) {
@@ -71,9 +71,20 @@ void Autosave::discard() {
     }
 }
 
+bool Autosave::adopt(Orphan const& orphan) {
+    auto lock = std::make_unique<QLockFile>(withEnding(orphan.file, lockEnding));
+    lock->setStaleLockTime(0);
+    if (!lock->tryLock()) {
+        return false;
+    }
+    lock_ = std::move(lock);
+    base_ = withEnding(orphan.file, "");
+    return true;
+}
+
 void Autosave::startAnew() {
     lock_.reset();
-    name_ = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    base_ = folder_ + '/' + QUuid::createUuid().toString(QUuid::WithoutBraces);
 }
 
 std::vector<Autosave::Orphan> Autosave::orphans(QString const& folder) {

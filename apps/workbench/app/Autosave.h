@@ -32,6 +32,9 @@ public:
     [[nodiscard]] std::string write(QString const& original, std::string const& scene);
     /// Removes the copy, because its content is saved or not wanted.
     void discard();
+    /// Takes a copy over that was left behind: it is this document's from now on. False when
+    /// another program has done so already.
+    bool adopt(Orphan const& orphan);
     /// Another document begins: what was written for the last one stays when it was not discarded.
     void startAnew();
 
@@ -43,7 +46,7 @@ private:
     [[nodiscard]] QString path(QString const& ending) const;
 
     QString folder_;
-    QString name_;
+    QString base_; ///< path of the copy without its ending
     std::unique_ptr<QLockFile> lock_;
 };
 

@@ -79,6 +79,10 @@ void ConsolePanel::run(QString const& line) {
     if (!text.isEmpty()) {
         output_->appendPlainText(text);
     }
+    if (document_.host().endRequested()) { // quit
+        document_.host().requestEnd(app::Host::End::No);
+        window()->close();
+    }
 }
 
 bool ConsolePanel::eventFilter(QObject* watched, QEvent* event) {

@@ -7,6 +7,8 @@
 #include <QFileInfo>
 
 #include <chrono>
+#include <functional>
+#include <new>
 #include <ostream>
 
 namespace workbench {
@@ -40,14 +42,25 @@ constexpr std::size_t mostEventsKept = 10'000;
 class Document::CommandRun {
 public:
     CommandRun(Document& document, std::ostream& out)
-        : document_(document), rootsBefore_(document.roots_) {
+        : document_(document),
+          rootsBefore_(document.roots_),
+          savesBefore_(document.host_.saveCount()) {
         document_.scene_.endDrags();
+        document_.keepsUnsaved_ = document_.isModified();
+        if (!document_.isModified() && !document_.unmodified_) {
+            document_.unmodified_ = hashOf(document_.host_);
+        }
         document_.host_.setOut(out);
     }
     ~CommandRun() {
         document_.host_.setOut(nowhere());
+        document_.keepsUnsaved_ = false;
         if (document_.roots_ != rootsBefore_) { // the commands have loaded another scene
             document_.loadedFrom(QString::fromStdString(document_.host_.path()));
+        } else if (document_.host_.saveCount() != savesBefore_) {
+            document_.savedTo(QString::fromStdString(document_.host_.savedPath()));
+        } else if (!document_.isModified() && document_.unmodified_ != hashOf(document_.host_)) {
+            document_.scene_.noteUnrecordedChange(); // many a command has no entry in the history
         }
         document_.scene_.flush();
         document_.scene_.noteCommands();
@@ -56,8 +69,11 @@ public:
     CommandRun& operator=(CommandRun const&) = delete;
 
 private:
+    static std::size_t hashOf(app::Host& host) { return std::hash<std::string>()(host.dump()); }
+
     Document& document_;
     int rootsBefore_;
+    int savesBefore_;
 };
 
 Document::Document(QString const& autosaveFolder)
@@ -66,15 +82,13 @@ Document::Document(QString const& autosaveFolder)
       values_(scene_, namedValues(host_)),
       autosave_(autosaveFolder) {
     host_.watchRoot([this](zsg::ISceneGraph* root) { takeOver(root); });
-    connect(&scene_, &Scene::historyChanged, this, [this] {
-        changedSinceAutosave_ = true;
-        emit stateChanged();
-    });
+    connect(&scene_, &Scene::historyChanged, this, &Document::noteChange);
     connect(&scene_, &Scene::changedUnrecorded, this, [this] {
-        changedUnrecorded_ = changedSinceAutosave_ = true;
-        emit stateChanged();
+        changedUnrecorded_ = true;
+        noteChange();
     });
     connect(&scene_, &Scene::changed, this, [this] {
+        unmodified_.reset();
         if (host_.events().entries().size() > mostEventsKept) {
             host_.events().clear();
         }
@@ -92,21 +106,42 @@ Document::~Document() {
 
 void Document::takeOver(zsg::ISceneGraph* root) {
     ++roots_;
+    if (!root && keepsUnsaved_) { // a command loads another scene, and asks nobody
+        writeCopy();
+    }
     scene_.setRoot(root);
+}
+
+void Document::noteChange() {
+    changedSinceAutosave_ = true;
+    unmodified_.reset();
+    emit stateChanged();
 }
 
 void Document::loadedFrom(QString const& path) {
     autosave_.startAnew();
-    path_ = path;
-    recoveredName_.clear();
-    changedUnrecorded_ = changedSinceAutosave_ = false;
+    path_ = path.isEmpty() ? path : QFileInfo(path).absoluteFilePath();
+    isRecovered_ = changedUnrecorded_ = changedSinceAutosave_ = false;
+    unmodified_.reset();
     emit stateChanged();
+    emit fileMatches();
+}
+
+void Document::savedTo(QString const& path) {
+    path_ = QFileInfo(path).absoluteFilePath();
+    isRecovered_ = changedUnrecorded_ = changedSinceAutosave_ = false;
+    unmodified_.reset();
+    autosave_.discard();
+    emit stateChanged();
+    emit fileMatches();
 }
 
 std::string Document::open(QString const& path) {
     scene_.endDrags();
+    scene_.endMacros(); // no scene is loaded over an open one
     std::string message = host_.load(path.toStdString());
     if (message.empty()) {
+        autosave_.discard();
         loadedFrom(path);
     }
     return message;
@@ -115,9 +150,10 @@ std::string Document::open(QString const& path) {
 std::string Document::recover(Autosave::Orphan const& orphan) {
     std::string message = open(orphan.file);
     if (message.empty()) {
-        recoveredName_ = QFileInfo(orphan.original).fileName();
+        autosave_.adopt(orphan);
+        recoveredFrom_ = orphan.original;
         path_.clear();
-        changedUnrecorded_ = true;
+        isRecovered_ = changedUnrecorded_ = true;
         emit stateChanged();
     }
     return message;
@@ -125,13 +161,10 @@ std::string Document::recover(Autosave::Orphan const& orphan) {
 
 std::string Document::saveAs(QString const& path) {
     scene_.endDrags();
+    scene_.endMacros(); // the saved state is one that the history can come back to
     std::string message = host_.save(path.toStdString());
     if (message.empty()) {
-        path_ = path;
-        recoveredName_.clear();
-        changedUnrecorded_ = changedSinceAutosave_ = false;
-        autosave_.discard();
-        emit stateChanged();
+        savedTo(path);
     }
     return message;
 }
@@ -147,8 +180,9 @@ void Document::runCommand(std::string const& line, std::ostream& out) {
 }
 
 QString Document::name() const {
-    if (!recoveredName_.isEmpty()) {
-        return tr("%1 (recovered)").arg(recoveredName_);
+    if (isRecovered_) {
+        QString const file = QFileInfo(recoveredFrom_).fileName();
+        return tr("%1 (recovered)").arg(file.isEmpty() ? tr("unnamed") : file);
     }
     return path_.isEmpty() ? tr("unnamed") : QFileInfo(path_).fileName();
 }
@@ -159,13 +193,21 @@ void Document::autosave() {
     if (!isModified() || !changedSinceAutosave_) {
         return;
     }
-    changedSinceAutosave_ = false;
-    std::string const message = autosave_.write(path_, host_.saveText());
+    changedSinceAutosave_ = !writeCopy();
+}
+
+bool Document::writeCopy() {
+    std::string message;
+    try {
+        message = autosave_.write(isRecovered_ ? recoveredFrom_ : path_, host_.saveText());
+    } catch (std::bad_alloc const&) {
+        message = tr("there is not enough memory").toStdString();
+    }
     if (!message.empty()) {
-        changedSinceAutosave_ = true;
         scene_.say(tr("No copy for after a crash could be written: %1")
                        .arg(QString::fromStdString(message)));
     }
+    return message.empty();
 }
 
 } // namespace workbench

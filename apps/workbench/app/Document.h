@@ -10,7 +10,9 @@
 #include <QObject>
 #include <QTimer>
 
+#include <cstddef>
 #include <iosfwd>
+#include <optional>
 #include <string>
 
 namespace workbench {
@@ -31,9 +33,11 @@ public:
     [[nodiscard]] ValueStore& values() { return values_; }
     [[nodiscard]] app::Interpreter& interpreter() { return interpreter_; }
 
-    /// Replaces the scene by that of a file; on failure all stays as it was.
+    /// Replaces the scene by that of a file, and drops what was not saved of the one before; on
+    /// failure all stays as it was.
     [[nodiscard]] std::string open(QString const& path);
-    /// The same for a copy that was left behind: it has unsaved changes and no file yet.
+    /// The same for a copy that was left behind: it has unsaved changes and no file yet, and the
+    /// copy is the document's own from then on.
     [[nodiscard]] std::string recover(Autosave::Orphan const& orphan);
     /// Writes the scene to a file, which is the document's from then on.
     [[nodiscard]] std::string saveAs(QString const& path);
@@ -57,12 +61,17 @@ public:
 signals:
     /// Path, name, or whether there are unsaved changes.
     void stateChanged();
+    /// The file holds what the scene does: it was loaded or saved a moment ago.
+    void fileMatches();
 
 private:
     class CommandRun;
 
     void takeOver(zsg::ISceneGraph* root);
     void loadedFrom(QString const& path);
+    void savedTo(QString const& path);
+    void noteChange();
+    bool writeCopy();
 
     app::Host host_;
     app::Interpreter interpreter_{host_};
@@ -73,9 +82,12 @@ private:
     QTimer autosaveTimer_;
     int roots_ = 0; ///< so many have begun or ended
     QString path_;
-    QString recoveredName_;
+    QString recoveredFrom_; ///< the file that a recovered copy is of
+    bool isRecovered_ = false;
+    bool keepsUnsaved_ = false; ///< while commands run that may replace a scene with changes
     bool changedUnrecorded_ = false;
     bool changedSinceAutosave_ = false;
+    std::optional<std::size_t> unmodified_; ///< hash of the scene while nothing is unsaved
 };
 
 } // namespace workbench

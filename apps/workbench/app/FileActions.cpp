@@ -3,6 +3,7 @@
 #include "workbench/app/Document.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
@@ -12,6 +13,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
+#include <QTimer>
 
 namespace workbench {
 
@@ -19,6 +21,7 @@ namespace {
 
 constexpr char recentKey[] = "recentFiles";
 constexpr qsizetype mostRecent = 10;
+constexpr int retryTime = 500; // milliseconds
 
 QString filter() { return FileActions::tr("Scenes (*.json);;All files (*)"); }
 
@@ -37,7 +40,10 @@ FileActions::FileActions(Document& document, QMainWindow& window)
     menu->addSeparator();
     menu->addAction(tr("&Quit"), QKeySequence("Ctrl+Q"), &window, &QWidget::close);
     connect(&document_, &Document::stateChanged, this, &FileActions::watch);
-    connect(&watcher_, &QFileSystemWatcher::fileChanged, this, &FileActions::changedOutside);
+    connect(&document_, &Document::fileMatches, this,
+            [this] { known_ = QFileInfo(document_.path()).lastModified(); });
+    connect(&watcher_, &QFileSystemWatcher::fileChanged, this, &FileActions::checkFile);
+    connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, &FileActions::checkFile);
     watch();
 }
 
@@ -50,7 +56,7 @@ bool FileActions::open(QString const& path) {
         showProblem(tr("The scene cannot be opened."), message);
         return false;
     }
-    remember(path);
+    remember();
     return true;
 }
 
@@ -59,18 +65,30 @@ bool FileActions::save() {
 }
 
 bool FileActions::saveAs(QString const& path) {
-    // Our own change of the file is nothing to ask about.
-    watcher_.blockSignals(true);
+    if (!mayReplace(path)) {
+        return false;
+    }
     std::string const message = document_.saveAs(path);
-    watcher_.blockSignals(false);
     if (!message.empty()) {
         showProblem(tr("The scene cannot be saved; it is as it was."), message);
         return false;
     }
-    known_ = QFileInfo(path).lastModified();
     document_.scene().say(tr("Saved %1.").arg(document_.name()));
-    remember(path);
+    remember();
     return true;
+}
+
+/// A watch can miss a change: folders of other machines tell of none.
+bool FileActions::mayReplace(QString const& path) {
+    QFileInfo const file(path);
+    if (!file.exists() || file.absoluteFilePath() != document_.path() ||
+        file.lastModified() == known_) {
+        return true;
+    }
+    return QMessageBox::question(
+               &window_, tr("The file has changed"),
+               tr("Another program has changed %1. Write over it?").arg(document_.name()),
+               QMessageBox::Save | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Save;
 }
 
 bool FileActions::mayLeave() {
@@ -83,11 +101,8 @@ bool FileActions::mayLeave() {
         if (answer == QMessageBox::Save) {
             return save();
         }
-        if (answer != QMessageBox::Discard) {
-            return false;
-        }
+        return answer == QMessageBox::Discard;
     }
-    document_.discardChanges();
     return true;
 }
 
@@ -106,7 +121,7 @@ void FileActions::offerOrphans(QString const& folder) {
         box.exec();
         if (box.clickedButton() == removed) {
             Autosave::remove(orphan);
-        } else if (box.clickedButton() == opened) {
+        } else if (box.clickedButton() == opened && mayLeave()) {
             std::string const message = document_.recover(orphan);
             if (message.empty()) {
                 return; // one window shows one scene; the others wait for the next start
@@ -132,11 +147,10 @@ bool FileActions::askWhereToSave() {
     return !path.isEmpty() && saveAs(path);
 }
 
-void FileActions::remember(QString const& path) {
-    QString const absolute = QFileInfo(path).absoluteFilePath();
+void FileActions::remember() {
     QStringList files = recentFiles();
-    files.removeAll(absolute);
-    files.prepend(absolute);
+    files.removeAll(document_.path());
+    files.prepend(document_.path());
     QSettings().setValue(recentKey, QStringList(files.mid(0, mostRecent)));
 }
 
@@ -152,26 +166,33 @@ void FileActions::fillRecent() {
 
 void FileActions::watch() {
     QString const path = document_.path();
-    if (watcher_.files() == QStringList(path)) {
+    // The folder as well: who writes a file anew ends the watch over the old one.
+    QStringList const wanted =
+        path.isEmpty() ? QStringList() : QStringList{path, QFileInfo(path).path()};
+    QStringList const watched = watcher_.files() + watcher_.directories();
+    if (watched == wanted) {
         return;
     }
-    if (!watcher_.files().isEmpty()) {
-        watcher_.removePaths(watcher_.files());
+    if (!watched.isEmpty()) {
+        watcher_.removePaths(watched);
     }
-    if (!path.isEmpty()) {
-        watcher_.addPath(path);
-        known_ = QFileInfo(path).lastModified();
+    if (!wanted.isEmpty()) {
+        watcher_.addPaths(wanted);
     }
 }
 
-void FileActions::changedOutside(QString const& path) {
+void FileActions::checkFile() {
+    QString const path = document_.path();
     QFileInfo const file(path);
-    if (file.exists() && !watcher_.files().contains(path)) {
-        watcher_.addPath(path); // who writes a file by renaming ends the watch over the old one
+    if (path.isEmpty() || !file.exists() || file.lastModified() == known_) {
+        return watch();
     }
-    if (!file.exists() || path != document_.path() || file.lastModified() == known_) {
+    if (QApplication::activeModalWidget() || QApplication::activePopupWidget()) {
+        // Whoever asks there works on the scene that is to be replaced.
+        QTimer::singleShot(retryTime, this, &FileActions::checkFile);
         return;
     }
+    watch();
     known_ = file.lastModified();
     auto const answer = QMessageBox::question(
         &window_, tr("The file has changed"),

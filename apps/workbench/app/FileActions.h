@@ -27,8 +27,11 @@ public:
     /// False when it was not saved.
     bool save();
     bool saveAs(QString const& path);
-    /// Asks about unsaved changes: saved or discarded gives true.
+    /// Asks about unsaved changes: true when they are saved or not wanted. Their copy is kept until
+    /// the scene is really left.
     [[nodiscard]] bool mayLeave();
+    /// The document's file goes to the head of the recent ones.
+    void remember();
     /// Offers what programs that did not come to their end have left in the folder.
     void offerOrphans(QString const& folder);
 
@@ -38,17 +41,17 @@ public:
 private:
     void askWhatToOpen();
     bool askWhereToSave();
-    void remember(QString const& path);
     void fillRecent();
     void watch();
-    void changedOutside(QString const& path);
+    void checkFile();
+    [[nodiscard]] bool mayReplace(QString const& path);
     void showProblem(QString const& what, std::string const& message);
 
     Document& document_;
     QMainWindow& window_;
     QMenu* recent_;
     QFileSystemWatcher watcher_;
-    QDateTime known_; ///< when the file changed last that we know of
+    QDateTime known_; ///< when the document's file changed last that we know of
 };
 
 } // namespace workbench

@@ -83,11 +83,14 @@ std::string KeptValues::load() {
     }
     auto const values = read(contents(path_));
     if (!values) {
-        QFile::remove(path_ + ".bad");
-        QFile::rename(path_, path_ + ".bad");
+        QString aside = path_ + ".bad";
+        for (int number = 2; QFile::exists(aside); ++number) {
+            aside = path_ + ".bad" + QString::number(number);
+        }
+        isInTheWay_ = !QFile::rename(path_, aside);
         return QCoreApplication::translate(
                    "KeptValues", "The values of the last time could not be read; they are in %1.")
-            .arg(path_ + ".bad")
+            .arg(isInTheWay_ ? path_ : aside)
             .toStdString();
     }
     for (auto const& [key, text] : *values) {
@@ -109,7 +112,7 @@ std::string KeptValues::save() {
             values[key] = valueText(*valueOf(store_.item(key).parameter));
         }
     }
-    if (values.empty() && known_.empty()) {
+    if (isInTheWay_ || (values.empty() && known_.empty())) {
         return {};
     }
     std::set<Key> own;

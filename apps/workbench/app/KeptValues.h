@@ -16,7 +16,8 @@ public:
     /// The store is borrowed. Nothing is read yet.
     KeptValues(ValueStore& store, QString path);
 
-    /// Adds what the file holds. A file that cannot be read is put aside, as PATH.bad, and said.
+    /// Adds what the file holds. A file that cannot be read is put aside, as PATH.bad or
+    /// PATH.bad2, and said.
     [[nodiscard]] std::string load();
     /// Writes the values, unless they are those that were read or written last. What another
     /// program has added to the file meanwhile stays in it.
@@ -27,6 +28,8 @@ private:
     QString path_;
     std::set<ValueStore::Key> known_; ///< as of the last load or save
     QByteArray written_;
+    bool isInTheWay_ =
+        false; ///< the file can be neither read nor moved: nothing is written over it
 };
 
 } // namespace workbench

@@ -20,6 +20,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPixmap>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QStyle>
 #include <QTabWidget>
@@ -29,6 +31,42 @@ namespace workbench {
 namespace {
 
 constexpr int messageTime = 8000; // milliseconds
+
+/// Scrolls a panel that has less room than it needs at least, or the window would need a large
+/// screen. QScrollArea itself would give a panel with wrapped texts the height that it likes best.
+class PanelArea final : public QScrollArea {
+public:
+    explicit PanelArea(workbench::Panel* panel) {
+        setFocusPolicy(Qt::NoFocus);
+        setFrameShape(QFrame::NoFrame);
+        setWidget(panel);
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override {
+        QScrollArea::resizeEvent(event);
+        fit();
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+            fit();
+        }
+        return QScrollArea::eventFilter(watched, event);
+    }
+
+private:
+    void fit() {
+        QSize const least = widget()->minimumSizeHint().expandedTo(widget()->minimumSize());
+        QSize size = maximumViewportSize();
+        if (least.height() > size.height()) {
+            size.rwidth() -= verticalScrollBar()->sizeHint().width();
+        }
+        if (least.width() > size.width()) {
+            size.rheight() -= horizontalScrollBar()->sizeHint().height();
+        }
+        widget()->resize(size.expandedTo(least));
+    }
+};
 
 QString withText(QString const& verb, ZUndoStack const& stack, int entry) {
     QString const text = stack.text(entry);
@@ -71,8 +109,10 @@ bool MainWindow::showPanel(QString const& name) {
         return true;
     }
     Panel* const panel = panels_.value(name);
-    if (panel) {
-        tabs_->setCurrentWidget(panel);
+    for (int i = 0; panel && i < tabs_->count(); ++i) {
+        if (tabs_->widget(i)->isAncestorOf(panel)) {
+            tabs_->setCurrentIndex(i);
+        }
     }
     return panel;
 }
@@ -112,6 +152,9 @@ void MainWindow::setPaletteKind(PaletteKind kind) {
 void MainWindow::closeEvent(QCloseEvent* event) {
     document_.scene().endDrags();
     event->setAccepted(files_->mayLeave());
+    if (event->isAccepted()) {
+        document_.discardChanges();
+    }
 }
 
 void MainWindow::addPanel(Place place, QString const& name, QString const& title, Panel* panel) {
@@ -124,12 +167,12 @@ void MainWindow::addPanel(Place place, QString const& name, QString const& title
             tabs_->setDocumentMode(true);
             setCentralWidget(tabs_);
         }
-        tabs_->addTab(panel, title);
+        tabs_->addTab(new PanelArea(panel), title);
         return;
     }
     auto* const dock = new QDockWidget(title, this);
     dock->setObjectName(name);
-    dock->setWidget(panel);
+    dock->setWidget(new PanelArea(panel));
     docks_.insert(name, dock);
     places_[place] += dock;
 }
@@ -140,21 +183,31 @@ void MainWindow::arrange() {
         {Place::RightUpper, Qt::RightDockWidgetArea}, {Place::RightLower, Qt::RightDockWidgetArea},
         {Place::Bottom, Qt::BottomDockWidgetArea},
     };
-    QList<QDockWidget*> first;
     for (auto const& [place, area] : areas) {
         QList<QDockWidget*> const docks = places_.value(place);
-        first += docks.front();
         addDockWidget(area, docks.front());
         for (qsizetype i = 1; i < docks.size(); ++i) {
             tabifyDockWidget(docks[i - 1], docks[i]);
         }
         docks.front()->raise();
     }
-    int const unit = width() / 100;
-    resizeDocks({first[0], first[2]}, {24 * unit, 26 * unit}, Qt::Horizontal);
-    resizeDocks({first[0], first[1]}, {60, 40}, Qt::Vertical);
-    resizeDocks({first[2], first[3]}, {70, 30}, Qt::Vertical);
-    resizeDocks({first[4]}, {height() * 3 / 10}, Qt::Vertical);
+    sizeDocks();
+}
+
+void MainWindow::sizeDocks() {
+    auto const first = [this](Place place) { return places_.value(place).front(); };
+    resizeDocks({first(Place::LeftUpper), first(Place::RightUpper)},
+                {width() * 21 / 100, width() * 23 / 100}, Qt::Horizontal);
+    resizeDocks({first(Place::LeftUpper), first(Place::LeftLower)}, {60, 40}, Qt::Vertical);
+    resizeDocks({first(Place::RightUpper), first(Place::RightLower)}, {70, 30}, Qt::Vertical);
+    resizeDocks({first(Place::Bottom)}, {height() * 3 / 10}, Qt::Vertical);
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    if (!isVisible()) { // it is about to be shown for the first time
+        sizeDocks();
+    }
 }
 
 void MainWindow::makeEditMenu() {

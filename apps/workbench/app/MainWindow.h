@@ -48,9 +48,11 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void arrange();
+    void sizeDocks();
     void makeEditMenu();
     void makeViewMenu();
     void resetLayout();

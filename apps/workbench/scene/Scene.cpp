@@ -71,18 +71,27 @@ void Scene::flush() {
     }
 }
 
+void Scene::endMacros() {
+    for (int open = undoStack_->macroDepth(); open > 0; --open) {
+        undoStack_->endMacro({});
+    }
+}
+
 void Scene::undo() {
     endDrags();
+    endMacros(); // or the history would refuse, and nobody in the window knows why
     report(!undoStack_->canUndo() || undoStack_->undo());
 }
 
 void Scene::redo() {
     endDrags();
+    endMacros();
     report(!undoStack_->canRedo() || undoStack_->redo());
 }
 
 void Scene::goTo(int index) {
     endDrags();
+    endMacros();
     report(undoStack_->goTo(index));
 }
 

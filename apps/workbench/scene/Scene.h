@@ -60,6 +60,8 @@ public:
 
     /// Everybody who edits continuously ends that step now.
     void endDrags() { emit dragsEnding(); }
+    /// Makes one entry of what commands of the console have been collecting.
+    void endMacros();
     /// A line for the user that needs no answer.
     void say(QString const& text) { emit said(text); }
     /// To be called when commands of the console are through.
