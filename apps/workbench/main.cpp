@@ -1,8 +1,8 @@
+#include "workbench/app/Application.h"
 #include "workbench/app/CommandLine.h"
+#include "workbench/app/WindowStyle.h"
 #include "workbench/app/installLanguage.h"
 #include "workbench/app/runWorkbench.h"
-
-#include <QApplication>
 
 #include <iostream>
 
@@ -19,14 +19,14 @@ int main(int argc, char** argv) {
     if (result.line->scale != 0) {
         qputenv("QT_SCALE_FACTOR", QByteArray::number(result.line->scale));
     }
-    QApplication::setStyle("Fusion");
     QCoreApplication::setOrganizationName("zscenegraph");
     QCoreApplication::setApplicationName("zsg-workbench");
     QGuiApplication::setDesktopFileName("zsg-workbench");
-    QApplication const application(argc, argv);
+    workbench::Application application(argc, argv);
+    QApplication::setStyle(new workbench::WindowStyle);
     if (std::string const why = workbench::installLanguage(*result.line); !why.empty()) {
         std::cerr << why << '\n';
         return 1;
     }
-    return workbench::runWorkbench(*result.line);
+    return workbench::runWorkbench(*result.line, application);
 }

@@ -1,4 +1,5 @@
 #include "workbench/WindowScene.h"
+#include "workbench/app/WindowStyle.h"
 #include "workbench/app/palettes.h"
 
 #include <QAbstractButton>
@@ -8,9 +9,12 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPainter>
+#include <QStyleOption>
 #include <QTest>
 #include <QToolButton>
 #include <QTranslator>
@@ -118,6 +122,12 @@ TEST_F(AccessibilityTest, TabReachesEverythingOfEveryPanel) {
             }
             EXPECT_TRUE(hasButton || !action->shortcut().isEmpty() || action->isSeparator())
                 << action->text().toStdString();
+            for (QAction const* const menu : window.findChildren<QAction*>()) {
+                bool const isBoth = menu->shortcutContext() == Qt::WindowShortcut &&
+                                    menu->shortcuts().contains(action->shortcut());
+                EXPECT_FALSE(isBoth)
+                    << "ambiguous keys do nothing: " << action->text().toStdString();
+            }
         }
     });
 }
@@ -187,6 +197,18 @@ TEST(PalettesTest, TextStandsOutFromWhatIsBehindIt) {
                     << text << " on " << behind;
             }
         }
+        // A box that is not ticked, by its frame.
+        QStyleOptionButton option;
+        option.rect = {0, 0, 13, 13};
+        option.palette = palette;
+        option.state = QStyle::State_Enabled | QStyle::State_Off;
+        QImage image(option.rect.size(), QImage::Format_RGB32);
+        image.fill(palette.color(QPalette::Base));
+        {
+            QPainter painter(&image);
+            WindowStyle().drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter);
+        }
+        EXPECT_GE(contrast(image.pixelColor(6, 0), image.pixelColor(6, 6)), 3);
         // What is undone in the history is told by slants, and still has to be read.
         EXPECT_GE(contrast(palette.color(QPalette::Disabled, QPalette::Text),
                            palette.color(QPalette::Base)),

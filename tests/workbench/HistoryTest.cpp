@@ -1,5 +1,6 @@
 #include "workbench/CountingProxy.h"
 #include "workbench/WindowScene.h"
+#include "workbench/app/Application.h"
 #include "workbench/history/HistoryModel.h"
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
@@ -7,11 +8,14 @@
 #include "zcore/ZUndoCommand.h"
 
 #include <QAbstractItemModelTester>
+#include <QAction>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QTableView>
+#include <QTest>
 
 #include <random>
+#include <stdexcept>
 
 using namespace workbench;
 
@@ -133,6 +137,20 @@ TEST_F(HistoryTest, AStepThatFailsIsSaid) {
     QObject::connect(&scene(), &Scene::said, [&](QString const& text) { said = text; });
     find<QAction>("undo").trigger();
     EXPECT_EQ(said, "A step of the history could not be carried out.");
+
+    class Throwing final : public ZUndoCommand {
+    public:
+        Throwing() : ZUndoCommand(ZCommandId(1000), "Throws") {}
+        bool undo() override { throw std::runtime_error("no more memory"); }
+        bool redo() override { return true; }
+    };
+    stack().push(new Throwing);
+    auto& application = static_cast<Application&>(*QCoreApplication::instance());
+    application.onFailure = [&](QString const& why) { said = why; };
+    QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
+    application.onFailure = {};
+    EXPECT_EQ(said, "no more memory") << "the window goes on";
+    EXPECT_EQ(stack().index(), 0);
 }
 
 TEST_F(HistoryTest, WhatComesByWithinACommandIsToldAfterIt) {

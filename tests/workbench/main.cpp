@@ -1,4 +1,6 @@
-#include <QApplication>
+#include "workbench/app/Application.h"
+#include "workbench/app/WindowStyle.h"
+
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -12,10 +14,10 @@ int main(int argc, char** argv) {
     QStandardPaths::setTestModeEnabled(true);
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
-    QApplication::setStyle("Fusion");
     QCoreApplication::setOrganizationName("zscenegraph");
     QCoreApplication::setApplicationName("zsg-workbench-test");
-    QApplication const application(argc, argv);
+    workbench::Application const application(argc, argv);
+    QApplication::setStyle(new workbench::WindowStyle);
     testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -1,6 +1,7 @@
 #include "workbench/app/runWorkbench.h"
 
 #include "host/printable.h"
+#include "workbench/app/Application.h"
 #include "workbench/app/Document.h"
 #include "workbench/app/FileActions.h"
 #include "workbench/app/KeptValues.h"
@@ -9,6 +10,7 @@
 #include "workbench/app/WindowCommands.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTimer>
@@ -45,7 +47,7 @@ int runBatch(CommandLine const& line, MainWindow& window) {
 
 } // namespace
 
-int runWorkbench(CommandLine const& line) {
+int runWorkbench(CommandLine const& line, Application& application) {
     // First: a window that is there follows a turn of the event loop later, behind a script.
     if (!line.palette.isEmpty()) {
         MainWindow::setPaletteKind(line.palette == "dark" ? MainWindow::PaletteKind::Dark
@@ -64,11 +66,14 @@ int runWorkbench(CommandLine const& line) {
     }
     window.resize(line.size);
     if (!line.isBatch()) {
+        window.resize(line.size.boundedTo(window.screen()->availableSize()));
+    }
+    window.show(); // first: a layout that was kept goes over the one for the size
+    if (!line.isBatch()) {
         QSettings const settings;
         window.restoreGeometry(settings.value("geometry").toByteArray());
         window.restoreState(settings.value("layout").toByteArray());
     }
-    window.show();
     if (!line.script.isEmpty() &&
         document.runScript(line.script.toStdString(), std::cout, std::cerr) != 0) {
         return 1;
@@ -97,8 +102,17 @@ int runWorkbench(CommandLine const& line) {
     });
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, &document,
                      [&] { document.autosave(); });
-    window.files().offerOrphans(folder);
+    if (!document.path().isEmpty()) {
+        window.files().remember();
+    }
+    // Within the event loop, or a request to end that comes while it asks would be forgotten.
+    QTimer::singleShot(0, &window, [&] { window.files().offerOrphans(folder); });
+    application.onFailure = [&](QString const& why) {
+        document.autosave();
+        document.scene().say(Document::tr("This failed: %1").arg(why));
+    };
     int const code = QCoreApplication::exec();
+    application.onFailure = {};
     if (std::string const message = kept.save(); !message.empty()) {
         fail(message);
     }

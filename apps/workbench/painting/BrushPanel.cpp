@@ -79,7 +79,8 @@ void BrushPanel::makePresets(QHBoxLayout& bar) {
     presets_->setPlaceholderText(tr("Presets"));
     bar.addWidget(presets_, 1);
     makeAction(
-        tr("Save as Preset"), "savePreset", QKeySequence("Ctrl+S"), [this] { savePreset(); }, &bar);
+        tr("Save as Preset"), "savePreset", QKeySequence("Ctrl+Alt+S"), [this] { savePreset(); },
+        &bar);
     makeAction(
         tr("Reset"), "resetBrush", {}, [this] { canvas_.resetBrush(); }, &bar)
         ->setToolTip(tr("A new brush"));
