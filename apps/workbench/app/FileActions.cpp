@@ -13,6 +13,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
+#include <QSignalBlocker>
 #include <QTimer>
 
 namespace workbench {
@@ -85,6 +86,9 @@ bool FileActions::mayReplace(QString const& path) {
         file.lastModified() == known_) {
         return true;
     }
+    // The other question about it has to wait until this one is through.
+    QSignalBlocker const quiet(watcher_);
+    QTimer::singleShot(retryTime, this, &FileActions::checkFile);
     return QMessageBox::question(
                &window_, tr("The file has changed"),
                tr("Another program has changed %1. Write over it?").arg(document_.name()),
