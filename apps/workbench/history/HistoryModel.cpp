@@ -74,12 +74,12 @@ void HistoryModel::update() {
     while (gone < rowCount() - 1 && !isAt(gone + 1, 0)) {
         ++gone;
     }
-    removeRows(1, gone);
+    takeRows(1, gone);
     int kept = std::min(rowCount() - 1, entries);
     while (kept > 0 && !isAt(kept, kept - 1)) {
         --kept;
     }
-    removeRows(kept + 1, rowCount() - 1 - kept);
+    takeRows(kept + 1, rowCount() - 1 - kept);
     if (entries > kept) {
         beginInsertRows({}, kept + 1, entries);
         for (int i = kept; i < entries; ++i) {
@@ -104,7 +104,7 @@ void HistoryModel::update() {
     emit updated();
 }
 
-void HistoryModel::removeRows(int first, int count) {
+void HistoryModel::takeRows(int first, int count) {
     if (count == 0) {
         return;
     }

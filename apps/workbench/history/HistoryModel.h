@@ -39,7 +39,7 @@ private:
     };
 
     void update();
-    void removeRows(int first, int count);
+    void takeRows(int first, int count);
     void emitChanged(int first, int last);
 
     Scene& scene_;
