@@ -147,7 +147,10 @@ TEST_F(HistoryTest, AStepThatFailsIsSaid) {
     stack().push(new Throwing);
     auto& application = static_cast<Application&>(*QCoreApplication::instance());
     application.onFailure = [&](QString const& why) { said = why; };
-    QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
+    // Not by a key or an action: on Qt's way from there a few bytes are left behind.
+    QMetaObject::invokeMethod(
+        &scene(), [&] { stack().undo(); }, Qt::QueuedConnection);
+    QCoreApplication::processEvents();
     application.onFailure = {};
     EXPECT_EQ(said, "no more memory") << "the window goes on";
     EXPECT_EQ(stack().index(), 0);
