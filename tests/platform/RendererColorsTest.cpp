@@ -37,6 +37,7 @@ protected:
         char* const text =
             nyx_color_find_unique_name(scene(), name, ignored, nyxColor_extended::PlainColor);
         std::string const result = text ? text : "(null)";
+        EXPECT_EQ(renderer.ledger().texts, text ? 1u : 0u);
         nyx_free(text);
         return result;
     }

@@ -142,6 +142,8 @@ TEST(SceneFile, AWrongFileIsNamedByPlaceAndExpectationAndChangesNothing) {
              "expected '[', '{', or a literal"},
         {"{\"format\":\n  junk}", "line 2, column 3: syntax error while parsing value - invalid "
                                   "literal"},
+        {"[1 2]", "line 1, column 4: syntax error while parsing array - unexpected number literal; "
+                  "expected ']'"},
         {"{\"format\": \"\xC3(\"}", "line 1, column 14: syntax error while parsing value - invalid "
                                     "string: ill-formed UTF-8 byte"},
         {scene("\"unitScale\":1e999"), "line 1, column 51: number out of range"},
