@@ -19,12 +19,49 @@ namespace {
 constexpr int colorRole = Qt::UserRole; // in the second column
 constexpr int nodeRole = Qt::UserRole;  // in the first one
 
+/// Asks for its colour when it is looked at: a material may have thousands of places.
+class Row final : public QTreeWidgetItem {
+public:
+    Row(Scene& scene, SceneContents::Place const& place) : scene_(scene), color_(place.color) {
+        setText(0, place.parameter);
+        setToolTip(
+            0, BoundColors::tr("%1 of node %2").arg(place.parameter, QString::number(place.node)));
+        setData(0, nodeRole, place.node);
+        setData(1, colorRole, place.color.toUint());
+    }
+
+    [[nodiscard]] QVariant data(int column, int role) const override {
+        bool const isOfColor = role == Qt::DisplayRole || role == Qt::DecorationRole ||
+                               role == Qt::ToolTipRole || role == Qt::AccessibleTextRole;
+        if (column != 1 || !isOfColor) {
+            return QTreeWidgetItem::data(column, role);
+        }
+        Swatch const swatch = swatchOf(scene_.colorDB(), color_);
+        if (!swatch.id.isValid()) {
+            return role == Qt::DisplayRole ? BoundColors::tr("none") : QVariant();
+        }
+        switch (role) {
+        case Qt::DisplayRole:
+            return shownName(swatch.name);
+        case Qt::DecorationRole:
+            return swatchIcon(swatch, treeWidget() ? treeWidget()->fontMetrics().height() : 16);
+        default:
+            return describe(swatch);
+        }
+    }
+
+private:
+    Scene& scene_;
+    nyx::ColorId color_;
+};
+
 } // namespace
 
 BoundColors::BoundColors(Scene& scene, QWidget* parent) : QTreeWidget(parent), scene_(scene) {
     setObjectName("boundColours");
     setAccessibleName(tr("Colours"));
     setRootIsDecorated(false);
+    setUniformRowHeights(true);
     setHeaderLabels({tr("Parameter"), tr("Colour")});
     header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     setDragDropMode(QAbstractItemView::DropOnly);
@@ -39,28 +76,21 @@ BoundColors::BoundColors(Scene& scene, QWidget* parent) : QTreeWidget(parent), s
 }
 
 void BoundColors::show(nyx::MaterialId material) {
-    int const current = material == material_ ? indexOfTopLevelItem(currentItem()) : -1;
-    material_ = material;
-    clear();
-    if (!scene_.contents()) {
+    auto places = scene_.contents() ? scene_.contents()->places(material)
+                                    : std::vector<SceneContents::Place>();
+    if (material == material_ && places == places_) {
+        viewport()->update(); // the colours themselves may have changed
         return;
     }
-    for (SceneContents::Place const& place : scene_.contents()->places(material)) {
-        Swatch const swatch = swatchOf(scene_.colorDB(), place.color);
-        auto* const item = new QTreeWidgetItem(this);
-        item->setText(0, place.parameter);
-        item->setToolTip(0, tr("%1 of node %2").arg(place.parameter, QString::number(place.node)));
-        item->setData(0, nodeRole, place.node);
-        item->setData(1, colorRole, place.color.toUint());
-        if (!swatch.id.isValid()) {
-            item->setText(1, tr("none"));
-            continue;
-        }
-        item->setText(1, shownName(swatch.name));
-        item->setIcon(1, swatchIcon(swatch, fontMetrics().height()));
-        item->setToolTip(1, describe(swatch));
-        item->setData(1, Qt::AccessibleTextRole, describe(swatch));
+    int const current = material == material_ ? indexOfTopLevelItem(currentItem()) : -1;
+    material_ = material;
+    places_ = std::move(places);
+    clear();
+    QList<QTreeWidgetItem*> rows;
+    for (SceneContents::Place const& place : places_) {
+        rows.append(new Row(scene_, place));
     }
+    addTopLevelItems(rows);
     setCurrentItem(topLevelItem(current));
 }
 

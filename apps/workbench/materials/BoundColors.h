@@ -1,8 +1,12 @@
 #pragma once
 
+#include "workbench/scene/SceneContents.h"
+
 #include "nyxrender/Ids.h"
 
 #include <QTreeWidget>
+
+#include <vector>
 
 namespace workbench {
 
@@ -29,6 +33,7 @@ private:
 
     Scene& scene_;
     nyx::MaterialId material_;
+    std::vector<SceneContents::Place> places_; ///< as they are listed
 };
 
 } // namespace workbench

@@ -30,6 +30,8 @@ public:
         std::uint32_t node = 0;
         QString parameter;
         nyx::ColorId color; ///< invalid: none
+
+        bool operator==(Place const&) const = default;
     };
 
     virtual ~SceneContents() = default;
