@@ -1,6 +1,6 @@
 # Precompiled headers: most of the time of a build is reading the same headers of Qt, the standard
-# library and GoogleTest again. Sources name every header that they use all the same: the clang
-# build does without, and so finds what is missing.
+# library and GoogleTest again. Sources name every header that they use all the same: the build of
+# packages does without, and so finds what is missing.
 
 # zsg_precompile(<target> library|tests|window|window_tests): the target's sources start from the headers of that kind.
 function(zsg_precompile target kind)
