@@ -1,5 +1,7 @@
 #!/usr/bin/env bash
 # The gates behind ./dev check. Every gate runs, also after one failed; the last line sums up.
+# With ZSG_FREE_ROOM set, each build is removed after the last gate that needs it: where the disk is
+# small, one of them at a time.
 set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . cmake/run-steps.sh
@@ -8,6 +10,9 @@ jobs=$(nproc 2>/dev/null || echo 2)
 sources() { git ls-files -- '*.h' '*.cpp'; }
 
 workflow() { cmake --workflow --preset "$1"; }
+
+# run_steps calls after_STEP when STEP has ended.
+free_room() { [[ -z ${ZSG_FREE_ROOM-} ]] || rm -rf "${@/#/build/}"; }
 
 do_format() { sources | xargs clang-format-14 --dry-run --Werror; }
 
@@ -25,11 +30,13 @@ do_clang() {
     sources | grep -E '^(src|apps|platform)/.*\.cpp$' | grep -v '_windows\.cpp$' |
         cmake/tidy.py build/clang
 }
+after_clang() { free_room clang; }
 
 do_headers() {
     cmake --preset dev >/dev/null &&
         cmake --build --preset dev -j "$jobs" --target all_verify_interface_header_sets
 }
+after_headers() { free_room dev; }
 
 # With clang: this one build also has the libFuzzer targets, so that nothing is compiled twice.
 do_asan() { workflow asan; }
@@ -42,6 +49,7 @@ do_tsan() {
             zsg_painting_test nyxembedded zsg_translations &&
         ctest --preset tsan
 }
+after_tsan() { free_room tsan; }
 
 do_fuzz() {
     cmake --preset asan >/dev/null && cmake --build --preset asan -j "$jobs" --target fuzzers ||
@@ -64,6 +72,7 @@ do_fuzz() {
     export -f run_fuzzer
     printf '%s\n' build/asan/bin/fuzz_* | xargs -P "$jobs" -I{} bash -c 'run_fuzzer {}'
 }
+after_fuzz() { free_room asan; }
 
 # All sources for Windows, against the headers of a Qt that is configured there and not built: that
 # and the tests are for ./dev windows.
@@ -99,7 +108,7 @@ do_docs() {
     mkdir -p build/docs && doxygen docs/Doxyfile
 }
 
-all=(format layering translations dev headers clang asan tsan fuzz windows-compile docs)
+all=(format layering translations dev headers clang asan fuzz tsan windows-compile docs)
 wanted=("$@")
 ((${#wanted[@]})) || wanted=("${all[@]}")
 must_know check "${wanted[@]}"

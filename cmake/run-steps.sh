@@ -1,6 +1,7 @@
 # Sourced by check.sh and release.sh.
 # run_steps WHO STEP...: runs each function do_STEP, also after one failed, with its output in
 # build/WHO-STEP.log; says how each went and how long it took, and sums up. 1 when one failed.
+# A function after_STEP, where there is one, is called when the step has ended, however it went.
 run_steps() {
     local who=$1 name start failed=()
     shift
@@ -15,6 +16,7 @@ run_steps() {
             printf 'FAILED (%d s), all of it in build/%s-%s.log\n' $((SECONDS - start)) "$who" "$name"
             failed+=("$name")
         fi
+        if declare -F "after_$name" >/dev/null; then "after_$name"; fi
     done
     printf '\n'
     ((${#failed[@]})) && printf '%s: failed: %s\n' "$who" "${failed[*]}"
