@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QItemSelectionModel>
 #include <QLineEdit>
+#include <QSignalSpy>
 #include <QStatusBar>
 #include <QTableView>
 #include <QTest>
@@ -56,6 +57,20 @@ protected:
         matrix().selectionModel()->select(
             QItemSelection(model.index(row, column), model.index(lastRow, lastColumn)),
             QItemSelectionModel::ClearAndSelect);
+    }
+    /// "light/layer" of each selected cell, that of the current one in brackets.
+    [[nodiscard]] std::string chosen() {
+        settle();
+        QAbstractItemModel const& model = *matrix().model();
+        QStringList cells;
+        for (QModelIndex const& cell : matrix().selectionModel()->selectedIndexes()) {
+            QString const name =
+                model.headerData(cell.row(), Qt::Vertical, Qt::AccessibleTextRole).toString() +
+                '/' + model.headerData(cell.column(), Qt::Horizontal).toString();
+            cells += cell == matrix().currentIndex() ? '[' + name + ']' : name;
+        }
+        cells.sort();
+        return cells.join(' ').toStdString();
     }
     void space() {
         matrix().setFocus();
@@ -129,6 +144,33 @@ TEST_F(LightsTest, TheMatrixMovesLightsGroupsAndRangesAsOneEntryEach) {
     for (char const* const layer : {"Default", "Accent", "Practical"}) {
         run(std::string("lightlayer flags ") + layer + " 0");
     }
+}
+
+TEST_F(LightsTest, WhatIsSelectedInTheMatrixStaysSoWhateverComesAndGoesAroundIt) {
+    scratch = true; // lights and layers cannot be taken back
+    QAbstractItemModelTester const tester(matrix().model(),
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
+    QSignalSpy const resets(matrix().model(), &QAbstractItemModel::modelReset);
+    auto& items = document.host().renderer().items();
+    run("lightlayer new Fourth");
+    choose(3, 2, 4, 2);
+    ASSERT_EQ(chosen(), "Fill Light/Practical [Key Light/Practical]");
+    run("lightlayer delete Accent");
+    EXPECT_EQ(rows(), ".x. .x. x.. x.. x.. x.. x.. x.. x.. ");
+    EXPECT_EQ(chosen(), "Fill Light/Practical [Key Light/Practical]");
+    stack().undo();
+    run("lightlayer name Practical Lamps");
+    items.addLight("Spot", items.find("Floor Lamp"));
+    items.addLight("Top");
+    run("light assign Lamps Spot \"Rim Light\""); // by which the window hears of them
+    EXPECT_EQ(rows(), "..x. ..x. ..x. ---. x... x... ..x. .x.. .x.. x... x... ");
+    EXPECT_EQ(chosen(), "Fill Light/Lamps [Key Light/Lamps]");
+    find<QLineEdit>("lightFilter").setText("e"); // Key Light, Shelf Spot
+    EXPECT_EQ(rows(), "--.. x... .x.. .x.. ");
+    EXPECT_EQ(chosen(), "[Key Light/Lamps]");
+    find<QLineEdit>("lightFilter").clear();
+    EXPECT_EQ(chosen(), "[Key Light/Lamps]");
+    EXPECT_EQ(resets.count(), 0);
 }
 
 TEST_F(LightsTest, LayersAreMadeRenamedInvertedDeletedAndRestored) {

@@ -3,6 +3,7 @@
 #include "workbench/lights/lightEdits.h"
 #include "workbench/scene/Scene.h"
 #include "workbench/scene/SceneContents.h"
+#include "workbench/scene/updateById.h"
 #include "zsg/lightlayers/ILightLayerApi.h"
 #include "zsg/lightlayers/ILightLayerController.h"
 
@@ -11,6 +12,8 @@
 #include <QPalette>
 
 #include <algorithm>
+#include <cstdint>
+#include <functional>
 #include <map>
 #include <set>
 #include <utility>
@@ -24,7 +27,6 @@ LightMatrixModel::LightMatrixModel(Scene& scene, QObject* parent)
         beginResetModel();
         rows_.clear();
         layers_.clear();
-        counts_.clear();
         endResetModel();
     });
     read();
@@ -46,9 +48,10 @@ Qt::CheckState LightMatrixModel::state(QModelIndex const& index) const {
     }
     Row const& row = at(index.row());
     if (row.isLight) {
-        return row.column == index.column() ? Qt::Checked : Qt::Unchecked;
+        return row.layer == layerAt(index.column()) ? Qt::Checked : Qt::Unchecked;
     }
-    int const in = counts_[place(index.row(), index.column())];
+    auto const found = row.in.find(layerAt(index.column()));
+    int const in = found == row.in.end() ? 0 : found->second;
     return in == 0 ? Qt::Unchecked : in == row.lights ? Qt::Checked : Qt::PartiallyChecked;
 }
 
@@ -57,7 +60,7 @@ std::vector<nyx::ObjectId> LightMatrixModel::lightsOf(std::vector<int> rows) con
     std::vector<nyx::ObjectId> lights;
     int next = 0;
     for (int const row : rows) {
-        int const end = at(row).isLight ? row + 1 : at(row).end;
+        int const end = at(row).isLight ? row + 1 : endOf(row);
         for (int i = std::max(row, next); i < end; ++i) {
             if (at(i).isLight && !at(i).isUnlisted) {
                 lights.emplace_back(at(i).id.toUint());
@@ -66,6 +69,14 @@ std::vector<nyx::ObjectId> LightMatrixModel::lightsOf(std::vector<int> rows) con
         next = std::max(next, end);
     }
     return lights;
+}
+
+int LightMatrixModel::endOf(int row) const {
+    int end = row + 1;
+    while (end < rowCount() && at(end).depth > at(row).depth) {
+        ++end;
+    }
+    return end;
 }
 
 void LightMatrixModel::toggle(QModelIndexList const& cells, QModelIndex const& current) {
@@ -198,7 +209,8 @@ void LightMatrixModel::follow(Changes const& changes) {
     }
 }
 
-std::vector<LightMatrixModel::Row> LightMatrixModel::readRows() const {
+std::vector<LightMatrixModel::Row>
+LightMatrixModel::readRows(std::vector<nyx::LightLayerId> const& layers) const {
     auto const items =
         scene_.contents() ? scene_.contents()->items() : std::vector<SceneContents::Item>();
     auto const isWanted = [this](SceneContents::Item const& item) {
@@ -211,72 +223,79 @@ std::vector<LightMatrixModel::Row> LightMatrixModel::readRows() const {
             leading.insert(item->parent);
         }
     }
-    std::vector<Row> rows;
-    std::map<nyx::GroupItemId, int> places;
-    for (SceneContents::Item const& item : items) {
-        if (isWanted(item) || leading.contains(item.id)) {
-            auto const above = places.find(item.parent);
-            int const parent = above == places.end() ? -1 : above->second;
-            int const place = static_cast<int>(rows.size());
-            places.emplace(item.id, place);
-            int const depth = parent < 0 ? 0 : rows[static_cast<std::size_t>(parent)].depth + 1;
-            rows.push_back(
-                {item.id, item.name, parent, depth, place + 1, isWanted(item), item.isUnlisted});
+    std::map<std::uint32_t, nyx::LightLayerId> layerOf; // a light
+    for (nyx::LightLayerId const layer : layers) {
+        for (nyx::ObjectId const light : scene_.lightLayers()->lightLayerApi()->lights(layer)) {
+            layerOf.emplace(light.toUint(), layer);
         }
     }
-    for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
-        row->lights += row->isLight && !row->isUnlisted ? 1 : 0;
-        if (row->parent >= 0) {
-            Row& parent = rows[static_cast<std::size_t>(row->parent)];
-            parent.end = std::max(parent.end, row->end);
-            parent.lights += row->lights;
+    std::vector<Row> rows;
+    std::vector<std::size_t> parents;
+    constexpr auto none = static_cast<std::size_t>(-1);
+    std::map<nyx::GroupItemId, std::size_t> places;
+    for (SceneContents::Item const& item : items) {
+        if (!isWanted(item) && !leading.contains(item.id)) {
+            continue;
+        }
+        auto const above = places.find(item.parent);
+        parents.push_back(above == places.end() ? none : above->second);
+        places.emplace(item.id, rows.size());
+        int const depth = above == places.end() ? 0 : rows[above->second].depth + 1;
+        Row& row = rows.emplace_back(
+            Row{item.id, item.name, depth, isWanted(item), item.isUnlisted, {}, 0, {}});
+        auto const found = row.isLight ? layerOf.find(row.id.toUint()) : layerOf.end();
+        if (found != layerOf.end()) {
+            row.layer = found->second;
+        }
+        if (row.isLight && !row.isUnlisted) {
+            row.lights = 1;
+            row.in[row.layer] = 1;
+        }
+    }
+    for (std::size_t i = rows.size(); i-- > 0;) {
+        if (parents[i] != none) {
+            Row& parent = rows[parents[i]];
+            parent.lights += rows[i].lights;
+            for (auto const& [layer, count] : rows[i].in) {
+                parent.in[layer] += count;
+            }
         }
     }
     return rows;
 }
 
+template <Qt::Orientation orientation>
+struct LightMatrixModel::Announce {
+    static constexpr bool isRows = orientation == Qt::Vertical;
+
+    LightMatrixModel& model;
+
+    void removing(int first, int last) {
+        isRows ? model.beginRemoveRows({}, first, last) : model.beginRemoveColumns({}, first, last);
+    }
+    void removed() { isRows ? model.endRemoveRows() : model.endRemoveColumns(); }
+    void inserting(int first, int last) {
+        isRows ? model.beginInsertRows({}, first, last) : model.beginInsertColumns({}, first, last);
+    }
+    void inserted() { isRows ? model.endInsertRows() : model.endInsertColumns(); }
+};
+
 void LightMatrixModel::read() {
-    std::vector<Row> rows = readRows();
     std::vector<nyx::LightLayerId> layers;
     if (scene_.lightLayers()) {
         auto const listed = scene_.lightLayers()->lightLayerApi()->layers();
         layers.assign(listed.begin(), listed.end());
     }
-    bool const sameShape = rows == rows_ && layers == layers_;
-    if (!sameShape) {
-        beginResetModel();
-        rows_ = std::move(rows);
-        layers_ = std::move(layers);
-    }
-    readMembership();
-    if (!sameShape) {
-        endResetModel();
-    } else if (!rows_.empty() && !layers_.empty()) {
-        emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1),
-                         {Qt::CheckStateRole});
+    updateById(rows_, readRows(layers), &Row::id, Announce<Qt::Vertical>{*this});
+    updateById(layers_, layers, std::identity(), Announce<Qt::Horizontal>{*this});
+    if (!layers_.empty()) {
         emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
     }
-}
-
-void LightMatrixModel::readMembership() {
-    std::map<std::uint32_t, int> columns; // by light
-    for (int column = 0; column < columnCount(); ++column) {
-        for (nyx::ObjectId const light :
-             scene_.lightLayers()->lightLayerApi()->lights(layerAt(column))) {
-            columns.emplace(light.toUint(), column);
-        }
+    if (!rows_.empty()) {
+        emit headerDataChanged(Qt::Vertical, 0, rowCount() - 1);
     }
-    counts_.assign(rows_.size() * layers_.size(), 0);
-    for (int i = rowCount() - 1; i >= 0; --i) {
-        Row& row = rows_[static_cast<std::size_t>(i)];
-        auto const found = row.isLight ? columns.find(row.id.toUint()) : columns.end();
-        row.column = found == columns.end() ? -1 : found->second;
-        if (row.column >= 0 && !row.isUnlisted) {
-            ++counts_[place(i, row.column)];
-        }
-        for (int column = 0; row.parent >= 0 && column < columnCount(); ++column) {
-            counts_[place(row.parent, column)] += counts_[place(i, column)];
-        }
+    if (!rows_.empty() && !layers_.empty()) {
+        emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
     }
 }
 

@@ -4,7 +4,7 @@
 
 #include <QAbstractTableModel>
 
-#include <cstdint>
+#include <map>
 #include <vector>
 
 namespace workbench {
@@ -46,35 +46,28 @@ private:
     struct Row {
         nyx::GroupItemId id;
         QString name;
-        int parent = -1; ///< a row
         int depth = 0;
-        int end = 0; ///< the first row that is not below this one
         bool isLight = false;
         bool isUnlisted = false;
-        int column = -1; ///< of the layer that a light is in
-        int lights = 0;  ///< itself and below, unless they are unlisted
-
-        friend bool operator==(Row const& a, Row const& b) {
-            return a.id == b.id && a.parent == b.parent && a.name == b.name &&
-                   a.isUnlisted == b.isUnlisted;
-        }
+        nyx::LightLayerId layer;             ///< of a light; invalid: none
+        int lights = 0;                      ///< itself and below, unless they are unlisted
+        std::map<nyx::LightLayerId, int> in; ///< so many of these are in a layer
     };
+    /// Announces other rows, or other columns.
+    template <Qt::Orientation orientation>
+    struct Announce;
 
     void follow(Changes const& changes);
     void read();
-    [[nodiscard]] std::vector<Row> readRows() const;
-    void readMembership();
+    [[nodiscard]] std::vector<Row> readRows(std::vector<nyx::LightLayerId> const& layers) const;
     [[nodiscard]] Row const& at(int row) const { return rows_[static_cast<std::size_t>(row)]; }
-    /// Of a cell in `counts_`.
-    [[nodiscard]] std::size_t place(int row, int column) const {
-        return static_cast<std::size_t>(row) * layers_.size() + static_cast<std::size_t>(column);
-    }
+    /// Behind the last row below one.
+    [[nodiscard]] int endOf(int row) const;
 
     Scene& scene_;
     QString filter_;
     std::vector<Row> rows_;
     std::vector<nyx::LightLayerId> layers_; ///< the columns
-    std::vector<int> counts_; ///< by row, then column: lights of the row's that are in the layer
 };
 
 } // namespace workbench
