@@ -11,8 +11,8 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTableView>
 #include <QToolButton>
-#include <QTreeView>
 
 using namespace workbench;
 
@@ -25,7 +25,7 @@ protected:
             scene().root()->eventQueue()->post(new zsg::ColorUpdatedEvent(nyx::ColorId(id)));
         }
     }
-    QAbstractItemModel& model() { return *find<QTreeView>("eventList").model(); }
+    QAbstractItemModel& model() { return *find<QTableView>("eventList").model(); }
     std::string count() {
         return window.panel("events")->findChild<QLabel*>()->text().toStdString();
     }

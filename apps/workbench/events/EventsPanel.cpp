@@ -10,8 +10,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QTableView>
 #include <QToolButton>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -22,7 +22,7 @@ namespace workbench {
 EventsPanel::EventsPanel(Scene& scene, QWidget* parent)
     : Panel(parent),
       model_(new EventModel(scene, this)),
-      view_(new QTreeView(this)),
+      view_(new QTableView(this)),
       filter_(new QLineEdit(this)),
       count_(new QLabel(this)) {
     filter_->setObjectName("eventFilter");
@@ -70,8 +70,17 @@ EventsPanel::EventsPanel(Scene& scene, QWidget* parent)
 void EventsPanel::makeView() {
     view_->setObjectName("eventList");
     view_->setAccessibleName(tr("Events"));
-    view_->setRootIsDecorated(false);
-    view_->setUniformRowHeights(true);
+    // A table of fixed heights, because a tree lays all of its rows out again for each that comes.
+    view_->setShowGrid(false);
+    view_->setWordWrap(false);
+    view_->setTabKeyNavigation(false);
+    view_->verticalHeader()->hide();
+    view_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    view_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 5 / 4);
+    view_->horizontalHeader()->setHighlightSections(false);
+    view_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    view_->horizontalHeader()->setStretchLastSection(true);
+    view_->setSelectionBehavior(QAbstractItemView::SelectRows);
     view_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     view_->setContextMenuPolicy(Qt::ActionsContextMenu);
     view_->setModel(model_);

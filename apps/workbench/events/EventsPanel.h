@@ -4,7 +4,7 @@
 
 class QLabel;
 class QLineEdit;
-class QTreeView;
+class QTableView;
 
 namespace workbench {
 
@@ -28,7 +28,7 @@ private:
     void showCount();
 
     EventModel* model_;
-    QTreeView* view_;
+    QTableView* view_;
     QLineEdit* filter_;
     QLabel* count_;
     bool following_ = true; ///< the newest row is in sight, and stays so
