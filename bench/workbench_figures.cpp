@@ -9,16 +9,21 @@
 #include "workbench/scene/Scene.h"
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
+#include "zsg/core/Events.h"
+#include "zsg/core/IEventQueue.h"
+#include "zsg/core/ISceneGraph.h"
 
 #include "zcore/ZUndoStack.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <algorithm>
 #include <cmath>
@@ -222,6 +227,29 @@ void measureHistory(QString const& folder) {
     row("... to the pixels", shown / edits, "ms", 16);
 }
 
+void measureEvents(QString const& folder) {
+    Document document(folder + "/autosave");
+    MainWindow window(document);
+    show(window);
+    window.showPanel("events");
+    constexpr int batch = 100;
+    auto const post = [&](int count) { // no other panel has anything to do with it
+        for (int i = 0; i < count; ++i) {
+            document.scene().root()->eventQueue()->post(
+                new zsg::PaintLayersUpdatedEvent(nyx::SurfaceId(12'345)));
+        }
+        settle();
+    };
+    post(10'000);
+    constexpr int batches = 100;
+    double const showing = timeOf([&] {
+        for (int i = 0; i < batches; ++i) {
+            post(batch);
+        }
+    });
+    row("100 events at 10,000 in their panel, to the pixels", showing / batches, "ms", 16);
+}
+
 void measureMemory(QString const& folder) {
     Document document(folder + "/autosave");
     open(document, std::string(ZSG_EXAMPLES) + "/scenes/showroom.json");
@@ -298,10 +326,10 @@ struct Loop {
     [[nodiscard]] double yAt(double turns) const { return y + radius * std::sin(turns * 6.2832); }
 };
 
-void measurePainting(QString const& folder) {
-    constexpr int side = 4096;
-    Document document(folder + "/autosave");
-    MainWindow window(document);
+constexpr int side = 4096;
+
+/// A surface to paint on, seen in the window.
+void openSurface(Document& document, MainWindow& window) {
     show(window);
     open(document, std::string(ZSG_EXAMPLES) + "/scenes/showroom.json");
     std::ostringstream out;
@@ -314,6 +342,22 @@ void measurePainting(QString const& folder) {
     window.showPanel("picture");
     document.host().taskQueue().waitIdle();
     settle();
+}
+
+void paint(Painter& painter, int number) {
+    Loop const loop(number, side);
+    painter.press(loop.xAt(0), loop.yAt(0));
+    for (int k = 1; k <= 8; ++k) {
+        painter.move(loop.xAt(k / 8.0), loop.yAt(k / 8.0));
+    }
+    painter.release(loop.xAt(1), loop.yAt(1));
+    settle();
+}
+
+void measurePainting(QString const& folder) {
+    Document document(folder + "/autosave");
+    MainWindow window(document);
+    openSurface(document, window);
     Painter painter(window);
 
     std::vector<double> times;
@@ -339,13 +383,7 @@ void measurePainting(QString const& folder) {
     double most = before;
     std::string course;
     for (int i = 1; i <= 1000; ++i) {
-        Loop const loop(i, side);
-        painter.press(loop.xAt(0), loop.yAt(0));
-        for (int k = 1; k <= 8; ++k) {
-            painter.move(loop.xAt(k / 8.0), loop.yAt(k / 8.0));
-        }
-        painter.release(loop.xAt(1), loop.yAt(1));
-        settle();
+        paint(painter, i);
         most = std::max(most, memory());
         if (i % 100 == 0) {
             course += ' ' + std::to_string(static_cast<int>(memory() - before));
@@ -354,6 +392,38 @@ void measurePainting(QString const& folder) {
     // The tiles that undo keeps, up to the canvas's limit, and what the layer has new itself.
     row("... memory that 1,000 strokes take at most", most - before, "MB", 256 + 64 + 64);
     std::printf("\nAfter every 100 strokes, in MB:%s\n", course.c_str());
+}
+
+/// As somebody paints: a stroke and a pause, for two minutes and a copy for after a crash.
+void measureTwoMinutes(QString const& folder) {
+    Document document(folder + "/autosave");
+    MainWindow window(document);
+    openSurface(document, window);
+    Painter painter(window);
+    constexpr int strokes = 1000;
+    constexpr int milliseconds = 125'000; // the copy comes after 120,000
+    double const before = memory();
+    double most = before;
+    double early = before;
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 1; i <= strokes; ++i) {
+        paint(painter, i);
+        do {
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+            QThread::msleep(1);
+            most = std::max(most, memory());
+        } while (timer.elapsed() < qint64{i} * milliseconds / strokes);
+        early = i == 300 ? memory() : early;
+    }
+    if (QDir(folder + "/autosave").isEmpty()) {
+        throw std::runtime_error("no copy was written");
+    }
+    double const limit = 256 + 64 + 64;
+    row("1,000 strokes in two minutes, memory after 300", early - before, "MB", limit);
+    row("... after 1,000", memory() - before, "MB", limit);
+    row("... at most", most - before, "MB", limit);
+    std::printf("\nBefore the first stroke: %.1f MB\n", before);
 }
 
 } // namespace
@@ -369,11 +439,13 @@ int main(int argc, char** argv) try {
     std::printf("| What | Measured | Limit |\n|---|---|---|\n");
     std::pair<std::string_view, void (*)(QString const&)> const parts[] = {
         {"memory", measureMemory},       {"colors", measureColors},     {"history", measureHistory},
-        {"colorways", measureColorways}, {"painting", measurePainting},
+        {"colorways", measureColorways}, {"painting", measurePainting}, {"events", measureEvents},
+        {"minutes", measureTwoMinutes},
     };
     std::vector<std::string_view> const wanted(argv + 1, argv + argc);
     for (auto const& [name, measure] : parts) {
-        if (wanted.empty() || std::ranges::find(wanted, name) != wanted.end()) {
+        bool const isAll = wanted.empty() && name != "minutes"; // which lasts as long as it says
+        if (isAll || std::ranges::find(wanted, name) != wanted.end()) {
             measure(folder.path());
         }
     }
