@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListView>
+#include <QListWidget>
 #include <QMimeData>
 #include <QTest>
 #include <QToolButton>
@@ -57,6 +58,17 @@ TEST_F(ColorsTest, TilesListAndFilterAreOneSelection) {
     EXPECT_EQ(grid.currentIndex(), list.currentIndex());
     EXPECT_TRUE(list.selectionModel()->isRowSelected(grid.currentIndex().row(), {}));
     EXPECT_EQ(find<QLineEdit>("colourName").text(), "Teal");
+    auto const usedBy = [&, &users = find<QListWidget>("colourUsers")] {
+        std::string names;
+        for (int i = 0; i < users.count(); ++i) {
+            names += users.item(i)->text().toStdString() + ';';
+        }
+        return names;
+    };
+    EXPECT_EQ(usedBy(), "") << "no material is";
+    EXPECT_TRUE(panel.select("Linen"));
+    EXPECT_EQ(usedBy(), "Seat Fabric;Back Fabric;");
+    EXPECT_TRUE(panel.select("Teal"));
     int const counts[] = {42, 37, 5};
     for (int i = 0; i < 3; ++i) {
         kind.setCurrentIndex(i);

@@ -1,5 +1,7 @@
 #include "workbench/WindowScene.h"
+#include "workbench/app/Application.h"
 #include "workbench/app/Autosave.h"
+#include "workbench/app/runWorkbench.h"
 
 #include <QApplication>
 #include <QDir>
@@ -7,6 +9,7 @@
 #include <QMenu>
 #include <QProcess>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTest>
 #include <QTimer>
 
@@ -19,6 +22,15 @@ using FilesTest = WindowScene;
 QByteArray contents(QString const& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
+}
+
+void write(QString const& path, QByteArray const& text) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+}
+
+qsizetype filesIn(QString const& folder, QString const& pattern) {
+    return QDir(folder).entryList({pattern}, QDir::Files).size();
 }
 
 } // namespace
@@ -61,19 +73,27 @@ TEST_F(FilesTest, NobodyLeavesWithoutAnAnswer) {
     EXPECT_TRUE(window.isWindowModified());
     document.host().renderer().faults().failSaveStep = 0;
 
-    EXPECT_EQ(QDir(copies()).entryList({"*.json"}, QDir::Files).size(), 2);
-    QFile broken(inFolder("broken.json"));
-    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
-    broken.write("{");
-    broken.close();
+    // Nobody may write there, not even root.
+    QDir().mkdir(inFolder("folder"));
+    for (QString const& target : {inFolder("folder"), QString("/proc/scene.json")}) {
+        answer("OK");
+        EXPECT_FALSE(window.files().saveAs(target));
+        EXPECT_TRUE(asked.startsWith("The scene cannot be saved; it is as it was.\n\n" + target))
+            << asked.toStdString();
+        EXPECT_TRUE(window.isWindowModified());
+        EXPECT_EQ(document.path(), inFolder("scene.json"));
+    }
+
+    EXPECT_EQ(filesIn(copies(), "*.json"), 2);
+    write(inFolder("broken.json"), "{");
     answer("Discard");
     QTimer::singleShot(50, &window, [this] { answer("OK"); });
     EXPECT_FALSE(window.files().open(inFolder("broken.json")));
     EXPECT_TRUE(window.isWindowModified());
-    EXPECT_EQ(QDir(copies()).entryList({"*.json"}, QDir::Files).size(), 2) << "still unsaved";
+    EXPECT_EQ(filesIn(copies(), "*.json"), 2) << "still unsaved";
     answer("Discard");
     EXPECT_TRUE(window.close());
-    EXPECT_TRUE(QDir(copies()).entryList({"*.json"}, QDir::Files).isEmpty());
+    EXPECT_EQ(filesIn(copies(), "*.json"), 0);
     window.show();
     answer("Discard");
     EXPECT_TRUE(window.files().open(inFolder("scene.json")));
@@ -93,45 +113,51 @@ TEST_F(FilesTest, ACopyOutlivesTheProgram) {
     document.autosave();
     EXPECT_TRUE(Autosave::orphans(copies()).empty()) << "its program still runs";
 
-    // What a process leaves that was killed: its files, and a lock with the number of nobody.
-    QString const name = QDir(copies()).entryList({"*.lock"}, QDir::Files | QDir::Hidden).value(0);
-    ASSERT_NE(name, "");
-    QDir().mkdir(inFolder("left"));
-    for (QString const& file : QDir(copies()).entryList(QDir::Files)) {
-        QFile::copy(copies() + '/' + file, inFolder("left/" + file));
-    }
-    QProcess ended;
-    ended.start("true", QStringList());
-    qint64 const nobody = ended.processId();
-    ended.waitForFinished();
-    QList<QByteArray> lock = contents(inFolder("left/" + name)).split('\n');
-    lock[0] = QByteArray::number(nobody);
-    QFile lockFile(inFolder("left/" + name));
-    ASSERT_TRUE(lockFile.open(QIODevice::WriteOnly));
-    lockFile.write(lock.join('\n'));
-    lockFile.close();
+    write(inFolder("edit.zsg"), "color name Teal Petrol\n");
+    QString const left =
+        QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/autosave";
+    QProcess program;
+    program.start(ZSG_WORKBENCH,
+                  {inFolder("scene.json"), "--autosave", "1", "--script", inFolder("edit.zsg")});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return filesIn(left, "*.json") == 2; }, 60'000));
+    EXPECT_TRUE(Autosave::orphans(left).empty()) << "its program still runs";
+    program.kill();
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(contents(inFolder("scene.json")), before);
+    QTimer waiting;
+    QObject::connect(&waiting, &QTimer::timeout, [this] {
+        if (QApplication::activeModalWidget()) {
+            answer("Keep It for Later");
+        } else if (!asked.isEmpty()) {
+            QCoreApplication::exit();
+        }
+    });
+    waiting.start(20);
+    EXPECT_EQ(runWorkbench({}, *static_cast<Application*>(qApp)), 0);
+    waiting.stop();
+    EXPECT_TRUE(asked.startsWith("The program ended without saving " + inFolder("scene.json")));
 
-    auto const orphans = Autosave::orphans(inFolder("left"));
+    auto const orphans = Autosave::orphans(left);
     ASSERT_EQ(orphans.size(), 1u);
     EXPECT_EQ(orphans[0].original, inFolder("scene.json"));
     Document second(inFolder("second"));
     MainWindow other(second);
     answer("Keep It for Later");
-    other.files().offerOrphans(inFolder("left"));
+    other.files().offerOrphans(left);
     EXPECT_FALSE(second.isModified());
     answer("Open the Copy");
-    other.files().offerOrphans(inFolder("left"));
+    other.files().offerOrphans(left);
     EXPECT_EQ(second.name(), "scene.json (recovered)");
     EXPECT_TRUE(second.isModified());
     EXPECT_EQ(second.path(), "") << "saving asks where";
     EXPECT_NE(second.host().renderer().dump().find("Petrol"), std::string::npos);
     EXPECT_EQ(contents(inFolder("scene.json")), before);
     EXPECT_TRUE(QFile::exists(orphans[0].file)) << "the copy is the only one";
-    EXPECT_TRUE(Autosave::orphans(inFolder("left")).empty()) << "another window cannot take it";
+    EXPECT_TRUE(Autosave::orphans(left).empty()) << "another window cannot take it";
     second.scene().noteUnrecordedChange();
     second.autosave();
     EXPECT_TRUE(
-        contents(inFolder("left/" + name).replace(".lock", ".origin.json")).contains("scene.json"))
+        contents(QString(orphans[0].file).replace(".json", ".origin.json")).contains("scene.json"))
         << "what it is a copy of stays known";
     EXPECT_TRUE(other.files().saveAs(inFolder("saved.json")));
     EXPECT_FALSE(QFile::exists(orphans[0].file));
@@ -190,11 +216,8 @@ TEST_F(FilesTest, RecentFilesStayWhenTheyVanish) {
 TEST_F(FilesTest, AnotherProgramMayChangeTheFile) {
     scratch = true;
     run("color name Ivory Bone");
-    QByteArray const bytes = contents(inFolder("scene.json")).replace("\"Teal\"", "\"Lagoon\"");
-    QFile file(inFolder("scene.json"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    file.close();
+    write(inFolder("scene.json"),
+          contents(inFolder("scene.json")).replace("\"Teal\"", "\"Lagoon\""));
     answer("Cancel");
     EXPECT_FALSE(window.files().save()) << "nobody has read yet what is there";
     EXPECT_EQ(asked, "Another program has changed scene.json. Write over it?");

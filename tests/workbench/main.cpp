@@ -1,21 +1,18 @@
 #include "workbench/app/Application.h"
 #include "workbench/app/WindowStyle.h"
 
-#include <QSettings>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
 // Windows without a screen, and nothing of the user's: settings and copies go to a folder of the
-// test's own.
+// test's own, also those of a program that a test starts.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QTemporaryDir const folder;
-    QStandardPaths::setTestModeEnabled(true);
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+    qputenv("XDG_CONFIG_HOME", folder.path().toLocal8Bit());
+    qputenv("XDG_DATA_HOME", folder.path().toLocal8Bit());
     QCoreApplication::setOrganizationName("zscenegraph");
-    QCoreApplication::setApplicationName("zsg-workbench-test");
+    QCoreApplication::setApplicationName("zsg-workbench");
     workbench::Application const application(argc, argv);
     QApplication::setStyle(new workbench::WindowStyle);
     testing::InitGoogleMock(&argc, argv);

@@ -36,8 +36,11 @@ CommandLineResult readCommandLine(QStringList const& arguments) {
     QCommandLineOption const scale("scale", "pixels per unit of the screen, 0.5 to 4", "FACTOR");
     QCommandLineOption const palette("palette", "dark or light", "NAME");
     QCommandLineOption const lang("lang", "language of the window, as de", "LANGUAGE");
+    QCommandLineOption const autosave(
+        "autosave", "how often unsaved changes are copied, 120 unless it is given", "SECONDS");
     QCommandLineOption const quit("quit", "end when the script has run");
-    parser.addOptions({help, version, script, screenshot, panel, size, scale, palette, lang, quit});
+    parser.addOptions(
+        {help, version, script, screenshot, panel, size, scale, palette, lang, autosave, quit});
     if (!parser.parse(arguments)) {
         return wrong(parser.errorText());
     }
@@ -74,6 +77,12 @@ CommandLineResult readCommandLine(QStringList const& arguments) {
     }
     if (parser.isSet(palette) && line.palette != "dark" && line.palette != "light") {
         return wrong("--palette: expected dark or light");
+    }
+    if (parser.isSet(autosave)) {
+        line.autosave = parser.value(autosave).toInt();
+        if (line.autosave < 1 || line.autosave > 3600) {
+            return wrong("--autosave: expected 1 to 3600 seconds");
+        }
     }
     return {line, {}, 0};
 }

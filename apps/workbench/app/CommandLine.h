@@ -18,6 +18,7 @@ struct CommandLine {
     double scale = 0; ///< device pixels per unit of size; 0 as the screen has it
     QString palette;  ///< "dark", "light", or empty for the system's
     QString language; ///< of the window, as "de"; empty: that of the system
+    int autosave = 120; ///< seconds between two copies of what is not saved
     bool quit = false;
 
     /// Whether nobody is there to be asked.

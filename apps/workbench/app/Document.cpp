@@ -6,7 +6,6 @@
 
 #include <QFileInfo>
 
-#include <chrono>
 #include <functional>
 #include <new>
 #include <ostream>
@@ -93,9 +92,8 @@ Document::Document(QString const& autosaveFolder)
             host_.events().clear();
         }
     });
-    autosaveTimer_.setInterval(2min);
     connect(&autosaveTimer_, &QTimer::timeout, this, &Document::autosave);
-    autosaveTimer_.start();
+    setAutosaveInterval(2min);
 }
 
 Document::~Document() {
@@ -194,6 +192,10 @@ void Document::autosave() {
         return;
     }
     changedSinceAutosave_ = !writeCopy();
+}
+
+void Document::setAutosaveInterval(std::chrono::seconds interval) {
+    autosaveTimer_.start(interval);
 }
 
 bool Document::writeCopy() {

@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <chrono>
 #include <cstddef>
 #include <iosfwd>
 #include <optional>
@@ -55,6 +56,8 @@ public:
 
     /// Writes the copy for after a crash, when there are changes that it lacks.
     void autosave();
+    /// Does so again and again from now on; a new document every two minutes.
+    void setAutosaveInterval(std::chrono::seconds interval);
     /// The unsaved changes are not wanted.
     void discardChanges() { autosave_.discard(); }
 

@@ -26,11 +26,14 @@
 #include <QStyle>
 #include <QTabWidget>
 
+#include <algorithm>
+
 namespace workbench {
 
 namespace {
 
 constexpr int messageTime = 8000; // milliseconds
+constexpr int tabFrame = 2;       // pixels
 
 /// Scrolls a panel that has less room than it needs at least, or the window would need a large
 /// screen. QScrollArea itself would give a panel with wrapped texts the height that it likes best.
@@ -196,8 +199,22 @@ void MainWindow::arrange() {
 
 void MainWindow::sizeDocks() {
     auto const first = [this](Place place) { return places_.value(place).front(); };
+    // As wide as the texts of its tabs side by side at least, or they would be cut.
+    auto const tabs = [this](Place place) {
+        int sum = 0;
+        for (QDockWidget const* const dock : places_.value(place)) {
+            sum += fontMetrics().horizontalAdvance(dock->windowTitle()) +
+                   style()->pixelMetric(QStyle::PM_TabBarTabHSpace) + tabFrame;
+        }
+        return sum;
+    };
+    auto const widest = [&](int share, Place upper, Place lower) {
+        return std::max({width() * share / 100, tabs(upper), tabs(lower)});
+    };
     resizeDocks({first(Place::LeftUpper), first(Place::RightUpper)},
-                {width() * 21 / 100, width() * 23 / 100}, Qt::Horizontal);
+                {widest(21, Place::LeftUpper, Place::LeftLower),
+                 widest(23, Place::RightUpper, Place::RightLower)},
+                Qt::Horizontal);
     resizeDocks({first(Place::LeftUpper), first(Place::LeftLower)}, {60, 40}, Qt::Vertical);
     resizeDocks({first(Place::RightUpper), first(Place::RightLower)}, {70, 30}, Qt::Vertical);
     resizeDocks({first(Place::Bottom)}, {height() * 3 / 10}, Qt::Vertical);

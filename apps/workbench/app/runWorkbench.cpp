@@ -15,6 +15,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include <chrono>
 #include <iostream>
 
 namespace workbench {
@@ -56,6 +57,7 @@ int runWorkbench(CommandLine const& line, Application& application) {
     QString const folder =
         QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/autosave";
     Document document(folder);
+    document.setAutosaveInterval(std::chrono::seconds(line.autosave));
     MainWindow window(document);
     document.interpreter().setOwnCommands(
         [&](std::vector<std::string> const& words) { return runWindowCommand(window, words); });

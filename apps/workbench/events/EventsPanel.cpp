@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace workbench {
 
@@ -85,9 +86,12 @@ void EventsPanel::makeView() {
     view_->setContextMenuPolicy(Qt::ActionsContextMenu);
     view_->setModel(model_);
     int const letter = fontMetrics().averageCharWidth();
-    view_->setColumnWidth(EventModel::IdColumn, 10 * letter);
-    view_->setColumnWidth(EventModel::TypeColumn, 28 * letter);
-    view_->setColumnWidth(EventModel::PayloadColumn, 14 * letter);
+    std::pair<int, int> const columns[] = {
+        {EventModel::IdColumn, 10}, {EventModel::TypeColumn, 28}, {EventModel::PayloadColumn, 14}};
+    for (auto const& [column, letters] : columns) {
+        view_->setColumnWidth(
+            column, std::max(letters * letter, view_->horizontalHeader()->sectionSizeHint(column)));
+    }
     // Whoever has scrolled up reads; the rest of the time the newest row is what one wants to see.
     connect(model_, &QAbstractItemModel::rowsAboutToBeInserted, this, [this] {
         QScrollBar const& bar = *view_->verticalScrollBar();
