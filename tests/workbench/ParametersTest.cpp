@@ -36,14 +36,6 @@ protected:
     ChannelSlider* bar(char const* name) { return field(name).findChild<ChannelSlider*>(); }
     /// What the console sees.
     std::string shown(std::string const& name) { return run("value show " + name); }
-
-    void type(NumberSpin& spin, QString const& text) {
-        spin.setFocus();
-        spin.selectAll();
-        QTest::keyClicks(&spin, text);
-        QTest::keyClick(&spin, Qt::Key_Return);
-        settle();
-    }
 };
 
 } // namespace
@@ -100,7 +92,10 @@ TEST_F(ParametersTest, NumbersMayBeCalculated) {
     type(spin("size"), "12*(1");
     EXPECT_EQ(window.statusBar()->currentMessage(), "12*(1 is no number and no calculation.");
     EXPECT_EQ(spin("size").value(), 12) << "the number before";
-    EXPECT_EQ(history(), "Set Size;|");
+    type(spin("steps"), "7/2");
+    EXPECT_EQ(spin("steps").value(), 4) << "the nearest whole number";
+    EXPECT_NE(run("param list").find("Integer 4"), std::string::npos);
+    EXPECT_EQ(history(), "Set Size;Set Steps;|");
 }
 
 TEST_F(ParametersTest, AnEditIsOneEntryAndOnlyAnEditIsOne) {

@@ -10,7 +10,6 @@
 #include <QComboBox>
 #include <QMouseEvent>
 #include <QScrollBar>
-#include <QSpinBox>
 #include <QStatusBar>
 #include <QTest>
 #include <QToolButton>
@@ -76,11 +75,11 @@ TEST_F(ValuesTest, AWeaveIsPaintedInOneEntry) {
     QTest::keyClick(&grid, Qt::Key_Space);
     EXPECT_FALSE(grid.accessibleDescription().isEmpty());
     find<QComboBox>("weaveGenerator").setCurrentIndex(2);
-    find<QSpinBox>("weaveFirst").setValue(5);
+    type(find<ExpressionSpin>("weaveFirst"), "2*2.5");
     find<QToolButton>("weaveMake").click();
     run("weave new satin satin 5 2");
     EXPECT_EQ(run("weave equal cloth satin"), "equal\n");
-    find<QSpinBox>("weaveWarps").setValue(10);
+    type(find<ExpressionSpin>("weaveWarps"), "39/4"); // to the nearest whole number
     run("weave size satin 10 5");
     EXPECT_EQ(run("weave equal cloth satin"), "equal\n");
     find<NumberSpin>("warpWidth").setValue(0.25);

@@ -56,6 +56,14 @@ std::string WindowScene::history() {
     return text;
 }
 
+void WindowScene::type(QAbstractSpinBox& field, QString const& text) {
+    field.setFocus();
+    field.selectAll();
+    QTest::keyClicks(&field, text);
+    QTest::keyClick(&field, Qt::Key_Return);
+    settle();
+}
+
 void WindowScene::settle() {
     for (int i = 0; i < 5; ++i) {
         QCoreApplication::sendPostedEvents();

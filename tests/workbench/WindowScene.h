@@ -7,6 +7,7 @@
 
 #include "zcore/ZUndoStack.h"
 
+#include <QAbstractSpinBox>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -42,6 +43,8 @@ protected:
         }
         return *found;
     }
+    /// A text in place of the number in a field.
+    void type(QAbstractSpinBox& field, QString const& text);
     /// Answers the next dialog by the button of a text.
     void answer(QString const& button);
     [[nodiscard]] QString inFolder(QString const& name) const { return folder_.filePath(name); }

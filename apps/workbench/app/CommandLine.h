@@ -15,9 +15,9 @@ struct CommandLine {
     QString screenshot; ///< a picture to write, and then to end
     QString panel;      ///< what the picture shows; empty: the whole window
     QSize size{1280, 800};
-    double scale = 0; ///< device pixels per unit of size; 0 as the screen has it
-    QString palette;  ///< "dark", "light", or empty for the system's
-    QString language; ///< of the window, as "de"; empty: that of the system
+    double scale = 0;   ///< device pixels per unit of size; 0 as the screen has it
+    QString palette;    ///< "dark", "light", or empty for the system's
+    QString language;   ///< of the window, as "de"; empty: that of the system
     int autosave = 120; ///< seconds between two copies of what is not saved
     bool quit = false;
 

@@ -3,11 +3,11 @@
 #include "workbench/colors/ColorDelegate.h"
 #include "workbench/colors/SubColorModel.h"
 #include "workbench/colors/swatch.h"
+#include "workbench/scene/FlowLayout.h"
 #include "workbench/scene/Scene.h"
 #include "zsg/colors/ColorController.h"
 #include "zsg/colors/ColorDB.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QListView>
 #include <QToolButton>
@@ -43,7 +43,7 @@ MultiColorPanel::MultiColorPanel(Scene& scene, QWidget* parent)
     connect(view_, &QAbstractItemView::activated, this, &MultiColorPanel::activate);
     setFocusProxy(view_);
 
-    auto* const bar = new QHBoxLayout;
+    auto* const bar = new FlowLayout;
     makeAction(
         tr("Activate"), "activateSub", QKeySequence("Ctrl+Return"), [this] { activate(); }, bar);
     makeAction(
@@ -58,7 +58,6 @@ MultiColorPanel::MultiColorPanel(Scene& scene, QWidget* parent)
     lock->setCheckable(true);
     lock->setToolTip(tr("Keep the order and the list as they are"));
     connect(lock, &QToolButton::toggled, model_, &SubColorModel::setLocked);
-    bar->addStretch();
     bar->addWidget(lock);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

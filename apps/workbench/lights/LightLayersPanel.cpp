@@ -3,11 +3,11 @@
 #include "workbench/lights/CheckDelegate.h"
 #include "workbench/lights/LightLayerModel.h"
 #include "workbench/lights/lightEdits.h"
+#include "workbench/scene/FlowLayout.h"
 #include "workbench/scene/NameDelegate.h"
 #include "workbench/scene/Scene.h"
 
 #include <QAction>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QToolButton>
 #include <QTreeView>
@@ -39,8 +39,7 @@ LightLayersPanel::LightLayersPanel(Scene& scene, QWidget* parent)
 }
 
 void LightLayersPanel::makeActions() {
-    auto* const bar = new QHBoxLayout;
-    auto* const second = new QHBoxLayout;
+    auto* const bar = new FlowLayout;
     making_ += makeAction(
         tr("New"), "newLightLayer", QKeySequence("Ctrl+N"),
         [this] { setCurrent(createLightLayer(scene_)); }, bar);
@@ -64,20 +63,17 @@ void LightLayersPanel::makeActions() {
                 emit assignmentWanted(current());
             }
         },
-        second);
+        bar);
     auto* const deleted = new QToolButton(this);
     deleted->setObjectName("showDeletedLightLayers");
     deleted->setText(tr("Show Deleted"));
     deleted->setCheckable(true);
     connect(deleted, &QToolButton::toggled, model_, &LightLayerModel::setShowDeleted);
-    bar->addStretch();
-    second->addStretch();
-    second->addWidget(deleted);
+    bar->addWidget(deleted);
     view_->addActions(actions());
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(bar);
-    layout->addLayout(second);
     layout->addWidget(view_, 1);
 }
 

@@ -3,6 +3,7 @@
 #include "host/sRGB.h"
 #include "workbench/colors/swatch.h"
 #include "workbench/painting/PaintLayerModel.h"
+#include "workbench/scene/FlowLayout.h"
 #include "workbench/scene/NameDelegate.h"
 #include "workbench/scene/PointerDrag.h"
 #include "workbench/scene/Scene.h"
@@ -10,7 +11,6 @@
 #include <QAction>
 #include <QColorDialog>
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QStyledItemDelegate>
 #include <QTreeView>
@@ -52,7 +52,7 @@ LayersPanel::LayersPanel(Scene& scene, Canvas& canvas, QWidget* parent)
     : Panel(parent), model_(new PaintLayerModel(scene, canvas, this)), view_(new QTreeView(this)) {
     makeView();
     makeEyes(scene);
-    auto* const bar = new QHBoxLayout;
+    auto* const bar = new FlowLayout;
     makeAction(
         tr("New"), "newLayer", QKeySequence("Ctrl+N"), [this] { model_->add(); }, bar);
     makeAction(
@@ -67,7 +67,6 @@ LayersPanel::LayersPanel(Scene& scene, Canvas& canvas, QWidget* parent)
         tr("Background"), "layerBackground", QKeySequence("Ctrl+B"), [this] { chooseBackground(); },
         bar);
     view_->addActions(actions());
-    bar->addStretch();
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(bar);

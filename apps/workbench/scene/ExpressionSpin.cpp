@@ -7,6 +7,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <cmath>
 
 namespace workbench {
 
@@ -22,29 +23,35 @@ QString ExpressionSpin::bare(QString text) const {
     return text.trimmed();
 }
 
+std::optional<double> ExpressionSpin::typed(QString const& text) const {
+    std::optional<double> const number = evaluate(bare(text), locale());
+    // QDoubleSpinBox rounds what is set, not what is typed.
+    return number && decimals() == 0 ? std::round(*number) : number;
+}
+
 double ExpressionSpin::valueFromText(QString const& text) const {
-    return evaluate(bare(text), locale()).value_or(value());
+    return typed(text).value_or(value());
 }
 
 QValidator::State ExpressionSpin::validate(QString& text, int& /*at*/) const {
-    QString const typed = bare(text);
-    auto const number = evaluate(typed, locale());
+    QString const shown = bare(text);
+    auto const number = evaluate(shown, locale());
     if (number && *number >= minimum() && *number <= maximum()) {
         return QValidator::Acceptable;
     }
-    return std::ranges::all_of(typed, [this](QChar c) { return isOfExpression(c, locale()); })
+    return std::ranges::all_of(shown, [this](QChar c) { return isOfExpression(c, locale()); })
                ? QValidator::Intermediate // a sign, a parenthesis that is open
                : QValidator::Invalid;
 }
 
 void ExpressionSpin::fixup(QString& text) const {
-    QString const typed = bare(text);
-    auto const number = evaluate(typed, locale());
-    QStatusTipEvent hint(typed.isEmpty() ? QString()
+    QString const shown = bare(text);
+    auto const number = evaluate(shown, locale());
+    QStatusTipEvent hint(shown.isEmpty() ? QString()
                          : number
                              ? tr("%1 is not from %2 to %3.")
-                                   .arg(typed, textFromValue(minimum()), textFromValue(maximum()))
-                             : tr("%1 is no number and no calculation.").arg(typed));
+                                   .arg(shown, textFromValue(minimum()), textFromValue(maximum()))
+                             : tr("%1 is no number and no calculation.").arg(shown));
     QCoreApplication::sendEvent(window(), &hint);
     QDoubleSpinBox::fixup(text);
 }

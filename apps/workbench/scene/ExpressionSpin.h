@@ -2,6 +2,8 @@
 
 #include <QDoubleSpinBox>
 
+#include <optional>
+
 namespace workbench {
 
 /// A number field that calculates: "255/3", "1,5*(2+4)". What is no number when it is confirmed is
@@ -22,6 +24,8 @@ protected:
 
     /// Without the suffix and blanks around it.
     [[nodiscard]] QString bare(QString text) const;
+    /// The number that is typed, the nearest whole one without decimals; nothing when it is none.
+    [[nodiscard]] std::optional<double> typed(QString const& text) const;
 };
 
 } // namespace workbench

@@ -1,13 +1,13 @@
 #include "workbench/scene/Panel.h"
 
 #include <QAction>
-#include <QBoxLayout>
+#include <QLayout>
 #include <QToolButton>
 
 namespace workbench {
 
 QAction* Panel::makeAction(QString const& text, char const* name, QKeySequence const& keys,
-                           std::function<void()> const& act, QBoxLayout* bar) {
+                           std::function<void()> const& act, QLayout* bar) {
     auto* const action = new QAction(text, this);
     action->setObjectName(name);
     action->setShortcut(keys);

@@ -6,7 +6,7 @@
 #include <functional>
 
 class QAction;
-class QBoxLayout;
+class QLayout;
 class QKeySequence;
 
 namespace workbench {
@@ -30,7 +30,7 @@ protected:
     /// An action of the panel, with a button in `bar` when there is one. Its keys work while the
     /// focus is in the panel.
     QAction* makeAction(QString const& text, char const* name, QKeySequence const& keys,
-                        std::function<void()> const& act, QBoxLayout* bar = nullptr);
+                        std::function<void()> const& act, QLayout* bar = nullptr);
 };
 
 } // namespace workbench

@@ -58,9 +58,7 @@ QString NumberSpin::textFromValue(double number) const {
     return shown.replace('.', locale().decimalPoint());
 }
 
-double NumberSpin::valueFromText(QString const& text) const {
-    return evaluate(bare(text), locale()).value_or(first_);
-}
+double NumberSpin::valueFromText(QString const& text) const { return typed(text).value_or(first_); }
 
 QValidator::State NumberSpin::validate(QString& text, int& at) const {
     if (text == specialValueText()) {

@@ -1,5 +1,6 @@
 #include "workbench/values/WeaveEditor.h"
 
+#include "workbench/scene/ExpressionSpin.h"
 #include "workbench/values/NumberSpin.h"
 #include "workbench/values/WeaveGrid.h"
 #include "workbench/values/parameterValue.h"
@@ -12,7 +13,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QSignalBlocker>
-#include <QSpinBox>
 #include <QToolButton>
 
 #include <algorithm>
@@ -47,15 +47,17 @@ constexpr Generator generators[] = {
 
 QString text(char const* source) { return QCoreApplication::translate("WeaveEditor", source); }
 
-QSpinBox* makeCount(QWidget* parent, QString const& name, int value, int largest) {
-    auto* const box = new QSpinBox(parent);
+ExpressionSpin* makeCount(QWidget* parent, QString const& name, int value, int largest) {
+    auto* const box = new ExpressionSpin(parent);
+    box->setDecimals(0);
     box->setRange(1, largest);
     box->setValue(value);
     box->setAccessibleName(name);
     box->setToolTip(name);
-    box->setKeyboardTracking(false);
     return box;
 }
+
+int countOf(ExpressionSpin const* box) { return static_cast<int>(box->value()); }
 
 } // namespace
 
@@ -172,11 +174,11 @@ void WeaveEditor::makeSize(QGridLayout& layout) {
     wefts_->setObjectName("weaveWefts");
     auto const resize = [this] {
         WeavePattern weave = grid_->weave();
-        weave.setSize(warps_->value(), wefts_->value());
+        weave.setSize(countOf(warps_), countOf(wefts_));
         give(weave);
     };
-    connect(warps_, &QSpinBox::valueChanged, this, resize);
-    connect(wefts_, &QSpinBox::valueChanged, this, resize);
+    connect(warps_, &QDoubleSpinBox::valueChanged, this, resize);
+    connect(wefts_, &QDoubleSpinBox::valueChanged, this, resize);
     auto* const invert = new QToolButton(this);
     invert->setText(tr("Invert"));
     connect(invert, &QToolButton::clicked, this, [this] {
@@ -262,7 +264,7 @@ void WeaveEditor::give(WeavePattern const& weave) {
 }
 
 void WeaveEditor::generate() {
-    give(generators[generator_->currentIndex()].make(first_->value(), second_->value()));
+    give(generators[generator_->currentIndex()].make(countOf(first_), countOf(second_)));
 }
 
 } // namespace workbench

@@ -7,11 +7,11 @@
 
 class QComboBox;
 class QGridLayout;
-class QSpinBox;
 class QToolButton;
 
 namespace workbench {
 
+class ExpressionSpin;
 class NumberSpin;
 class WeaveGrid;
 class WeavePreview;
@@ -45,10 +45,10 @@ private:
     WeaveGrid* grid_;
     WeavePreview* preview_;
     QComboBox* generator_;
-    QSpinBox* first_;
-    QSpinBox* second_;
-    QSpinBox* warps_;
-    QSpinBox* wefts_;
+    ExpressionSpin* first_;
+    ExpressionSpin* second_;
+    ExpressionSpin* warps_;
+    ExpressionSpin* wefts_;
     std::array<YarnRow, 2> yarns_;
 };
 
