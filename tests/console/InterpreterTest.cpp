@@ -109,7 +109,7 @@ TEST_F(InterpreterTest, NamesReachTheTerminalAsTextAndColoursAsBlocks) {
 TEST_F(InterpreterTest, WhatMayHaveBeenMeantIsSaid) {
     EXPECT_EQ(
         script("color show teal\nlight show Key\nmaterial show Seat\ncolor set Teal SteelBlu\n"
-               "colorway apply Autum\nlight assign accent 24\nweave new denim plain\n"
+               "colorway apply Aubumm\nlight assign accent 24\nweave new denim plain\n"
                "weave show denm\nhelp colour\nhelp color lst\ncolor show Nobody\n",
                true),
         10);

@@ -1,10 +1,16 @@
 #include "host/pictures/png.h"
 
 #include "host/Arguments.h"
+#include "host/Host.h"
+#include "host/Interpreter.h"
 #include "host/pictures/rasterPng.h"
+#include "support/sourceDir.h"
 
 #include <QImage>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
+
+#include <sstream>
 
 using app::ColorBytes;
 using app::Ink;
@@ -69,6 +75,21 @@ TEST(Png, ShowsWhatTheShapesSay) {
         EXPECT_EQ(light.pixel(row.x, row.y), row.light) << row.x << ' ' << row.y;
         EXPECT_EQ(dark.pixel(row.x, row.y), row.dark) << row.x << ' ' << row.y;
     }
+}
+
+TEST(Png, APaintedSurfaceIsSavedWithItsOwnColors) {
+    std::ostringstream out;
+    app::Host host(out);
+    app::Interpreter interpreter(host);
+    QTemporaryDir const folder;
+    ASSERT_EQ(host.load(sourceDir() + "/examples/scenes/showroom.json"), "");
+    std::string const path = folder.filePath("surface.png").toStdString();
+    for (std::string const& line :
+         {std::string("surface new 4"), std::string("layer background 0 #ff400080"),
+          "picture save " + path}) {
+        interpreter.run(line);
+    }
+    EXPECT_EQ(QImage(QString::fromStdString(path)).pixel(0, 0), 0x80ff4000u);
 }
 
 TEST(Png, RefusesWhatItCannotShow) {
