@@ -1,8 +1,10 @@
 #include "host/Palette.h"
 
+#include "documents/documentText.h"
 #include "host/Arguments.h"
 
-#include <gtest/gtest.h>
+#include <QString>
+#include <gmock/gmock.h>
 
 #include <string>
 
@@ -48,6 +50,29 @@ TEST(Palette, LinesAreReadOrRefusedByTheirNumber) {
     }
     EXPECT_EQ(app::paletteText({"a\nb", 0, {{"c\nd", {1, 2, 3}}}}),
               "GIMP Palette\nName: a\\nb\nColumns: 0\n#\n  1   2   3\tc\\nd\n");
+}
+
+TEST(Palette, IsWhatTheDocumentSays) {
+    QString const document = documents::read("docs/formats.md");
+    QString const example = document.section("\n## Palette (text)\n", 1).section("```\n", 1, 1);
+    EXPECT_EQ(readAndWritten(example.toStdString()), example.toStdString());
+    auto const table = documents::rowsOf(document, "Palette (text)");
+    ASSERT_EQ(table.size(), 4u);
+    EXPECT_EQ(documents::firstOf("`(.+)`", table[0][1])[0], example.section('\n', 0, 0));
+    for (QString const& key : documents::firstOf("`(\\w+:)`", table[1][0])) {
+        EXPECT_TRUE(example.contains('\n' + key + ' ')) << key.toStdString();
+    }
+    EXPECT_EQ(documents::firstOf(R"(0 to (\d+) columns)", table[1][1])[0].toInt(),
+              app::Palette::mostColumns);
+    int const largest = documents::firstOf(R"(0 to (\d+) in sRGB)", table[2][1])[0].toInt();
+    std::string const none = documents::firstOf("\"(\\w+)\"", table[2][1])[0].toStdString();
+    std::string const mark = documents::firstOf("`(.)`", table[3][0])[0].toStdString();
+    std::string const text = "GIMP Palette\n\n" + mark + " x\n0 0 ";
+    EXPECT_THAT(readAndWritten(text + std::to_string(largest)),
+                testing::EndsWith('\t' + none + '\n'));
+    EXPECT_THAT(readAndWritten(text + std::to_string(largest + 1)),
+                testing::StartsWith("p.gpl:4:"));
+    EXPECT_TRUE(app::paletteFromText(text + "1 " + none, "").colors[0].name.empty());
 }
 
 } // namespace

@@ -1,10 +1,22 @@
 #include "documents/documentText.h"
+#include "support/EventTrace.h"
+#include "support/sourceDir.h"
 #include "zsg/core/EventType.h"
+#include "zsg/core/ISceneGraph.h"
+#include "zsg/core/SceneGraphPars.h"
+#include "zsg/painting/IPainter.h"
+#include "zsg/painting/IPainterManager.h"
+#include "zsg/painting/IPainterSurface.h"
+
+#include "nyxembedded/Renderer.h"
 
 #include <QRegularExpression>
 #include <QString>
 #include <QStringList>
 #include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
 
 using namespace documents;
 
@@ -34,6 +46,37 @@ TEST(Tables, EveryEventHasItsRow) {
         EXPECT_TRUE(wanted.removeOne(row.mid(0, 5).join(" | "))) << row.join(" | ").toStdString();
     }
     EXPECT_EQ(wanted.join("\n").toStdString(), "") << "have no row";
+}
+
+TEST(Tables, SayWhatPaintingPostsWithoutATaskQueue) {
+    nyx::embedded::Renderer renderer;
+    ASSERT_EQ(renderer.loadScene(sourceDir() + "/examples/scenes/showroom.json"), "");
+    zsg::SceneGraphPars pars;
+    pars.rtApi = renderer.api();
+    auto const root = zsg::ISceneGraph::create(pars);
+    zsg::IPainter& painter = *root->painterManager()->painter();
+    zsg::IPainterSurface& surface = *painter.surface(painter.createSurface(64));
+    std::map<QString, std::function<void()>> const edits = {
+        {"addLayer", [&] { surface.addLayer(0); }},
+        {"setLayerDeleted", [&] { surface.setLayerDeleted(1, true); }},
+        {"setLayerBlend", [&] { surface.setLayerBlend(0, nyx::ColorBlendMode::Multiply); }},
+        {"setLayerVisibility", [&] { surface.setLayerVisibility(0, false); }},
+        {"setLayerName", [&] { surface.setLayerName(0, "Dirt"); }},
+        {"moveLayer", [&] { surface.moveLayer(0, 1); }},
+        {"setLayerBackgroundColor",
+         [&] {
+             surface.setLayerBackgroundColor(0, {1, 0, 0, 1}, true);
+         }},
+    };
+    auto const table = rowsOf(read("docs/events.md"), "Paint layers");
+    QStringList const name = all("^all but `(\\w+)`, without a task queue$", table.back()[0]).at(0);
+    EXPECT_EQ(table.back()[1], "none");
+    EventTrace trace(*root->eventQueue());
+    for (QString const& call : firstOf("`(\\w+)`", table[0][0] + table[1][0])) {
+        edits.at(call)();
+        EXPECT_EQ(trace.take(), call == name[0] ? "PaintLayersUpdated 1" : "")
+            << call.toStdString();
+    }
 }
 
 TEST(Tables, EveryCommandOfTheProgramsHasItsRow) {
