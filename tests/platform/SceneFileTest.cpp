@@ -2,6 +2,7 @@
 
 #include "nyxembedded/Painting.h"
 #include "nyxembedded/Renderer.h"
+#include "nyxrender/nyxLight_layer_db.h"
 #include "nyxrender/nyxScene.h"
 
 #include <QDir>
@@ -87,6 +88,8 @@ light 4 "" layer 3 unlisted
     ASSERT_EQ(again.loadSceneText(renderer.saveSceneText()), "");
     EXPECT_EQ(again.dump(), before);
     EXPECT_EQ(again.colors().add("New", {}), nyx::ColorId(90)) << "as the file says";
+    ASSERT_EQ(again.loadSceneText(scene(R"("lightLayers": [{"id": 1}])")), "");
+    EXPECT_EQ(again.lightLayers().environment_light_mask(), 1u) << "as a new scene";
     ASSERT_TRUE(renderer.colors().remove(renderer.colors().add("Blue", {1, 0, 0, 1})));
     EXPECT_EQ(renderer.dump(), before) << "no undo takes back the next id and the revisions";
 }
