@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <string>
 #include <vector>
 
 class ZUndoStack;
@@ -41,6 +42,13 @@ struct PaletteCounts {
 /// text `text`; new colours cannot be undone, because a scene keeps its records.
 PaletteCounts bringIn(zsg::ISceneGraph& root, ZUndoStack& undoStack, Palette const& palette,
                       SameName how, QString const& text);
+
+/// What a palette has and a scene has no place for: the next one that is written gets that of the
+/// one that was read last.
+struct PaletteHeader {
+    std::string name; ///< UTF-8
+    int columns = 0;
+};
 
 /// The plain ones of some colours of a scene, without a header.
 struct ScenePalette {

@@ -1,3 +1,5 @@
+#include "host/InputFile.h"
+#include "host/Palette.h"
 #include "support/sourceDir.h"
 #include "workbench/WindowScene.h"
 #include "workbench/colors/ColorsPanel.h"
@@ -27,4 +29,12 @@ TEST_F(PaletteFilesTest, ComeInAndGoOut) {
     answer("OK");
     panel.importFrom(inFolder("scene.json"));
     EXPECT_TRUE(asked.contains("scene.json:1: is no palette")) << asked.toStdString();
+    answer("Discard");
+    EXPECT_TRUE(window.files().open(inFolder("scene.json")));
+    panel.exportTo(inFolder("next.gpl"));
+    EXPECT_EQ(app::paletteFromText(app::readInputFile(inFolder("next.gpl").toStdString(), 100'000),
+                                   "next.gpl")
+                  .name,
+              "next")
+        << "the name of the palette that another scene brought in";
 }

@@ -21,12 +21,6 @@ namespace app {
 
 namespace {
 
-/// Name and columns of the palette that was read last, which the next one that is written gets.
-struct PaletteHeader {
-    std::string name;
-    int columns = 0;
-};
-
 Palette takePalette(Arguments& arguments) {
     std::string const path = arguments.word("a path");
     return paletteFromText(readInputFile(path, largestPalette), path);

@@ -4,6 +4,7 @@
 #include "workbench/colors/ColorModel.h"
 #include "workbench/colors/colorMime.h"
 #include "workbench/colors/importColors.h"
+#include "workbench/colors/paletteFiles.h"
 #include "workbench/colors/swatch.h"
 #include "workbench/scene/Scene.h"
 #include "zsg/colors/ColorController.h"
@@ -129,6 +130,7 @@ void ColorsPanel::makeViews() {
     connect(&scene_, &Scene::changed, this, &ColorsPanel::keepCurrent);
     connect(&scene_, &Scene::rootEnding, this, [this] { // its ids mean nothing in another scene
         current_ = {};
+        header_ = {};
         emit currentChanged(current_);
     });
 }

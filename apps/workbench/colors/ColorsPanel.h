@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/colors/paletteFiles.h"
+#include "host/scenePalette.h"
 #include "workbench/scene/Panel.h"
 
 #include "nyxrender/Ids.h"
@@ -65,8 +65,8 @@ private:
     QTreeView* list_;
     QItemSelectionModel* selection_;
     nyx::ColorId current_;
-    PaletteHeader header_; ///< of the palette that was brought in last
-    bool rowsGo_ = false;  ///< while rows are taken away
+    app::PaletteHeader header_; ///< of the palette that was brought in last
+    bool rowsGo_ = false;       ///< while rows are taken away
 };
 
 } // namespace workbench

@@ -51,7 +51,7 @@ void warn(app::CommandError const& error, QWidget* parent) {
 
 } // namespace
 
-void importPalette(Scene& scene, QString const& path, PaletteHeader& header, QWidget* parent) {
+void importPalette(Scene& scene, QString const& path, app::PaletteHeader& header, QWidget* parent) {
     scene.endDrags();
     if (!scene.root()) {
         return;
@@ -71,8 +71,9 @@ void importPalette(Scene& scene, QString const& path, PaletteHeader& header, QWi
     if (!how || !scene.root()) {
         return;
     }
-    header = {QString::fromStdString(palette.name), palette.columns};
-    QString const name = header.name.isEmpty() ? QFileInfo(path).fileName() : header.name;
+    header = {palette.name, palette.columns};
+    QString const name =
+        palette.name.empty() ? QFileInfo(path).fileName() : QString::fromStdString(palette.name);
     auto const counts = app::bringIn(*scene.root(), scene.undoStack(), palette, *how,
                                      Text::tr("Import Palette (%1)").arg(name));
     QStringList parts;
@@ -92,13 +93,13 @@ void importPalette(Scene& scene, QString const& path, PaletteHeader& header, QWi
 }
 
 void exportPalette(Scene& scene, std::vector<nyx::ColorId> const& ids, QString const& path,
-                   PaletteHeader const& header, QWidget* parent) {
+                   app::PaletteHeader const& header, QWidget* parent) {
     if (!scene.root()) {
         return;
     }
     app::ScenePalette colors = app::paletteOf(*scene.colorDB(), ids);
-    QString const name = header.name.isEmpty() ? QFileInfo(path).completeBaseName() : header.name;
-    colors.palette.name = name.toStdString();
+    colors.palette.name =
+        header.name.empty() ? QFileInfo(path).completeBaseName().toStdString() : header.name;
     colors.palette.columns = header.columns;
     try {
         app::writeOutputFile(path.toStdString(), app::paletteText(colors.palette));
