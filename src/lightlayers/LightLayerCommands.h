@@ -87,8 +87,8 @@ private:
     bool remove_;
 };
 
-/// Puts the lights among items and below them into a layer; undo puts those that were listed in
-/// layers before back into them.
+/// Puts the lights among items, and those below the others, into a layer; undo puts those that were
+/// listed in layers before back into them.
 class ZSetItemLightLayerCommand final : public LightLayerCommand {
 public:
     using ItemsOfLayers = std::map<nyx::LightLayerId, std::vector<nyx::GroupItemId>>;

@@ -57,7 +57,15 @@ void sortUnique(std::vector<Value>& values) {
 
 std::vector<nyx::ObjectId> lightsOfItems(nyx::Span<nyxGroup_item*> items) {
     std::vector<nyx::ObjectId> lights;
-    forEachLight(items, [&](nyxGroup_item const& light) { lights.push_back(light.object_id()); });
+    std::vector<nyxGroup_item*> groups;
+    for (nyxGroup_item* const item : items) {
+        if (item->is_light()) {
+            lights.push_back(item->object_id());
+        } else {
+            groups.push_back(item);
+        }
+    }
+    forEachLight(groups, [&](nyxGroup_item const& light) { lights.push_back(light.object_id()); });
     sortUnique(lights);
     return lights;
 }

@@ -16,7 +16,7 @@ namespace zsg {
 // What the scene's hierarchy says about lights and their layers. Groups may be nested to any depth
 // and share what is in them. A null hierarchy has no objects.
 
-/// The lights among these items and below them, ascending, each once.
+/// The lights among these items, each alone, and those below the other ones, ascending, each once.
 [[nodiscard]] std::vector<nyx::ObjectId> lightsOfItems(nyx::Span<nyxGroup_item*> items);
 
 /// The masks of the shaders of these lights, ascending, each once.

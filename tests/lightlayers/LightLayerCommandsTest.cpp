@@ -33,6 +33,22 @@ TEST_F(LightLayerCommandsTest, editsOfOneLayerMergeWhenTheyDoTheSame) {
     EXPECT_EQ(stack.count(), 9);
 }
 
+TEST_F(LightLayerCommandsTest, undoLeavesLightsBelowOtherLightsWhereTheyAre) {
+    Light const bulb = renderer.items().addLight("Bulb", Item(lamp.toUint()));
+    api.addLights(accent, {bulb});
+    std::string const before = inScene();
+    edit.deleteLayer(practical);
+    EXPECT_EQ(trace([this] { stack.undo(); }),
+              "copy.flags 3; copy.set_flags 3 0; set_layer_flags 3 0; > LightLayerUpdated 3; "
+              "assign_layer_lights 3 [7]; > LightLayerUpdated 3");
+    EXPECT_EQ(inScene(), before);
+    edit.setItemsLightLayer(first, {Item(lamp.toUint())});
+    EXPECT_EQ(inScene(), "1 Default: 2 7; 2 Accent: 4 5 8; 3 Practical:");
+    stack.undo();
+    EXPECT_EQ(inScene(), before);
+    EXPECT_EQ(trace([this] { stack.redo(); }), "assign_layer_lights 1 [7]; > LightLayerUpdated 1");
+}
+
 // What undo does not bring back; docs/undo.md lists it.
 
 TEST_F(LightLayerCommandsTest, undoOfADeletionKeepsRenamesAndFlagsAndTheEnvironmentsLayer) {

@@ -72,6 +72,10 @@ TEST_F(SceneLightsTest, groupsMayShareHoldEachOtherAndBeNestedDeeply) {
     Node& lantern = light(9, 4); // a light may have lights below it, too
     lantern.below = {&last};
     EXPECT_EQ(numbers(lightsOfItems({&b, &shared, &a, &b, &lantern})), " 9 513 4294967294");
+    EXPECT_EQ(numbers(lightsOfItems({&lantern})), " 9") << "those stay where they are";
+    Node& hall = group(10);
+    hall.below = {&lantern};
+    EXPECT_EQ(numbers(lightsOfItems({&lantern, &hall})), " 9 513");
     EXPECT_EQ(masksOfItems({&b, &lantern}), (std::vector<std::uint32_t>{1, 2, 4}));
 
     EXPECT_EQ(numbers(lightsOfItems({&light(600, 1), &light(88, 1)})), " 88 600");

@@ -80,8 +80,9 @@ public:
     /// with its lights.
     virtual void moveLightsToNewLayer(nyx::Span<nyx::ObjectId> lights) = 0;
 
-    /// Puts every light among the items and below them into the layer, each once, and posts
-    /// LightLayerUpdatedEvent for it. The working copy follows at the next sync().
+    /// Puts every light among the items, and every one below those that are none, into the layer,
+    /// each once, and posts LightLayerUpdatedEvent for it. A light below a light stays. The working
+    /// copy follows at the next sync().
     virtual void setItemsLightLayer(nyx::LightLayerId layer, nyx::Span<nyx::GroupItemId> items) = 0;
 
     /// Puts lights into the layer, out of the one that they were in; posts LightLayerUpdatedEvent

@@ -39,7 +39,7 @@ public:
     virtual void removeLightsFromLayer(nyx::LightLayerId layer,
                                        nyx::Span<nyx::ObjectId> lights) = 0;
 
-    /// Puts every light among the items and below them into the layer.
+    /// Puts every light among the items, and every one below the others, into the layer.
     virtual void setItemsLightLayer(nyx::LightLayerId layer, nyx::Span<nyx::GroupItemId> items) = 0;
 
     /// ILightLayerApi::setFlags(); not undoable.

@@ -48,7 +48,7 @@ public:
     /// no layer. Costs one walk over the whole scene.
     [[nodiscard]] std::map<nyx::LightLayerId, std::vector<nyx::GroupItemId>> getLayerIdMap() const;
 
-    /// The part of getLayerIdMap() that is among these items or below them.
+    /// The part of getLayerIdMap() that setItemsLightLayer() would move.
     [[nodiscard]] std::map<nyx::LightLayerId, std::vector<nyx::GroupItemId>>
     getLayerIdMap(nyx::Span<nyx::GroupItemId> items) const;
 
