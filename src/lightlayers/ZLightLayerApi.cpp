@@ -179,7 +179,11 @@ nyx::LightLayerId ZLightLayerApi::cloneLayer(nyx::LightLayerId source) {
 
 void ZLightLayerApi::discard(nyx::LightLayerId layer) {
     workingLayers_.delete_layer(layer);
-    sceneLayers_->delete_n_remap_layer(*scene(), layer);
+    if (nyxScene* const target = scene()) {
+        sceneLayers_->delete_n_remap_layer(*target, layer);
+    } else {
+        sceneLayers_->delete_layer(layer);
+    }
 }
 
 void ZLightLayerApi::deleteLayer(nyx::LightLayerId layer) {

@@ -4,6 +4,7 @@
 #include "zsg/core/Events.h"
 
 #include <iostream>
+#include <stdexcept>
 
 using namespace zsg;
 
@@ -150,6 +151,10 @@ TEST_F(ZLightLayerApiTest, worksWithoutQueueAndWithoutScene) {
         blind->deleteLayer(accent);
     }
     EXPECT_EQ(later.createLayer("Top"), none);
+    EventTrace trace(queue);
+    trace.reaction = [] { throw std::runtime_error("unwilling"); };
+    EXPECT_THROW(api.createLayer("Top"), std::runtime_error); // which had its scene before
+    trace.reaction = {};
     EXPECT_EQ(later.cloneLayer(accent), none);
     later.setLayerName(accent, "Top");
     never.addLights(practical, {});

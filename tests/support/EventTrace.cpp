@@ -21,6 +21,9 @@ void EventTrace::onEvent(Event const* event) {
         lines_ += '\n';
     }
     lines_ += line(*event);
+    if (reaction) {
+        reaction();
+    }
 }
 
 std::string EventTrace::take() { return std::exchange(lines_, {}); }

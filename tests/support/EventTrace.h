@@ -4,6 +4,7 @@
 #include "zsg/core/IEventQueue.h"
 #include "zsg/core/Subscription.h"
 
+#include <functional>
 #include <initializer_list>
 #include <string>
 
@@ -19,6 +20,9 @@ public:
 
     /// The lines since the last call, without a line break at the end; empty when there were none.
     std::string take();
+
+    /// What is done at each event, beside.
+    std::function<void()> reaction;
 
     /// The line of one event.
     [[nodiscard]] static std::string line(zsg::Event const& event);
