@@ -53,9 +53,10 @@ void ZPainter::addSurface(nyx::SurfaceId id) {
     if (surfaces_.size() == surfaces_.capacity()) {
         surfaces_.reserve(2 * surfaces_.size() + 8); // nothing is lost when memory runs out
     }
+    IPainterSurface*& place = byId_[id]; // so that nothing can fail once the surface is listed
     auto* const added = new ZPaintSurface(id, custom, rtApi_, taskQueue_, eventQueue_, undoStack_);
     surfaces_.push_back(added);
-    byId_.emplace(id, added);
+    place = place ? place : added;
 }
 
 std::vector<IPainterSurface*> ZPainter::surfaces() { return surfaces_; }

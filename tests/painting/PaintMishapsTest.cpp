@@ -3,6 +3,7 @@
 #include "zsg/core/SceneGraphPars.h"
 
 #include <regex>
+#include <set>
 
 using namespace zsg;
 
@@ -61,6 +62,12 @@ struct Studio final : PaintScene {
                 return list;
             };
             EXPECT_EQ(withoutMark(list(s)), withoutMark(rendererList(id)));
+        }
+        IPainter& p = *studioRoot->painterManager()->painter();
+        p.reload();
+        std::set<nyx::SurfaceId> ids;
+        for (IPainterSurface* const s : p.surfaces()) {
+            EXPECT_TRUE(ids.insert(s->id()).second) << "two models of one surface";
         }
     }
 
