@@ -115,6 +115,9 @@ void ZColorwayEdit::setDeleted(bool on) { setFlag(ColorwayFlags::Deleted, on); }
 
 std::unique_ptr<ZColorwayEdit> ZColorwayEdit::copy() const {
     ParameterBlock copied = block_.copy();
+    if (nyx::ColorwayId const own = id(); own.isValid()) { // a renderer may clone the values only
+        copied.setRecord(own.value, Id);
+    }
     return std::unique_ptr<ZColorwayEdit>(new ZColorwayEdit(std::move(copied)));
 }
 

@@ -80,4 +80,9 @@ TEST_F(ZColorwayEditTest, SettersMarkTheEditWhenTheyAlterSomething) {
     EXPECT_TRUE(edit.isActive() && edit.isDeleted() && edit.displayName() == "Winter");
     EXPECT_TRUE(copy->id() == colorway && copy->displayName() == "Autumn");
     EXPECT_TRUE(copy->commit(false) && !copy->commit(false));
+    auto const other = renderer.colorways().add("Other", {});
+    nyxParameter_edit* const astray = api()->colorway_params(colorway);
+    astray->record_id = other.value; // as of a renderer whose clones are nobody's
+    ZColorwayEdit(api(), astray).copy()->commit(true);
+    EXPECT_EQ(renderer.colorways().record(other)->name, "Other");
 }
