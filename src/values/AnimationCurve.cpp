@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 #include <string_view>
 #include <utility>
 
@@ -34,6 +35,9 @@ nyxVector2f weighted(nyxVector2f const& handle, nyxVector2f const& pos, float we
     double const scale = std::max(0.0f, weight) / length;
     return {static_cast<float>(pos.x + dx * scale), static_cast<float>(pos.y + dy * scale)};
 }
+
+/// An infinite one would give a handle coordinates that no later weight can repair.
+bool isWeight(float weight) { return weight != std::numeric_limits<float>::infinity(); }
 
 /// The point on the way from the key at `pos` to its neighbour where the key's handle lies.
 nyxVector2f thirdOfWay(nyxVector2f const& pos, nyxVector2f const& neighbour) {
@@ -140,11 +144,13 @@ bool AnimationCurve::setOut(int index, nyxVector2f const& out) {
 }
 
 bool AnimationCurve::setWeightIn(int index, float weight) {
-    return hasKey(index) && setIn(index, weighted(keyAt(index).in, keyAt(index).pos, weight));
+    return hasKey(index) && isWeight(weight) &&
+           setIn(index, weighted(keyAt(index).in, keyAt(index).pos, weight));
 }
 
 bool AnimationCurve::setWeightOut(int index, float weight) {
-    return hasKey(index) && setOut(index, weighted(keyAt(index).out, keyAt(index).pos, weight));
+    return hasKey(index) && isWeight(weight) &&
+           setOut(index, weighted(keyAt(index).out, keyAt(index).pos, weight));
 }
 
 bool AnimationCurve::removeKey(int index) {

@@ -70,6 +70,7 @@ TEST(AnimationCurve, MovesPointsOfOneKey) {
     EXPECT_EQ(curve, (AnimationCurve{key(0, 0), {{10, 10}, {4, 2}, {11.5, 12}}, key(20, 5)}));
     EXPECT_TRUE(curve.setWeightIn(1, -3) && curve.setWeightOut(1, NAN));
     EXPECT_EQ(curve, (AnimationCurve{key(0, 0), bare(10, 10), key(20, 5)}));
+    EXPECT_FALSE(curve.setWeightIn(1, INFINITY) || curve.setWeightOut(1, INFINITY));
     // A handle on its key points backwards, which an outgoing one may do at the last key only.
     EXPECT_TRUE(curve.setWeightIn(1, 2) && curve.removeKey(2));
     EXPECT_TRUE(curve.setWeightOut(1, 3));

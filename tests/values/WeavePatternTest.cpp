@@ -195,7 +195,7 @@ TEST(WeavePattern, EqualityIsFuzzyAndHashingLeavesTheModulusOut) {
     WeavePattern other = WeavePattern::makePlain();
     other.setWidth(Warp, 0.700001f);
     EXPECT_TRUE(other.equals(plain));
-    other.setWidth(Warp, 0.7001f);
+    other.setWidth(Warp, 0.70001f);
     EXPECT_FALSE(other.equals(plain));
     WeavePattern zero = WeavePattern::makePlain();
     zero.setTension(Weft, 0);

@@ -42,8 +42,8 @@ public:
     bool setOut(int index, nyxVector2f const& out);
 
     /// setKey() with one handle at the distance `weight` from the position, in the direction in
-    /// which it lies. Weights below 0 and NaN count as 0. A handle that lies on the position is
-    /// given the direction (-1, 0), the outgoing one too.
+    /// which it lies. Weights below 0 and NaN count as 0; infinity is refused. A handle that lies
+    /// on the position is given the direction (-1, 0), the outgoing one too.
     bool setWeightIn(int index, float weight);
     bool setWeightOut(int index, float weight);
 
