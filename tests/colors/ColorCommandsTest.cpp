@@ -61,6 +61,22 @@ TEST_F(ColorCommandsTest, ASwitchStopsAtAMissingMultiColorAndIsNotPushed) {
     EXPECT_EQ(since(before), "Cover subs 1 2 active 2");
 }
 
+TEST_F(ColorCommandsTest, EveryActiveColorwayLosesItsFlagAndGetsItBack) {
+    db->getColorwayParameters(winter)->setActive(true);
+    db->pushColorway(winter); // shows the green one in the multi-colour; Summer stays active
+    auto const way = renderer.colorways().add("Way", {{cover, red}});
+    std::string const before = renderer.dump();
+    std::string const off = "Summer off; colorway 2 'Winter' pairs 4:2";
+    edit.applyColorway(way);
+    EXPECT_EQ(since(before), "active colorway 3; " + off + "; colorway 3 'Way' flags 2 pairs 4:1");
+    stack.undo();
+    EXPECT_EQ(since(before), "");
+    edit.addSubColors(cover, ids(blue), 0, blue);
+    EXPECT_EQ(since(before), "Cover subs 3 1 2 active 3; " + off);
+    stack.undo();
+    EXPECT_EQ(since(before), "");
+}
+
 TEST_F(ColorCommandsTest, ListsOfAColorEditAreFollowedBothWays) {
     auto const command = colorEdit(6, cover);
     command->setUndeleteOnRedo({winter, noColorway});

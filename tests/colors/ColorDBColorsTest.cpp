@@ -90,9 +90,9 @@ TEST_F(ColorDBColorsTest, CopiesAreMadeUnderTheLockAndToldOfAfterIt) {
     EXPECT_EQ(db->colorFromId(db->cloneRecursively(red)).nColors(), 1);
 
     ColorId made;
-    EXPECT_EQ(
-        calls([&] { made = db->createColor("Fresh", nyxColor_extended::MultiColor); }).find('>'),
-        std::string::npos);
+    EXPECT_EQ(calls([&] { made = db->createColor("Fresh", nyxColor_extended::MultiColor); }),
+              "lock, begin_color, set_param \"display_name\" 10 \"Fresh\", end_color, "
+              "nyx_color_set_unique_name 10, unlock");
     EXPECT_TRUE(db->getColorParameters(made)->hasFlag(ColorFlags::MultiColor));
 }
 

@@ -29,6 +29,7 @@ TEST(ZCMFManager, startsWithTheBuiltInSchemaAndAnnouncesEveryReplacement) {
 
     EventTrace trace(*root->eventQueue());
     ZCMFSchema given{"Seats", {{"Seam", false, ZCMFAttributeKind::Color4, "thread"}}};
+    trace.reaction = [&] { EXPECT_EQ(manager->schema(), given) << "heard before it is so"; };
     manager->setSchema(given);
     EXPECT_EQ(trace.take(), "CMFSchemaChanged");
     EXPECT_EQ(manager->schema(), given);

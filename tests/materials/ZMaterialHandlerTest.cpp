@@ -101,6 +101,11 @@ TEST_F(ZMaterialHandlerTest, appliesByReplacingAllValuesInKeyOrderAndAnnouncesIt
     descriptor->setValue("A", "");
     descriptor->removeValue("Weight");
     EXPECT_EQ(handler->descriptor(made.fabric)->value("Weight"), "310 g") << "it is detached";
+    std::string heard;
+    trace->reaction = [&] { heard += handler->descriptor(made.fabric)->value(0); };
+    EXPECT_TRUE(handler->applyDescriptor(*descriptor));
+    EXPECT_EQ(heard, "Bouclé");
+    trace->reaction = {};
     takeJournal();
     EXPECT_TRUE(handler->applyDescriptor(*descriptor));
     EXPECT_EQ(takeJournal(), "nyx_material_from_id 1\n"
@@ -110,7 +115,7 @@ TEST_F(ZMaterialHandlerTest, appliesByReplacingAllValuesInKeyOrderAndAnnouncesIt
                              "nyx_material_set_cmf_value 1 \"A\" \"\"\n"
                              "nyx_material_set_cmf_value 1 \"CMF::TEXT::NAME\" \"Bouclé\"\n"
                              "nyx_material_set_cmf_value 1 \"CMF::TEXT::VENDOR\" \"Norrland\"");
-    EXPECT_EQ(trace->take(), "MaterialDescriptionChanged 1");
+    EXPECT_EQ(trace->take(), "MaterialDescriptionChanged 1\nMaterialDescriptionChanged 1");
     EXPECT_EQ(handler->descriptor(made.fabric)->values(), std::as_const(*descriptor).values());
 
     // A material that has gone is still told of.

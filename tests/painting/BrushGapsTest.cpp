@@ -56,5 +56,16 @@ TEST_F(BrushGaps, AnEmptyRootLeavesTheFields) {
     }
 }
 
+TEST_F(BrushGaps, WithoutASceneTheNodesStillGetTheFields) {
+    takeJournal();
+    renderer.faults().noScene = true;
+    set("basic_opacity_percent", 40.0f);
+    brush->applyToNode();
+    EXPECT_EQ(node("basic_opacity").f, 0.4f);
+    std::string const journal = takeJournal();
+    EXPECT_NE(journal.find("update_brush_node"), std::string::npos);
+    EXPECT_EQ(journal.find("load_brush_file"), std::string::npos);
+}
+
 } // namespace
 } // namespace zsg
