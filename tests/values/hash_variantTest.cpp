@@ -38,6 +38,10 @@ TEST(HashVariant, ValuesAreFixed) { // those of the samples are seen in the surf
     nearly.m[3] = 4.0000000000001;
     EXPECT_EQ(hashOf(nearly), test::Sample<nyxMatrix>::hash) << "the lowest bits are left out";
 
+    float bound = 12.5f;
+    PointerVariant<float> const other(&bound); // another holder of the same type
+    EXPECT_EQ(hash_variant(&other), hashOf(12.5f));
+
     // A multi-colour is hashed by all its colours, whichever is active.
     EXPECT_EQ(hashOf(test::multiColor()), 0x5b9b8060a61c4805u);
 }
