@@ -11,6 +11,9 @@
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/materials/ICMFManager.h"
 
+#include "nyxrender/nyxRT_api.h"
+#include "nyxrender/nyx_material.h"
+
 #include <QAction>
 #include <QComboBox>
 #include <QDropEvent>
@@ -147,6 +150,20 @@ TEST_F(MaterialsTest, AFormBySchemaWhoseEditsCanBeUndone) {
     tree.removeCurrent();
     EXPECT_NE(run("material metadata \"Armrest Leather\" thickness_mm").find(R"([{"a/b":"x"}])"),
               std::string::npos);
+}
+
+TEST_F(MaterialsTest, UndoBringsMetadataBackAsItWasSpelt) {
+    scratch = true; // such texts come from other programs
+    auto& seat = *nyx_material_from_id(scene().root()->rtApi()->scene(), nyx::MaterialId(1));
+    ASSERT_TRUE(window.panel("material")->select("Seat Fabric"));
+    for (char const* const text : {R"({ "b": 1.0, "a": 2 })", "article NT-2040"}) {
+        nyx_material_set_metadata(seat, text);
+        std::string const before = dump();
+        find<MetadataTree>("metadata").add("note");
+        EXPECT_NE(dump(), before);
+        stack().undo();
+        EXPECT_EQ(dump(), before);
+    }
 }
 
 TEST_F(MaterialsTest, BoundColoursFollowAndLeadToTheirColour) {

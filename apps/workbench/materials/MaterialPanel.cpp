@@ -218,7 +218,7 @@ void MaterialPanel::changeDescription(
         return;
     }
     scene_.undoStack().push(std::make_unique<app::DescribeMaterialCommand>(
-                                *handler, std::move(before), std::move(after))
+                                *scene_.root(), std::move(before), std::move(after))
                                 .release());
 }
 
