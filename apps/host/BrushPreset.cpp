@@ -1,6 +1,6 @@
 #include "host/BrushPreset.h"
 
-#include "host/Arguments.h"
+#include "host/parseJson.h"
 #include "zsg/painting/IPainterBrush.h"
 #include "zsg/values/Enumerable.h"
 
@@ -66,6 +66,30 @@ Json valueOf(Parameter const& p, QDir const& folder) {
     throw CommandError("\"" + key + "\" " + why);
 }
 
+void checkLimits(std::string const& key, Parameter const& p, float number) {
+    float low = std::numeric_limits<float>::lowest();
+    float high = std::numeric_limits<float>::max();
+    (void)p.limits(low, high);
+    if (!(number >= low && number <= high)) {
+        refuse(key, "is not between " + numberOf(low).dump() + " and " + numberOf(high).dump());
+    }
+}
+
+void checkFinite(std::string const& key, nyxColor_rgba const& color) {
+    if (!std::isfinite(color.r) || !std::isfinite(color.g) || !std::isfinite(color.b)) {
+        refuse(key, "has a component that is no finite number");
+    }
+}
+
+/// What is written must be possible to read.
+void checkWritable(std::string const& key, Parameter const& p) {
+    if (p.type() == Type::Float) {
+        checkLimits(key, p, *p.value<float>());
+    } else if (p.type() == Type::Color) {
+        checkFinite(key, p.getColor().rgba());
+    }
+}
+
 float takeFloat(std::string const& key, Json const& value) {
     if (!value.is_number()) {
         refuse(key, "is not a number");
@@ -94,12 +118,7 @@ void setValue(std::string const& key, Parameter p, Json const& value, QDir const
         break;
     case Type::Float: {
         float const number = takeFloat(key, value);
-        float low = std::numeric_limits<float>::lowest();
-        float high = std::numeric_limits<float>::max();
-        (void)p.limits(low, high);
-        if (!(number >= low && number <= high)) {
-            refuse(key, "is not between " + numberOf(low).dump() + " and " + numberOf(high).dump());
-        }
+        checkLimits(key, p, number);
         p.setValue(number);
         break;
     }
@@ -117,8 +136,10 @@ void setValue(std::string const& key, Parameter p, Json const& value, QDir const
         if (!value.is_array() || value.size() != 3) {
             refuse(key, "is not [red, green, blue]");
         }
-        p.setColor(ZColorExt(takeFloat(key, value[0]), takeFloat(key, value[1]),
-                             takeFloat(key, value[2])));
+        nyxColor_rgba const color{takeFloat(key, value[0]), takeFloat(key, value[1]),
+                                  takeFloat(key, value[2]), 1};
+        checkFinite(key, color);
+        p.setColor(ZColorExt(color.r, color.g, color.b));
         break;
     }
     case Type::String: {
@@ -146,7 +167,9 @@ std::string brushPreset(zsg::IPainterBrush const& brush, std::string const& fold
     Json parameters = Json::object(); // in the order of the names
     for (Parameter const& parameter : brush.parameters()) {
         if (isBrushSetting(parameter)) {
-            parameters[parameter.name().toStdString()] = valueOf(parameter, from);
+            std::string const key = parameter.name().toStdString();
+            checkWritable(key, parameter);
+            parameters[key] = valueOf(parameter, from);
         }
     }
     nlohmann::ordered_json preset;
@@ -157,7 +180,7 @@ std::string brushPreset(zsg::IPainterBrush const& brush, std::string const& fold
 }
 
 void setBrushPreset(zsg::IPainterBrush& brush, std::string const& text, std::string const& folder) {
-    Json const preset = Json::parse(text, nullptr, false);
+    Json const preset = parseJson<Json>(text);
     if (preset.is_discarded() || !preset.is_object()) {
         throw CommandError("not a JSON object");
     }

@@ -6,6 +6,7 @@
 #include "host/Interpreter.h"
 #include "host/Interruption.h"
 #include "host/LineReader.h"
+#include "host/parseJson.h"
 #include "zsg/version.h"
 
 #include <nlohmann/json.hpp>
@@ -22,16 +23,9 @@ using Json = nlohmann::ordered_json;
 /// A client may talk for weeks, so that what nobody counts is forgotten.
 constexpr std::size_t mostEvents = 1'000'000;
 
-// Copying, writing and comparing a value go as deep as it is nested.
 Json parse(std::string const& line) {
-    constexpr int deepest = 64;
     try {
-        return Json::parse(line, [](int depth, Json::parse_event_t, Json&) {
-            if (depth > deepest) {
-                throw CommandError("nested deeper than " + std::to_string(deepest), "bad-json");
-            }
-            return true;
-        });
+        return parseJson<Json>(line, true);
     } catch (Json::exception const& error) {
         std::string const text = error.what(); // "[json.exception...] what"
         throw CommandError(text.substr(text.find("] ") + 2), "bad-json");

@@ -48,11 +48,20 @@ TEST_F(BrushPreset, ComesBackAsItWas) {
     EXPECT_EQ(brushPreset(*brush, "/brushes"), text);
 }
 
+TEST_F(BrushPreset, IsNotWrittenWhenItCouldNotBeRead) {
+    brush->parameter("basic_size_px_value").setValue(200'000.0f);
+    EXPECT_THROW((void)brushPreset(*brush, "/brushes"), CommandError);
+    brush = freshBrush(host);
+    brush->parameter("color_color").setColor(ZColorExt(INFINITY, 0, 0));
+    EXPECT_THROW((void)brushPreset(*brush, "/brushes"), CommandError);
+}
+
 TEST_F(BrushPreset, RefusesWhatIsNone) {
     EXPECT_EQ(refusal("{}"), "");
     for (char const* const text : {"", "[]", "{\"version\":1", "nul"}) {
         EXPECT_EQ(refusalOf(text), "not a JSON object") << text;
     }
+    EXPECT_EQ(refusalOf("{\"version\":" + std::string(100'000, '[')), "nested deeper than 64");
     EXPECT_EQ(refusalOf(R"({"parameters":{}})"), "\"version\" is not 1");
     EXPECT_EQ(refusalOf(R"({"version":2,"parameters":{}})"), "\"version\" is not 1");
     EXPECT_THAT(refusalOf(R"({"version":1})"), testing::HasSubstr("are expected"));
@@ -69,6 +78,8 @@ TEST_F(BrushPreset, RefusesWhatIsNone) {
           Row{R"({"basic_rotation":361})", R"("basic_rotation" is not between -360.0 and 360.0)"},
           Row{R"({"basic_flow_jitter":1e300})",
               R"("basic_flow_jitter" is not between 0.0 and 1.0)"},
+          Row{R"({"color_color":[0,1e300,1]})",
+              R"("color_color" has a component that is no finite number)"},
           Row{R"({"basic_directional":1})", R"("basic_directional" is neither true nor false)"},
           Row{R"({"basic_space":2})", R"("basic_space" is none of the choices)"},
           Row{R"({"basic_space":4294967297})", R"("basic_space" is not a whole number)"},

@@ -6,6 +6,7 @@
 #include "host/Host.h"
 #include "host/cmfAttributeKey.h"
 #include "host/idArgument.h"
+#include "host/parseJson.h"
 #include "host/printable.h"
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/materials/ICMFManager.h"
@@ -86,14 +87,7 @@ IMaterialDescriptor& draft(Host& host, nyx::MaterialId id) {
 }
 
 nlohmann::json readValue(std::string const& text) {
-    constexpr int deepest = 64; // copying and writing a value go as deep as it is nested
-    auto const checkDepth = [](int depth, nlohmann::json::parse_event_t, nlohmann::json&) {
-        if (depth > deepest) {
-            throw CommandError("nested deeper than " + std::to_string(deepest));
-        }
-        return true;
-    };
-    nlohmann::json value = nlohmann::json::parse(text, checkDepth, false);
+    auto value = parseJson<nlohmann::json>(text);
     if (value.is_discarded()) {
         throw CommandError("\"" + text + "\" is no JSON");
     }
@@ -257,7 +251,7 @@ void apply(Host& host, Arguments& arguments) {
     if (found == drafts.end()) {
         throw CommandError("there is no draft for this material");
     }
-    auto command = std::make_unique<DescribeMaterialCommand>(handler(host), stored(host, id),
+    auto command = std::make_unique<DescribeMaterialCommand>(host.root(), stored(host, id),
                                                              std::move(found->second));
     drafts.erase(found);
     if (!host.undoStack().push(command.release())) {

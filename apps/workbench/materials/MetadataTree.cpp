@@ -1,5 +1,7 @@
 #include "workbench/materials/MetadataTree.h"
 
+#include "host/parseJson.h"
+
 #include <QHeaderView>
 #include <nlohmann/json.hpp>
 
@@ -91,8 +93,12 @@ void MetadataTree::take(QTreeWidgetItem* item) {
     if (value.is_string()) {
         value = text;
     } else {
-        nlohmann::json const read = nlohmann::json::parse(text, nullptr, false);
-        value = read.is_discarded() ? nlohmann::json(text) : read;
+        try {
+            auto const read = app::parseJson<nlohmann::json>(text);
+            value = read.is_discarded() ? nlohmann::json(text) : read;
+        } catch (app::CommandError const&) {
+            value = text;
+        }
     }
     if (changed != *metadata_) {
         emit edited(changed);
