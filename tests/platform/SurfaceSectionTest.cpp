@@ -24,7 +24,7 @@ TEST(SurfaceSection, SurfacesComeBackWithEveryTexel) {
       {"id": 3, "name": "Seat", "resolution": 100, "deleted": true, "editLayer": 1, "layers": [
         {"id": 4, "name": "Base", "background": [1, 0.5, 0, 1]},
         {"id": 9, "name": "Größe", "blend": 2, "hidden": true},
-        {"id": 2147483647, "deleted": true}]},
+        {"id": 4294967294, "deleted": true}]},
       {"id": 7, "resolution": 1, "layers": []})")),
               "");
     Painting& painting = renderer.painting();

@@ -169,6 +169,9 @@ std::string pointerToken(std::string const& key) {
 }
 
 Json parseStrictly(std::string const& text) {
+    if (auto const zero = text.find('\0'); zero != std::string::npos) { // the parser ends there
+        throw SceneFileError(lineAndColumn(text, zero + 1) + ": a zero byte");
+    }
     StrictBuilder builder(text);
     Json::sax_parse(text, &builder);
     return builder.takeResult();

@@ -149,8 +149,7 @@ nyxColor_rgba readBackground(JsonNode const& layer) {
 Surface::Layer readLayer(JsonNode const& node, int resolution) {
     node.checkObject({"id", "name", "blend", "deleted", "hidden", "background", "tiles"});
     LayerInfo info;
-    // Ids go up by one for each new layer, and the highest numbers say "none".
-    info.id = node.member("id").word(0, 0x7FFFFFFF);
+    info.id = node.member("id").word(0, 0xFFFFFFFE); // the highest one says "none"
     if (auto const name = node.find("name")) {
         info.name = name->text();
     }
