@@ -126,6 +126,13 @@
             <numerusform>%n davon auf deckendes sRGB beschnitten.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n colours could not be made.</source>
+        <translation>
+            <numerusform>%n Farbe konnte nicht angelegt werden.</numerusform>
+            <numerusform>%n Farben konnten nicht angelegt werden.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ParameterEdit</name>

@@ -126,6 +126,13 @@
             <numerusform>%n of them were cut to opaque sRGB.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n colours could not be made.</source>
+        <translation>
+            <numerusform>%n colour could not be made.</numerusform>
+            <numerusform>%n colours could not be made.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ParameterEdit</name>

@@ -119,6 +119,10 @@ PaletteCounts bringIn(zsg::ISceneGraph& root, ZUndoStack& undoStack, Palette con
         } else {
             ZColorExt color(ZColor(linearOf(entry.sRGB, 1), name));
             db.pushColor(color);
+            if (!color.getId().isValid()) {
+                ++counts.lost;
+                continue;
+            }
             ++counts.added;
         }
         there.note(name, entry.sRGB);

@@ -34,6 +34,7 @@ struct PaletteCounts {
     std::size_t added = 0;
     std::size_t changed = 0;
     std::size_t there = 0; ///< with that name and value, or kept
+    std::size_t lost = 0;  ///< the renderer made no record of them
 };
 
 /// Brings a palette into the scene. One that is there with name and value does not come again. A

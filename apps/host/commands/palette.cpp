@@ -70,6 +70,9 @@ void load(Host& host, Arguments& arguments) {
         return nlohmann::ordered_json{
             {"added", counts.added}, {"changed", counts.changed}, {"there", counts.there}};
     });
+    if (counts.lost > 0) {
+        throw CommandError(counted(counts.lost, "colour", "colours") + " could not be made");
+    }
 }
 
 void save(Host& host, Arguments& arguments) {

@@ -88,6 +88,9 @@ void importPalette(Scene& scene, QString const& path, app::PaletteHeader& header
     if (counts.there > 0) {
         parts += Text::tr("%n colours were there.", nullptr, int(counts.there));
     }
+    if (counts.lost > 0) {
+        parts += Text::tr("%n colours could not be made.", nullptr, int(counts.lost));
+    }
     scene.flush();
     scene.say(parts.isEmpty() ? Text::tr("The palette has no colours.") : parts.join(' '));
 }
