@@ -7,10 +7,13 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <clocale>
 #include <cstdio>
 #include <cwchar>
 #include <exception>
 #include <histedit.h>
+#include <langinfo.h>
+#include <string_view>
 #include <unistd.h>
 
 namespace {
@@ -67,9 +70,7 @@ void printColumns(std::FILE* out, std::vector<std::string> const& choices, std::
 class LineEditor::Impl {
 public:
     explicit Impl(Complete complete)
-        : complete_(std::move(complete)),
-          history_(history_init()),
-          edit_(el_init("zsg-console", stdin, stdout, stderr)) {
+        : complete_(std::move(complete)), history_(history_init()), edit_(begin()) {
         HistEvent event;
         history(history_.get(), &event, H_SETSIZE, static_cast<int>(HistoryFile::mostLines));
         history(history_.get(), &event, H_SETUNIQUE, 1); // a line twice in a row counts once
@@ -118,6 +119,14 @@ public:
     }
 
 private:
+    static EditLine* begin() {
+        // Commands are UTF-8 wherever; in another locale the editor would drop typed letters.
+        if (std::string_view(nl_langinfo(CODESET)) != "UTF-8") {
+            std::setlocale(LC_CTYPE, "C.UTF-8");
+        }
+        return el_init("zsg-console", stdin, stdout, stderr);
+    }
+
     static Impl& of(EditLine* edit) {
         void* self = nullptr;
         el_get(edit, EL_CLIENTDATA, &self);
@@ -144,8 +153,10 @@ private:
             }
             std::size_t const length = std::mbrtowc(character, &byte, 1, &state);
             if (length == static_cast<std::size_t>(-1)) {
-                state = {}; // no character of the locale
-            } else if (length != static_cast<std::size_t>(-2)) {
+                *character = L'\uFFFD'; // no character of the locale: not to be lost unseen
+                return 1;
+            }
+            if (length != static_cast<std::size_t>(-2)) {
                 return 1;
             }
         }

@@ -78,7 +78,7 @@ std::optional<int> readOptions(Options& options) {
         int const code = parser.exit(error, out, errors);
         std::cout << app::printableLines(out.view());
         std::cerr << app::printableLines(errors.view());
-        return code == 0 ? 0 : 1;
+        return code == 0 && std::cout.flush() ? 0 : 1;
     }
     options.hasScript = script->count() != 0;
     options.check = check->parsed();

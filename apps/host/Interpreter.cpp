@@ -109,6 +109,10 @@ int Interpreter::runScript(std::istream& in, std::string const& name, bool keepG
             break;
         }
         ++number;
+        constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+        if (number == 1 && line.starts_with(byteOrderMark)) {
+            line.erase(0, byteOrderMark.size());
+        }
         try {
             if (result == ReadResult::TooLong) {
                 throw CommandError("the line is longer than " + std::to_string(longestLine) +

@@ -38,6 +38,7 @@ protected:
         if (process == 0) {
             setenv("TERM", "dumb", 1);
             setenv("NO_COLOR", "1", 1);
+            setenv("LC_ALL", "C", 1); // as in a container
             setenv("XDG_STATE_HOME", folder.path().toUtf8().constData(), 1);
             std::string const scene = sourceDir() + "/examples/scenes/showroom.json";
             execl(ZSG_CONSOLE, "zsg-console", scene.c_str(), nullptr);
@@ -133,7 +134,7 @@ TEST_F(TerminalTest, CtrlCEndsACommandOrALineButNotTheProcess) {
 
 TEST_F(TerminalTest, UnsavedEditsAreAskedAboutAndLinesAreRemembered) {
     start();
-    type("color name Teal \"Pet rol\"\n", "ColorSynced 29");
+    type("color name Teal \"Pet röl\"\n", "ColorSynced 29");
     type("quit\n", "not saved");
     type("\x03", "zsg> "); // Ctrl-C is no
     type("quit\n", "[y/N] ");
@@ -144,7 +145,7 @@ TEST_F(TerminalTest, UnsavedEditsAreAskedAboutAndLinesAreRemembered) {
     type(save, "zsg> ");
     type("\x04", "\n");
     EXPECT_EQ(end(), 0) << "saved, so nothing is asked";
-    EXPECT_EQ(history(), "color name Teal \"Pet rol\"\nquit\n" + save) << "no answers";
+    EXPECT_EQ(history(), "color name Teal \"Pet röl\"\nquit\n" + save) << "no answers";
 
     start();
     type("\x1B[A", "scene save "); // the last line
