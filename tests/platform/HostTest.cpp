@@ -9,6 +9,7 @@
 #include "zsg/painting/IPainterManager.h"
 #include "zsg/painting/IPainterSurface.h"
 
+#include "nyxembedded/Painting.h"
 #include "zcore/ZUndoCommand.h"
 
 #include <QTemporaryDir>
@@ -17,6 +18,8 @@
 #include <algorithm>
 #include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
 using nyx::embedded::Host;
 
@@ -108,6 +111,39 @@ TEST(Host, DoesNotPullTheRootFromUnderWhoUsesIt) {
     }
     EXPECT_NE(fromMessage, "");
     EXPECT_EQ(host.loadSceneText(oneColor), "");
+}
+
+TEST(Host, NamesTheLayerThatIsMeantWhileOthersMove) {
+    Host host(nyx::embedded::RenderTaskQueue::Mode::Manual); // whose tasks wait until asked for
+    zsg::IPainter& painter = *host.root().painterManager()->painter();
+    nyx::SurfaceId const id = painter.createSurface(64);
+    zsg::IPainterSurface& surface = *painter.surface(id);
+    auto const names = [](auto const& layers) {
+        std::vector<std::string> list;
+        for (auto const& layer : layers) {
+            list.emplace_back(layer.name);
+        }
+        return list;
+    };
+    auto const agree = [&] {
+        host.taskQueue().waitIdle();
+        auto inRenderer = names(host.renderer().painting().surface(id)->layers);
+        std::ranges::reverse(inRenderer);
+        EXPECT_EQ(names(surface.layers()), inRenderer);
+    };
+    surface.setLayerName(0, "Base");
+    surface.addLayer(0);
+    surface.addLayer(0);
+    host.undoStack().beginMacro("Rename and move");
+    surface.setLayerName(2, "Ground");
+    surface.moveLayer(2, 0);
+    surface.setLayerName(0, "Top");
+    host.undoStack().endMacro({});
+    agree();
+    host.undoStack().undo();
+    agree();
+    host.undoStack().redo();
+    agree();
 }
 
 TEST(Host, SavesWhatTheRenderThreadStillHasToDo) {

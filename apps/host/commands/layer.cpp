@@ -87,8 +87,6 @@ void name(Host& host, Arguments& arguments) {
     unsigned const layer = takePaintLayer(host, arguments);
     std::string const text = arguments.word("a name");
     arguments.done();
-    // The renderer is told at once, and so has to have the layer where the list has it.
-    host.taskQueue().waitIdle();
     currentSurface(host).setLayerName(layer, QString::fromStdString(text));
 }
 

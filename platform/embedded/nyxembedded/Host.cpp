@@ -3,6 +3,7 @@
 #include "zsg/core/ISceneGraph.h"
 #include "zsg/core/SceneGraphPars.h"
 
+#include "nyxembedded/Painting.h"
 #include "nyxrender/nyxMessage.h"
 
 #include <utility>
@@ -14,11 +15,14 @@ public:
     Impl(RenderTaskQueue::Mode mode, zsg::IMaterialService* materialService)
         : tasks(mode), service(materialService) {
         buildRoot();
+        renderer.painting().setTaskBarrier([this] { tasks.waitIdle(); });
         renderer.setMessageHandler([this](nyxMessage const& message) { forward(message); });
     }
     ~Impl() {
         renderer.setMessageHandler({});
         endRoot();
+        tasks.waitIdle();
+        renderer.painting().setTaskBarrier({});
     }
     Impl(Impl const&) = delete;
     Impl& operator=(Impl const&) = delete;
@@ -114,7 +118,7 @@ std::string Host::loadSceneText(std::string const& json) {
 std::string Host::saveScene(std::string const& path) {
     impl_->tasks.waitIdle();
     std::string message = impl_->renderer.saveScene(path);
-    if (message.empty()) {
+    if (message.empty() && impl_->tasks.pending() == 0) {
         impl_->undoStack.setClean();
     }
     return message;

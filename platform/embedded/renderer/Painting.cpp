@@ -51,4 +51,8 @@ Image Painting::composite(nyx::SurfaceId id) const {
     return nyx::embedded::composite(shown.layers, shown.resolution, {0, 0, across, across});
 }
 
+void Painting::setTaskBarrier(std::function<void()> barrier) {
+    surfaces_.setTaskBarrier(std::move(barrier));
+}
+
 } // namespace nyx::embedded

@@ -40,9 +40,11 @@ void Surface::insert(std::size_t index, Layer layer) {
     layers_.insert(layers_.begin() + static_cast<std::ptrdiff_t>(index), inserted);
 }
 
-void Surface::belongTo(StringPool& strings, Journal& journal) {
+void Surface::belongTo(StringPool& strings, Journal& journal,
+                       std::function<void()> const& barrier) {
     strings_ = &strings;
     journal_ = &journal;
+    barrier_ = &barrier;
 }
 
 nyx::SurfaceId Surface::id() const { return id_; }
@@ -153,6 +155,9 @@ void Surface::set_layer_visible(std::uint32_t index, bool visible) {
 }
 
 void Surface::set_layer_name(std::uint32_t index, char const* name) {
+    if (*barrier_) {
+        (*barrier_)();
+    }
     journal_->write("set_layer_name", id_, index, name);
     Guard const guard(mutex_);
     if (Layer* const layer = at(index)) {

@@ -7,6 +7,7 @@
 #include "nyxembedded/SurfaceInfo.h"
 #include "nyxrender/nyxCustomSurface.h"
 
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -37,8 +38,9 @@ public:
     /// One whose layers are given, as a scene file tells them.
     Surface(SurfaceInfo const& info, std::vector<Layer> layers);
 
-    /// Where texts live that are handed out and calls are noted. Called before anything else.
-    void belongTo(StringPool& strings, Journal& journal);
+    /// Where texts live that are handed out and calls are noted, and what is called before a layer
+    /// is named, unless it is empty. All are borrowed. Called before anything else.
+    void belongTo(StringPool& strings, Journal& journal, std::function<void()> const& barrier);
 
     [[nodiscard]] nyx::SurfaceId id() const override;
     [[nodiscard]] bool deleted() const override;
@@ -84,6 +86,7 @@ private:
     std::string const name_;
     StringPool* strings_ = nullptr;
     Journal* journal_ = nullptr;
+    std::function<void()> const* barrier_ = nullptr;
 
     mutable std::mutex mutex_; // over what follows
     int resolution_;

@@ -15,7 +15,7 @@ nyx::SurfaceId Surfaces::create(std::string name, int resolution) {
     }
     nyx::SurfaceId const id(nextId_++);
     auto made = std::make_unique<Surface>(id, std::move(name), resolution);
-    made->belongTo(strings_, journal_);
+    made->belongTo(strings_, journal_, barrier_);
     surfaces_.emplace(id.toUint(), std::move(made));
     return id;
 }
@@ -23,7 +23,7 @@ nyx::SurfaceId Surfaces::create(std::string name, int resolution) {
 void Surfaces::add(SurfaceInfo const& info, std::vector<Surface::Layer> layers) {
     Guard const guard(mutex_);
     auto made = std::make_unique<Surface>(info, std::move(layers));
-    made->belongTo(strings_, journal_);
+    made->belongTo(strings_, journal_, barrier_);
     surfaces_.emplace(info.id.toUint(), std::move(made));
     nextId_ = std::max(nextId_, info.id.toUint() + 1);
 }
@@ -62,7 +62,7 @@ void Surfaces::takeContents(Surfaces& fresh) {
     }
     surfaces_ = std::exchange(fresh.surfaces_, {});
     for (auto const& [id, surface] : surfaces_) {
-        surface->belongTo(strings_, journal_);
+        surface->belongTo(strings_, journal_, barrier_);
     }
     nextId_ = std::max(nextId_, fresh.nextId_);
 }

@@ -3,10 +3,12 @@
 #include "store/Surface.h"
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace nyx::embedded {
@@ -28,6 +30,8 @@ public:
     [[nodiscard]] std::vector<Surface*> all() const;
     [[nodiscard]] nyx::SurfaceId nextId() const;
     void skipIdsBelow(nyx::SurfaceId id);
+    /// Called before a layer is named.
+    void setTaskBarrier(std::function<void()> barrier) { barrier_ = std::move(barrier); }
 
     /// Takes over the surfaces of `fresh`, which is left with none.
     void takeContents(Surfaces& fresh);
@@ -35,6 +39,7 @@ public:
 private:
     StringPool& strings_;
     Journal& journal_;
+    std::function<void()> barrier_;
     mutable std::mutex mutex_; // over what follows
     std::map<std::uint32_t, std::unique_ptr<Surface>> surfaces_;
     std::vector<std::unique_ptr<Surface>> retired_;

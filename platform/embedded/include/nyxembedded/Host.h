@@ -53,9 +53,9 @@ public:
     [[nodiscard]] std::string loadSceneText(std::string const& json);
 
     /// Writes the scene when the render tasks have run out, so with everything that was painted;
-    /// while the queue is paused they stay, and what waits there is left out. Then the present
-    /// state is the undo stack's saved one. On failure the result is a message for people, and file
-    /// and stack stay as they were.
+    /// while the queue is paused they stay, and what waits there is left out. When nothing was left
+    /// out, the present state is the undo stack's saved one. On failure the result is a message for
+    /// people, and file and stack stay as they were.
     [[nodiscard]] std::string saveScene(std::string const& path);
     /// What saveScene() would write; the state does not count as saved.
     [[nodiscard]] std::string saveSceneText();

@@ -8,6 +8,7 @@
 #include "nyxrender/Ids.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -42,6 +43,11 @@ public:
     /// with its background and blend mode. Empty for an unknown surface. Where the surface is
     /// marked as deleted the picture is what it would be.
     [[nodiscard]] Image composite(nyx::SurfaceId id) const;
+
+    /// `barrier` is called before a layer is named, on the thread that names it. Names are written
+    /// at once and by place, while tasks that add or move layers may still wait; a host lets them
+    /// run out first (Host does). To be set while no task runs; empty for none.
+    void setTaskBarrier(std::function<void()> barrier);
 
 private:
     friend class SurfacePicture;
