@@ -15,7 +15,7 @@ using nyx::embedded::LayerPixels;
 using nyx::embedded::PixelTile;
 using nyx::embedded::TileHandle;
 
-/// What the tasks work on, all on the render thread but for the count of bytes.
+/// What the tasks work on, all on the render thread but for what is atomic.
 class PaintCommand::Edit {
 public:
     Edit(nyx::embedded::Painting& painting, nyx::SurfaceId surface, std::uint32_t layer,
@@ -42,10 +42,10 @@ public:
         }
         LayerPixels after = *before;
         paint(after);
-        resolution_ = after.resolution();
-        if (resolution_ != before->resolution()) {
+        if (after.resolution() != before->resolution()) {
             return; // painting does not change the size
         }
+        resolution_ = after.resolution();
         std::size_t kept = 0;
         for (int row = 0; row < after.tilesAcross(); ++row) {
             for (int column = 0; column < after.tilesAcross(); ++column) {
@@ -59,6 +59,12 @@ public:
         }
         bytes = kept;
         painting_.setPixels(surface_, layer_, std::move(after));
+    }
+    /// Whether what is kept has another size than the surface. On any thread.
+    [[nodiscard]] bool isOutgrown() const {
+        int const kept = resolution_; // 0 until the render thread has painted
+        auto const now = painting_.surface(surface_);
+        return kept != 0 && now && now->resolution != kept;
     }
     void putBack() { put(&Tile::before); }
     void putAgain() { put(&Tile::after); }
@@ -87,7 +93,7 @@ private:
     std::uint32_t layer_;
     Paint paint_;
     Before before_;
-    int resolution_ = 0;
+    std::atomic<int> resolution_ = 0;
     std::vector<Tile> tiles_;
 };
 
@@ -121,11 +127,17 @@ PaintCommand::PaintCommand(QString const& text, nyx::embedded::Painting& paintin
 PaintCommand::~PaintCommand() = default;
 
 bool PaintCommand::redo() {
+    if (edit_->isOutgrown()) {
+        return false;
+    }
     queue(std::exchange(isPainted_, true) ? &Edit::putAgain : &Edit::paint);
     return true;
 }
 
 bool PaintCommand::undo() {
+    if (edit_->isOutgrown()) {
+        return false;
+    }
     queue(&Edit::putBack);
     return true;
 }

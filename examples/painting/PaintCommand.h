@@ -17,7 +17,7 @@ namespace example {
 /// library has queued. The first task keeps the tiles that it changed, before and after; undo and
 /// redo put those back and leave every other tile alone.
 ///
-/// A surface whose resolution has changed since is left as it is.
+/// A surface whose resolution has changed since is left as it is, and undo and redo fail.
 class PaintCommand final : public ZUndoCommand {
 public:
     /// Changes the pixels of a layer; called once, on the render thread.

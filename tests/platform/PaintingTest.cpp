@@ -112,6 +112,19 @@ TEST_F(PaintCommandTest, undoPutsBackTheTilesThatAStrokeChanged) {
 }
 
 // A picture that is kept by parts, through all that changes what a surface looks like.
+TEST_F(PaintCommandTest, saysThatAnotherResolutionHasLostWhatItKept) {
+    undo.push(command(dot(30, 30, 10)).release());
+    undo.push(command(dot(60, 60, 10)).release());
+    EXPECT_TRUE(undo.undo());
+    queue.waitIdle();
+    nyxPainter* const painter = nyx_painter_factory(renderer.scene())->create("svdag_painter");
+    ASSERT_TRUE(painter->change_resolution(renderer.scene(), id, 128));
+    LayerPixels const before = pixels();
+    EXPECT_FALSE(undo.redo());
+    EXPECT_FALSE(undo.goTo(0));
+    EXPECT_TRUE(pixels() == before);
+}
+
 TEST_F(PaintCommandTest, strokesThatWereSeenWhileMadeAndThePictureOfAllThat) {
     undo.push(command(dot(130, 30, 10)).release());
     LayerPixels const one = pixels();
