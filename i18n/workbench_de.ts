@@ -702,6 +702,10 @@
         <source>Switch back (%1)</source>
         <translation>Zurückschalten (%1)</translation>
     </message>
+    <message>
+        <source>It lists a multi-colour that is gone. Nothing was switched.</source>
+        <translation>Sie führt eine Mehrfachfarbe auf, die es nicht mehr gibt. Nichts wurde umgeschaltet.</translation>
+    </message>
 </context>
 <context>
     <name>workbench::ConsolePanel</name>

@@ -702,6 +702,10 @@
         <source>Switch back (%1)</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>It lists a multi-colour that is gone. Nothing was switched.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>workbench::ConsolePanel</name>

@@ -180,7 +180,13 @@ void toggle(Host& host, Arguments& arguments) {
     nyx::ColorId const id = takeColor(host, arguments);
     arguments.done();
     try {
-        printColor(host, controller(host).toggleMultiColor(id), "nothing was changed");
+        int const before = host.undoStack().index();
+        nyx::ColorId const result = controller(host).toggleMultiColor(id);
+        if (!result.isValid() && host.undoStack().index() != before) {
+            host.out() << "  it is no multi-colour any more, and showed none that is left\n";
+            return;
+        }
+        printColor(host, result, "nothing was changed");
     } catch (std::bad_optional_access const&) {
         throw CommandError("the colour has no name and there is none to be had");
     }

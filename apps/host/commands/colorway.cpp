@@ -90,6 +90,17 @@ void create(Host& host, Arguments& arguments) {
 void apply(Host& host, Arguments& arguments) {
     nyx::ColorwayId const id = takeColorway(host, arguments);
     arguments.done();
+    // A switch would end at the first one, with what lies before it switched and no entry for it.
+    zsg::ColorDB& db = *host.root().colorDB();
+    if (auto const* const edit = db.getColorwayParameters(id)) {
+        for (zsg::MultiColorPair const& pair : edit->pairs()) {
+            if (!db.getColorParameters(pair.multiColor)) {
+                throw CommandError("it lists the colour " +
+                                   std::to_string(pair.multiColor.toUint()) +
+                                   ", which is gone; nothing was switched");
+            }
+        }
+    }
     controller(host).applyColorway(id);
 }
 

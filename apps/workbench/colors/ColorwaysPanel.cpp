@@ -163,6 +163,12 @@ void ColorwaysPanel::apply() {
         return;
     }
     if (!edit->isActive()) {
+        for (zsg::MultiColorPair const& pair : edit->pairs()) {
+            if (!scene_.colorDB()->getColorParameters(pair.multiColor)) {
+                scene_.say(tr("It lists a multi-colour that is gone. Nothing was switched."));
+                return;
+            }
+        }
         scene_.endDrags();
         scene_.colorController()->applyColorway(current());
         return;
