@@ -67,6 +67,9 @@ std::vector<std::string> lintIOR(std::string const& text, std::string const& ext
     std::istringstream in(text);
     for (std::string line; std::getline(in, line);) {
         ++number;
+        if (number == 1 && line.starts_with("\xEF\xBB\xBF")) {
+            say("begins with a byte order mark, and is not read");
+        }
         if (line.ends_with('\r')) {
             line.pop_back();
         }

@@ -167,6 +167,10 @@ TEST(IORLint, EachKindOfTroubleIsNamedAtItsFirstPlace) {
     EXPECT_THAT(app::lintIOR("0.4,1.5,0\n0.7,1.5,0\n", "csv"),
                 ElementsAre(HasSubstr("micrometres")));
     EXPECT_THAT(app::lintIOR("400,1.5,0\n", "csv"), ElementsAre());
+    EXPECT_THAT(app::lintIOR("\xEF\xBB\xBF"
+                             "400,1.5,0\n",
+                             "csv"),
+                ElementsAre(HasSubstr("byte order mark")));
 }
 
 } // namespace

@@ -130,7 +130,11 @@ void lint(Host& host, Arguments& arguments) {
     if (extension != "nk" && extension != "ior" && extension != "csv") {
         throw CommandError(path + ": has none of the extensions nk, ior, csv; nothing is read");
     }
-    auto const findings = lintIOR(text, extension);
+    auto findings = lintIOR(text, extension);
+    FloatArray triples;
+    if (!zsg::loadIORFile(path, triples)) {
+        findings.emplace_back("it holds no samples and does not load");
+    }
     for (std::string const& finding : findings) {
         host.out() << "  " << finding << '\n';
     }
