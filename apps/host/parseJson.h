@@ -10,13 +10,16 @@
 namespace app {
 
 /// Reads JSON that comes from outside. Throws CommandError "bad-json" when it is nested deeper than
-/// 64, because copying, writing and comparing a value go as deep, and for a zero byte, behind which
-/// the parser would not look. A text that is no JSON gives a discarded value, or throws
-/// nlohmann::json::parse_error when asked to.
+/// 64, because copying, writing and comparing a value go as deep. A text that is no JSON gives a
+/// discarded value, or throws when asked to: nlohmann::json::parse_error, or CommandError for a
+/// zero byte, behind which the parser would not look.
 template <class Json>
 [[nodiscard]] Json parseJson(std::string_view text, bool throws = false) {
     if (text.find('\0') != std::string_view::npos) {
-        throw CommandError("holds a zero byte", "bad-json");
+        if (throws) {
+            throw CommandError("holds a zero byte", "bad-json");
+        }
+        return Json(Json::value_t::discarded);
     }
     auto const checkDepth = [](int depth, typename Json::parse_event_t, Json&) {
         constexpr int deepest = 64;
