@@ -11,6 +11,8 @@
 #include <QSignalBlocker>
 #include <QToolButton>
 
+#include <limits>
+
 namespace workbench {
 
 using zsg::Type;
@@ -35,6 +37,7 @@ TextField::TextField(Type type, QWidget* parent) : ValueField(parent) {
         return;
     }
     line_ = new QLineEdit(this);
+    line_->setMaxLength(std::numeric_limits<int>::max()); // lists of numbers are long
     layout->addWidget(line_, 1);
     setFocusProxy(line_);
     connect(line_, &QLineEdit::editingFinished, this, &TextField::commit);
