@@ -195,6 +195,7 @@ bool ValueStore::add(Key const& key, Value const& value) {
         return false;
     }
     scene_.endDrags();
+    items_.erase(key); // of one that had the name before
     auto const& shelf = shelves_[static_cast<std::size_t>(key.kind)];
     scene_.undoStack().push(std::make_unique<NameValue>(shelf, key.name, value).release());
     return true;
