@@ -116,7 +116,9 @@ TEST_F(PaintTest, AStrokeIsSeenWhileItIsMadeAndIsOneEntryOfTheSamePixels) {
 TEST_F(PaintTest, APenPaintsByItsPressureAndItsOtherEndErases) {
     run("brush set basic_size_pen_pressure on");
     run("brush apply");
+    find<QComboBox>("brushPresets").setFocus();
     pen(QEvent::TabletPress, at(40, 128), 0.5);
+    EXPECT_TRUE(view().hasFocus()) << "Escape has to reach it";
     // What the system makes of the pen for programs that know mice only.
     QTest::mousePress(&view(), Qt::LeftButton, {}, at(128, 30));
     QTest::mouseMove(&view(), at(128, 220));

@@ -224,6 +224,7 @@ void PaintView::tabletEvent(QTabletEvent* event) {
     switch (event->type()) {
     case QEvent::TabletPress:
         if (event->button() == Qt::LeftButton) {
+            setFocus(Qt::MouseFocusReason); // which a pen does not bring along
             isPenDown_ = true;
             bool const isOtherEnd = event->pointerType() == QPointingDevice::PointerType::Eraser;
             begin(event->position(), event->pressure(),
@@ -237,9 +238,11 @@ void PaintView::tabletEvent(QTabletEvent* event) {
         }
         break;
     case QEvent::TabletRelease:
-        isPenDown_ = false;
-        if (stroke_) {
-            stroke_->end();
+        if (event->button() == Qt::LeftButton) { // not those of the barrel
+            isPenDown_ = false;
+            if (stroke_) {
+                stroke_->end();
+            }
         }
         break;
     default:
