@@ -378,6 +378,10 @@
         <source>The preset is kept.</source>
         <translation>Die Vorgabe ist gesichert.</translation>
     </message>
+    <message>
+        <source>There is a preset of that name. Replace it?</source>
+        <translation>Es gibt schon eine Vorgabe mit diesem Namen. Ersetzen?</translation>
+    </message>
 </context>
 <context>
     <name>workbench::CMFForm</name>

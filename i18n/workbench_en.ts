@@ -378,6 +378,10 @@
         <source>The preset is kept.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>There is a preset of that name. Replace it?</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>workbench::CMFForm</name>

@@ -14,6 +14,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QResizeEvent>
 #include <QStandardPaths>
 #include <QVBoxLayout>
@@ -68,6 +69,7 @@ BrushPanel::BrushPanel(Scene& scene, Canvas& canvas, QWidget* parent)
     connect(&scene, &Scene::rootEnding, this, [this] {
         rows_->clear();
         brush_.reset();
+        presets_->setCurrentIndex(-1);
     });
 }
 
@@ -116,7 +118,14 @@ void BrushPanel::savePreset() {
         return scene_.say(tr("The name of a preset cannot have a slash or begin with a dot."));
     }
     QDir().mkpath(ownFolder());
-    QString const why = canvas_.saveBrush(ownFolder() + '/' + name + ".json");
+    QString const path = ownFolder() + '/' + name + ".json";
+    if (QFileInfo::exists(path) &&
+        QMessageBox::question(this, tr("Save as Preset"),
+                              tr("There is a preset of that name. Replace it?")) !=
+            QMessageBox::Yes) {
+        return;
+    }
+    QString const why = canvas_.saveBrush(path);
     scene_.say(why.isEmpty() ? tr("The preset is kept.") : why);
     listPresets();
     presets_->setCurrentText(name);
