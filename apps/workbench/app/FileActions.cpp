@@ -1,6 +1,7 @@
 #include "workbench/app/FileActions.h"
 
 #include "workbench/app/Document.h"
+#include "workbench/scene/commitTyping.h"
 
 #include <QAction>
 #include <QApplication>
@@ -66,6 +67,7 @@ bool FileActions::save() {
 }
 
 bool FileActions::saveAs(QString const& path) {
+    commitTyping();
     if (!mayReplace(path)) {
         return false;
     }
@@ -96,6 +98,7 @@ bool FileActions::mayReplace(QString const& path) {
 }
 
 bool FileActions::mayLeave() {
+    commitTyping();
     document_.scene().endDrags();
     if (document_.isModified()) {
         auto const answer = QMessageBox::question(

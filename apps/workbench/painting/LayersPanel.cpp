@@ -35,6 +35,11 @@ public:
         for (int mode = 0; mode < PaintLayerModel::modes; ++mode) {
             box->addItem(PaintLayerModel::modeName(static_cast<nyx::ColorBlendMode>(mode)));
         }
+        // What is seen chosen counts, before anything else is done.
+        connect(box, &QComboBox::activated, this, [self = const_cast<ModeDelegate*>(this), box] {
+            emit self->commitData(box);
+            emit self->closeEditor(box);
+        });
         return box;
     }
     void setEditorData(QWidget* editor, QModelIndex const& index) const override {

@@ -1,5 +1,7 @@
 #include "workbench/scene/Panel.h"
 
+#include "workbench/scene/commitTyping.h"
+
 #include <QAction>
 #include <QLayout>
 #include <QToolButton>
@@ -17,6 +19,7 @@ QAction* Panel::makeAction(QString const& text, char const* name, QKeySequence c
     if (bar) {
         auto* const button = new QToolButton(this);
         button->setDefaultAction(action);
+        connect(button, &QToolButton::pressed, this, &commitTyping); // it takes no focus
         bar->addWidget(button);
     }
     return action;

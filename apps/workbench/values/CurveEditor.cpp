@@ -1,5 +1,6 @@
 #include "workbench/values/CurveEditor.h"
 
+#include "workbench/scene/commitTyping.h"
 #include "workbench/values/CurvePlot.h"
 #include "workbench/values/NumberSpin.h"
 #include "workbench/values/parameterValue.h"
@@ -49,6 +50,9 @@ CurveEditor::CurveEditor(QWidget* parent)
     auto* const remove = new QToolButton(this);
     remove->setText(tr("Remove Key"));
     connect(remove, &QToolButton::clicked, plot_, &CurvePlot::removeCurrent);
+    for (QToolButton* const button : {add, remove}) {
+        connect(button, &QToolButton::pressed, this, &commitTyping);
+    }
     bar->addWidget(add);
     bar->addWidget(remove);
     auto* const layout = new QVBoxLayout(this);

@@ -1,5 +1,6 @@
 #include "workbench/values/GradientEditor.h"
 
+#include "workbench/scene/commitTyping.h"
 #include "workbench/values/ColorField.h"
 #include "workbench/values/GradientStrip.h"
 #include "workbench/values/NumberSpin.h"
@@ -31,6 +32,9 @@ GradientEditor::GradientEditor(QWidget* parent)
     auto* const remove = new QToolButton(this);
     remove->setText(tr("Remove Stop"));
     connect(remove, &QToolButton::clicked, strip_, &GradientStrip::removeCurrent);
+    for (QToolButton* const button : {add, remove}) {
+        connect(button, &QToolButton::pressed, this, &commitTyping);
+    }
     auto* const bar = new QHBoxLayout;
     bar->addWidget(add);
     bar->addWidget(remove);

@@ -2,6 +2,7 @@
 
 #include "workbench/scene/expression.h"
 
+#include <QLineEdit>
 #include <QSignalBlocker>
 
 #include <charconv>
@@ -39,9 +40,13 @@ NumberSpin::NumberSpin(Kind kind, QWidget* parent) : ExpressionSpin(parent), kin
         setSingleStep(0.1);
     }
     setAccelerated(true);
+    connect(this, &NumberSpin::editingFinished, this, [this] { lineEdit()->setModified(false); });
 }
 
 void NumberSpin::showNumber(double number, bool mixed) {
+    if (hasFocus() && lineEdit()->isModified()) {
+        return; // somebody is typing, and says when it is done
+    }
     QSignalBlocker const quiet(this);
     first_ = number;
     setSpecialValueText(mixed ? tr("mixed") : QString());

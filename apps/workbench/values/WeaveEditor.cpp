@@ -1,6 +1,7 @@
 #include "workbench/values/WeaveEditor.h"
 
 #include "workbench/scene/ExpressionSpin.h"
+#include "workbench/scene/commitTyping.h"
 #include "workbench/values/NumberSpin.h"
 #include "workbench/values/WeaveGrid.h"
 #include "workbench/values/parameterValue.h"
@@ -160,6 +161,7 @@ void WeaveEditor::makeGenerator(QGridLayout& layout) {
     auto* const make = new QToolButton(this);
     make->setObjectName("weaveMake");
     make->setText(tr("Make"));
+    connect(make, &QToolButton::pressed, this, &commitTyping);
     connect(make, &QToolButton::clicked, this, &WeaveEditor::generate);
     layout.addWidget(generator_, 0, 0);
     layout.addWidget(first_, 0, 1);
@@ -181,6 +183,7 @@ void WeaveEditor::makeSize(QGridLayout& layout) {
     connect(wefts_, &QDoubleSpinBox::valueChanged, this, resize);
     auto* const invert = new QToolButton(this);
     invert->setText(tr("Invert"));
+    connect(invert, &QToolButton::pressed, this, &commitTyping);
     connect(invert, &QToolButton::clicked, this, [this] {
         WeavePattern weave = grid_->weave();
         weave.invert();
