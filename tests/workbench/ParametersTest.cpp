@@ -158,6 +158,23 @@ TEST_F(ParametersTest, AnEditIsOneEntryAndOnlyAnEditIsOne) {
     EXPECT_FALSE(binding->isChanged());
 }
 
+TEST_F(ParametersTest, OfSeveralVectorsOnlyWhatIsTouchedBecomesTheSame) {
+    run("value new first Float3 1 2 3");
+    run("value new second Float3 10 20 30");
+    auto& subjects = find<QListWidget>("parameterSubjects");
+    subjects.clearSelection();
+    for (int const row : {1, 2}) {
+        subjects.item(row)->setSelected(true);
+    }
+    auto const spins = window.panel("parameters")->findChildren<NumberSpin*>();
+    ASSERT_EQ(spins.size(), 3);
+    type(*spins[0], "7");
+    EXPECT_EQ(shown("first") + shown("second"), "  Float3 <7, 2, 3>\n  Float3 <7, 20, 30>\n");
+    type(*spins[2], "-1");
+    EXPECT_EQ(shown("first") + shown("second"), "  Float3 <7, 2, -1>\n  Float3 <7, 20, -1>\n");
+    run("undo all");
+}
+
 TEST_F(ParametersTest, SeveralValuesAreEditedAsOne) {
     run("value new first Float 1.5");
     run("value new second Float 2");

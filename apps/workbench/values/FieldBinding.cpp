@@ -27,7 +27,7 @@ FieldBinding::FieldBinding(Scene& scene, ValueField& field, ParameterItems items
     connect(&field, &ValueField::pressed, this, &FieldBinding::begin);
     connect(&field, &ValueField::moved, this, [this] {
         if (drag_ && drag_->isActive()) {
-            take();
+            wanted_ = wantedNow();
             drag_->move();
         } else { // it ended under the pointer
             refresh();
@@ -36,12 +36,13 @@ FieldBinding::FieldBinding(Scene& scene, ValueField& field, ParameterItems items
     connect(&field, &ValueField::released, this, &FieldBinding::end);
     connect(&field, &ValueField::cancelled, this, &FieldBinding::cancel);
     connect(&field, &ValueField::stepped, this, [this] {
-        std::shared_ptr<zsg::Variant const> const value = field_.wanted();
+        auto wanted = wantedNow();
         if (!drag_ || !drag_->isActive()) {
+            std::shared_ptr<zsg::Variant const> const value = field_.wanted();
             begin(); // what ends by that makes the field show the value that it had
             field_.showValue(*value);
         }
-        wanted_.assign(items_.size(), value);
+        wanted_ = std::move(wanted);
         drag_->move();
         drag_->endSoon();
     });
@@ -123,8 +124,17 @@ void FieldBinding::begin() {
     connect(drag_.get(), &EditDrag::ended, this, &FieldBinding::refresh);
 }
 
-void FieldBinding::take() {
-    wanted_.assign(items_.size(), std::shared_ptr<zsg::Variant const>(field_.wanted()));
+std::vector<std::shared_ptr<zsg::Variant const>> FieldBinding::wantedNow() const {
+    std::vector<std::shared_ptr<zsg::Variant const>> wanted(items_.size(), field_.wanted());
+    bool const isGoingOn = drag_ && drag_->isActive() && wanted_.size() == items_.size();
+    for (std::size_t i = 0; items_.size() > 1 && i < items_.size(); ++i) {
+        std::shared_ptr<zsg::Variant const> const present =
+            isGoingOn ? wanted_[i] : valueOf(items_[i].parameter);
+        if (auto own = present ? field_.wantedFor(*present) : nullptr) {
+            wanted[i] = std::move(own);
+        }
+    }
+    return wanted;
 }
 
 void FieldBinding::end() {

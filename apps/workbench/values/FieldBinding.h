@@ -37,7 +37,7 @@ public:
 
 private:
     void begin();
-    void take();
+    [[nodiscard]] std::vector<std::shared_ptr<zsg::Variant const>> wantedNow() const;
     void end();
     void cancel();
     void push(EditDrag::Step step);

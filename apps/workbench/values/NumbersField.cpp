@@ -54,6 +54,7 @@ NumbersField::NumbersField(Type type, QWidget* parent)
         layout->addWidget(spin, at / columns, at % columns);
         connect(spin, &QDoubleSpinBox::valueChanged, this, [this, i](double number) {
             numbers_[i] = number;
+            touched_.insert(i);
             emit stepped();
         });
         connect(spin, &QAbstractSpinBox::editingFinished, this, &ValueField::finished);
@@ -68,24 +69,38 @@ void NumbersField::showMixed(zsg::Variant const& one) { showNumbers(one, true); 
 
 void NumbersField::showNumbers(zsg::Variant const& value, bool mixed) {
     auto const numbers = numbersOf(value);
+    touched_.clear();
     for (std::size_t i = 0; i < spins_.size() && i < numbers.size(); ++i) {
         numbers_[i] = numbers[i];
         spins_[i]->showNumber(numbers[i], mixed);
     }
 }
 
-std::unique_ptr<zsg::Variant> NumbersField::wanted() const {
-    auto const single = [this](std::size_t i) { return static_cast<float>(numbers_[i]); };
+std::unique_ptr<zsg::Variant> NumbersField::wanted() const { return valueOf(numbers_); }
+
+std::unique_ptr<zsg::Variant> NumbersField::wantedFor(zsg::Variant const& before) const {
+    auto numbers = numbersOf(before);
+    if (numbers.size() != numbers_.size()) {
+        return nullptr;
+    }
+    for (std::size_t const i : touched_) {
+        numbers[i] = numbers_[i];
+    }
+    return valueOf(numbers);
+}
+
+std::unique_ptr<zsg::Variant> NumbersField::valueOf(std::vector<double> const& numbers) const {
+    auto const single = [&numbers](std::size_t i) { return static_cast<float>(numbers[i]); };
     switch (type_) {
     case Type::Float2:
         return makeValue(nyxVector2f{single(0), single(1)});
     case Type::Float3:
         return makeValue(nyxVectorf{single(0), single(1), single(2)});
     case Type::Double3:
-        return makeValue(nyxVector{numbers_[0], numbers_[1], numbers_[2]});
+        return makeValue(nyxVector{numbers[0], numbers[1], numbers[2]});
     default: {
         nyxMatrix matrix{};
-        std::ranges::copy(numbers_, std::begin(matrix.m));
+        std::ranges::copy(numbers, std::begin(matrix.m));
         return makeValue(matrix);
     }
     }

@@ -16,6 +16,10 @@ namespace workbench {
 
 using zsg::Type;
 
+std::unique_ptr<zsg::Variant> ValueField::wantedFor(zsg::Variant const& /*before*/) const {
+    return nullptr;
+}
+
 ValueField::~ValueField() {
     // An edit that is going on ends now, and not when it hears that the widget is gone: what it
     // ends with would be shown here.

@@ -24,6 +24,9 @@ public:
     virtual void showMixed(zsg::Variant const& one) { showValue(one); }
     /// What the person wants, when one of the signals has come.
     [[nodiscard]] virtual std::unique_ptr<zsg::Variant> wanted() const = 0;
+    /// The same for one of several values, of which only a part was touched; null when all of
+    /// wanted() is meant.
+    [[nodiscard]] virtual std::unique_ptr<zsg::Variant> wantedFor(zsg::Variant const& before) const;
 
 signals:
     // A drag; the value counts with each move, and no longer when it is given up.
