@@ -1,6 +1,7 @@
 #include "workbench/scene/FlowLayout.h"
 
 #include <QStyle>
+#include <QWidget>
 
 #include <algorithm>
 #include <cstddef>
